@@ -1,0 +1,57 @@
+# shellcheck shell=bash
+# Includes follow the arrows between the rooms, and rules know no windows.
+
+source "$(dirname "${BASH_SOURCE[0]}")/findings.sh"
+
+declare -A arrows=(
+    [shell]="surface layoutfile controls recorder variables graphics platform common"
+    [surface]="controls recorder variables graphics platform common"
+    [layoutfile]="controls recorder variables graphics platform common"
+    [controls]="recorder variables graphics platform common"
+    [recorder]="variables platform common"
+    [variables]="platform common"
+    [graphics]="platform common"
+    [platform]="common"
+    [common]=""
+)
+windowless='^src/(common|platform|graphics|variables|recorder)/'
+window_folders='/(desktop|dialogs|editors)/'
+
+qt_headers=$(qmake6 -query QT_INSTALL_HEADERS 2>/dev/null) || qt_headers=
+
+is_widgets_header()
+{
+    [[ $1 == QtWidgets/* ]] || [[ -n $qt_headers && -e $qt_headers/QtWidgets/$1 && ! -e $qt_headers/QtGui/$1 ]]
+}
+
+check_room() # FILE LINE ROOM INCLUDED
+{
+    local target=${4%%/*}
+    if [[ $4 == ../* ]]; then
+        finding "$1" "$2" "$4: includes begin with the name of their room"
+    elif [[ -z ${arrows[$3]+known} ]]; then
+        finding "$1" "$2" "the room $3 has no arrows in scripts/lib/check_includes.sh"
+    elif [[ $4 == */* && -d src/$target && " $3 ${arrows[$3]} " != *" $target "* ]]; then
+        finding "$1" "$2" "no arrow runs from $3 to $target"
+    fi
+}
+
+check_windows() # FILE LINE INCLUDED
+{
+    [[ $1 =~ $windowless && ! $1 =~ $window_folders ]] || return 0
+    if is_widgets_header "$3" || [[ src/$3 =~ $windowless && $3 =~ $window_folders ]]; then
+        finding "$1" "$2" "$3 brings windows into the rules"
+    fi
+}
+
+check_includes()
+{
+    local include='^(src/([^/]+)/[^:]+):([0-9]+):[^<"]*([<"])([^>"]+)' place
+    while IFS= read -r place; do
+        [[ $place =~ $include ]] || continue
+        local file=${BASH_REMATCH[1]} room=${BASH_REMATCH[2]} line=${BASH_REMATCH[3]}
+        local bracket=${BASH_REMATCH[4]} included=${BASH_REMATCH[5]}
+        [[ $bracket == '<' ]] || check_room "$file" "$line" "$room" "$included"
+        check_windows "$file" "$line" "$included"
+    done < <(grep -rnE --include='*.cpp' --include='*.h' '^[[:space:]]*#[[:space:]]*include' src)
+}

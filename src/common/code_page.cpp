@@ -1,0 +1,50 @@
+#include "common/code_page.h"
+
+#include <algorithm>
+#include <array>
+
+namespace common {
+
+namespace {
+
+// Characters of the bytes 0x80 to 0x9F.
+constexpr std::array<char16_t, 32> HighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char toByte(char16_t unit)
+{
+    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
+        return static_cast<char>(unit);
+    const auto found = std::find(HighControls.begin(), HighControls.end(), unit);
+    return found == HighControls.end() ? '?' : static_cast<char>(0x80 + (found - HighControls.begin()));
+}
+
+} // namespace
+
+QString fromCodePage(QByteArrayView bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        if (byte >= 0x80 && byte < 0xA0)
+            text[i] = QChar(HighControls[byte - 0x80]);
+    }
+    return text;
+}
+
+QByteArray toCodePage(const QString &text)
+{
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar unit = text[i];
+        if (unit.isLowSurrogate() && i > 0 && text[i - 1].isHighSurrogate())
+            continue; // one "?" for each character outside the page
+        bytes.append(toByte(unit.unicode()));
+    }
+    return bytes;
+}
+
+} // namespace common

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace common {
+
+// The text of a settings file in the habits of profile files: sections and keys without regard to case, the
+// first of two equal keys counts, one pair of quotes round a value is stripped. Lines that are not
+// understood (comments, unknown keys) stay where they are.
+class IniFile
+{
+public:
+    // Any bytes are taken; text in the 8-bit code page.
+    static IniFile parse(const QByteArray &bytes);
+
+    // The value, or `fallback` when section or key is missing; cut at its first NUL and at bufferSize - 1
+    // characters.
+    QString read(const QString &section, const QString &key, const QString &fallback, int bufferSize) const;
+
+    // Sets the value, or removes the key when there is none. Refuses (false) a section, key or value that
+    // could not be read back: line breaks, "=" or a leading "[" or ";" in a key, "]" in a section, an empty
+    // name.
+    bool write(const QString &section, const QString &key, const std::optional<QString> &value);
+    void removeSection(const QString &section);
+
+    QByteArray bytes() const;
+
+private:
+    struct Place
+    {
+        qsizetype line;
+        bool found;
+    };
+    // The line of the key, or the line behind the section's last one.
+    std::optional<Place> find(const QString &section, const QString &key) const;
+
+    QStringList m_lines;
+};
+
+} // namespace common

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace common {
+
+// The shortest text that reads back to the same 32-bit float; from 1E+07 up and below 0.0001 with an
+// exponent of at least two digits. `decimalMark` stands between whole and fraction.
+QString shortestText(float value, const QString &decimalMark = QStringLiteral("."));
+
+// Leading-number reading: blanks are passed over, the longest prefix that is a number with "." counts, the
+// rest is ignored; 0 when there is none. "12.5px" is 12.5, "abc" is 0.
+double leadingNumber(const QString &text);
+
+} // namespace common

@@ -1,0 +1,181 @@
+#include "controls/bar_graph/bar_graph.h"
+
+#include "controls/complexity.h"
+#include "platform/guards.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace controls {
+
+using common::toInteger;
+using platform::skipFailures;
+
+namespace {
+
+constexpr float LongestBar = 255; // pixels, when dragged by a grip
+
+PropertyValue innerWidth(const ControlValues &values, const platform::Screen &screen)
+{
+    return (values.box.Width - BothFrames) / screen.tx;
+}
+
+PropertyValue innerHeight(const ControlValues &values, const platform::Screen &screen)
+{
+    return (values.box.Height - BothFrames) / screen.ty;
+}
+
+using V = BarGraphValues;
+constexpr std::array Rows{
+    property<&V::curVarID>("curVarID", "newVarID"),
+    property<&V::curBarWidth>("curBarWidth", "newBarWidth"),
+    property<&V::curColour>("curColour", "newColour"),
+    property<&V::curMin>("curMin", "newMin"),
+    property<&V::curMax>("curMax", "newMax"),
+    property<&V::curDefaultVal>("curDefaultVal", "newDefaultVal"),
+    property<&V::curBarType>("curBarType", "newBarType"),
+    property<&V::curLeft>("curLeft", "newLeft"),
+    property<&V::curTop>("curTop", "newTop"),
+    computed("curWidth", &innerWidth),
+    computed("curHeight", &innerHeight),
+    property<&V::curAlfa>("curAlfa", "newAlfa"),
+    property<&V::curColourVariable>("curColourVariable", "newColourVariable"),
+    property<&V::curColourVarMin>("curColourVarMin", "newColourVarMin"),
+    property<&V::curColourVarMax>("curColourVarMax", "newColourVarMax"),
+};
+
+constexpr std::array<std::string_view, 11> Serialised{
+    "curVarID",   "curBarWidth", "curColour",         "curMin",          "curMax",         "curDefaultVal",
+    "curBarType", "curAlfa",     "curColourVariable", "curColourVarMin", "curColourVarMax"};
+static_assert(refersToRows(Serialised, Rows));
+
+// One axis of the rule that keeps a bar on the canvas: all in pixels, `frame` being the editing frame.
+float pulledInto(float position, float outerSize, float frame, float canvas)
+{
+    return position + outerSize - frame > canvas ? canvas - outerSize + frame : position;
+}
+
+} // namespace
+
+const PropertyTable &barGraphProperties()
+{
+    static constexpr PropertyTable Table{Rows, Serialised};
+    return Table;
+}
+
+QRectF filledPart(const BarGraphValues &values, const QRectF &area)
+{
+    const double low = static_cast<double>(values.curMin);
+    const double span = static_cast<double>(values.curMax) - low;
+    if (span == 0)
+        return {};
+    const double share = std::clamp((static_cast<double>(values.curDefaultVal) - low) / span, 0.0, 1.0);
+    if (std::isnan(share))
+        return {};
+    const bool reversed = span < 0;
+    QRectF filled = area;
+    if (values.isHorizontal()) {
+        filled.setWidth(area.width() * share);
+        if (reversed)
+            filled.moveRight(area.right());
+    } else {
+        filled.setHeight(area.height() * share);
+        if (!reversed) // a vertical bar rises from its lower edge
+            filled.moveBottom(area.bottom());
+    }
+    return filled;
+}
+
+void BarGraph::AssignProperties(qint16 length)
+{
+    Box sized = box();
+    if (m_values.isHorizontal()) {
+        sized.Height = m_values.curBarWidth * screen().tx + BothFrames;
+        if (length > 0)
+            sized.Width = length * screen().tx + BothFrames;
+    } else {
+        sized.Width = m_values.curBarWidth * screen().tx + BothFrames;
+        if (length > 0)
+            sized.Height = length * screen().ty + BothFrames;
+    }
+    setBox(sized);
+    const float x = pulledInto(m_values.curLeft / screen().tx, sized.Width / screen().tx,
+                               FrameTwips / screen().tx, recorder::CanvasWidth);
+    const float y =
+        pulledInto(m_values.curTop / screen().ty, sized.Height / screen().ty, FrameTwips / screen().ty,
+                   static_cast<float>(recorder::canvasHeight(host().VideoType())));
+    m_values.curLeft = toInteger<qint16>(x * screen().tx);
+    m_values.curTop = toInteger<qint16>(y * screen().ty);
+    emit Reposition(x * screen().tx - FrameTwips, y * screen().ty - FrameTwips);
+}
+
+void BarGraph::updatePosition()
+{
+    skipFailures([&] { m_values.curLeft = toInteger<qint16>(box().Left + FrameTwips); });
+    skipFailures([&] { m_values.curTop = toInteger<qint16>(box().Top + FrameTwips); });
+}
+
+Box BarGraph::resizedBox(const Box &wanted, Handle handle) const
+{
+    Box limited = wanted;
+    if (m_values.isHorizontal()) {
+        limited.Width = std::min(wanted.Width, LongestBar * screen().tx + BothFrames);
+        if (movesLeft(handle))
+            limited.Left = wanted.right() - limited.Width;
+    } else {
+        limited.Height = std::min(wanted.Height, LongestBar * screen().ty + BothFrames);
+        if (movesTop(handle))
+            limited.Top = wanted.bottom() - limited.Height;
+    }
+    return limited;
+}
+
+void BarGraph::applyResize()
+{
+    skipFailures([&] {
+        const float thickness = m_values.isHorizontal() ? curHeight() : curWidth();
+        m_values.curBarWidth = toInteger<quint8>(thickness);
+    });
+    updatePosition();
+}
+
+void BarGraph::applyInitialProperties()
+{
+    set(BarGraphValues());
+    updatePosition();
+    m_values.curBarWidth = toInteger<quint8>(curHeight());
+}
+
+void BarGraph::nudge(int dx, int dy)
+{
+    m_values.curLeft = toInteger<qint16>(m_values.curLeft + static_cast<float>(dx) * screen().tx);
+    m_values.curTop = toInteger<qint16>(m_values.curTop + static_cast<float>(dy) * screen().ty);
+    emit Reposition(m_values.curLeft - FrameTwips, m_values.curTop - FrameTwips);
+}
+
+void BarGraph::paintInner(QPainter &painter, const QSize &size) const
+{
+    const QRectF area(QPointF(), size);
+    painter.fillRect(area, toQColor(backColour()));
+    painter.fillRect(filledPart(m_values, area), toQColor(m_values.curColour.packed()));
+}
+
+void BarGraph::paintPreview(QPainter &painter) const
+{
+    QColor colour = toQColor(m_values.curColour.packed());
+    colour.setAlpha(m_values.curAlfa);
+    const QRectF area(m_values.curLeft / screen().tx, m_values.curTop / screen().ty, curWidth(), curHeight());
+    painter.fillRect(filledPart(m_values, area), colour);
+}
+
+double BarGraph::complexity() const
+{
+    return m_values.isHorizontal() ? complexity::barGraph(m_values.curLeft, static_cast<double>(curWidth()),
+                                                          m_values.curBarWidth, screen().tx)
+                                   : complexity::barGraph(m_values.curTop, static_cast<double>(curHeight()),
+                                                          m_values.curBarWidth, screen().ty);
+}
+
+} // namespace controls

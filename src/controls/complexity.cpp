@@ -1,0 +1,72 @@
+#include "controls/complexity.h"
+
+#include "common/rounding.h"
+#include "controls/geometry.h"
+
+#include <cmath>
+
+namespace controls {
+
+namespace complexity {
+
+double videoSource(double divisor)
+{
+    if (divisor == 0)
+        throw common::RunTimeError(QStringLiteral("Division by zero"));
+    return 0.8 / divisor + 0.45;
+}
+
+double gauge(double pointerWidth, double pointerLength) { return pointerWidth * pointerLength * 0.00062; }
+
+double barGraph(double edge, double extent, double barWidth, float twipsPerPixel)
+{
+    const auto unit = static_cast<double>(twipsPerPixel);
+    return std::fabs(edge / unit - (edge + extent) / unit) * barWidth * 0.000067;
+}
+
+double bitmap(double outerWidth, double outerHeight, double variable, float tx, float ty)
+{
+    if (variable != 0)
+        return 0;
+    const auto frames = static_cast<double>(BothFrames);
+    return (outerWidth - frames) / static_cast<double>(tx) * (outerHeight - frames) /
+           static_cast<double>(ty) * 0.000018;
+}
+
+double digitalDisplay(double fontSize, qsizetype textLength)
+{
+    return fontSize * static_cast<double>(textLength) * 0.0012;
+}
+
+double textTag(double fontSize, qsizetype textLength)
+{
+    return fontSize * static_cast<double>(textLength) * 0.0021;
+}
+
+double trackMap(double width, double height, bool mapShown)
+{
+    return width * height * (mapShown ? 0.000155 : 0.000098);
+}
+
+} // namespace complexity
+
+int shownLoad(double complexity) { return common::toIntegerClamped<int>(complexity); }
+
+std::optional<QString> overloadQuestion(int load)
+{
+    constexpr int HighAbove = 15;
+    constexpr int ExtremelyHighAbove = 20;
+    if (load <= HighAbove)
+        return std::nullopt;
+    const QString question =
+        load > ExtremelyHighAbove
+            ? QStringLiteral(
+                  "The designed layout file has extremely high complexity and this will result in high CPU "
+                  "load on the hardware device.")
+            : QStringLiteral(
+                  "The designed layout file has high complexity and this may result in high CPU load on the "
+                  "hardware device.");
+    return question + QStringLiteral("\nDo you want to continue?");
+}
+
+} // namespace controls

@@ -1,0 +1,65 @@
+#include "controls/families.h"
+
+#include "controls/bar_graph/bar_graph.h"
+#include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/gauge/gauge.h"
+#include "controls/gauge/gauge_dialog.h"
+
+#include <algorithm>
+#include <array>
+
+namespace controls {
+
+namespace {
+
+template <typename Control>
+OverlayControl *make(const Family &family, ControlHost &host, QWidget *canvas)
+{
+    return new Control(family, host, canvas);
+}
+
+template <typename Control, typename Dialog>
+void showDialog(OverlayControl &control)
+{
+    Dialog dialog(static_cast<Control &>(control));
+    dialog.exec();
+}
+
+constexpr std::array<Family, 8> Families{{
+    {ControlType::VideoSource, 'd', "QLVIDEOSOURCE", "Video Source", "Video Source", "mnuVideoSource",
+     "dVIDEOSOURCE", "VideoSource.bmp", "videosource"},
+    {ControlType::Bitmap, 'c', "QLBITMAP", "Bitmap", "Bitmap", "mnuBitmap", "cBITMAP", "bitmap.bmp",
+     "bitmap"},
+    {ControlType::TextTag, 'h', "QLTEXTTAG", "Simple Text", "Simple Text", "mnuSimpleText", "hTEXTTAG",
+     "texttag.bmp", "texttag"},
+    {ControlType::DigitalDisplay, 'b', "QLDIGITALDISPLAY", "Digital Display", "Digital Display",
+     "mnuDigitalDisplay", "bDIGITALDISPLAY", "digitaldisplay.bmp", "digitaldisplay"},
+    {ControlType::BarGraph, 'f', "QLBARGRAPH", "Bar Graph", "Bar graph", "mnuBarGraph", "fBARGRAPH",
+     "BarGraph.bmp", "bargraph", make<BarGraph>, showDialog<BarGraph, BarGraphDialog>},
+    {ControlType::Gauge, 'a', "QLAGAUGE", "Analogue Dial", "Analogue Dial", "mnuAnalogDial", "aANALOGDIAL",
+     "agauge.bmp", "agauge", make<Gauge>, showDialog<Gauge, GaugeDialog>},
+    {ControlType::TrackMap, 'i', "QLTRACKMAP", "Track Map", "Track Map", "mnuTrackMap", "iTRACKMAP",
+     "TrackMap.bmp", "trackmap"},
+    {ControlType::CustomDial, 'j', "QLCUSTOMDIAL", "Custom Dial", "Custom Dial", "mnuCustomDial",
+     "jCUSTOMDIAL", "CustomDial.bmp", "customdial"},
+}};
+
+} // namespace
+
+std::span<const Family> families() { return Families; }
+
+const Family &familyOf(ControlType type)
+{
+    return *std::find_if(Families.begin(), Families.end(),
+                         [type](const Family &f) { return f.type == type; });
+}
+
+const Family *familyOfKey(const QString &key)
+{
+    const auto found = std::find_if(Families.begin(), Families.end(), [&](const Family &family) {
+        return key.startsWith(QLatin1Char(family.letter));
+    });
+    return found == Families.end() ? nullptr : &*found;
+}
+
+} // namespace controls

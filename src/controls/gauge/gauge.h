@@ -1,0 +1,71 @@
+#pragma once
+
+#include "controls/overlay_control.h"
+
+namespace controls {
+
+// The analogue gauge: one needle that turns about a pivot. Angles are degrees, 0 at twelve o'clock,
+// clockwise.
+struct GaugeValues : ControlValues
+{
+    qint32 curVarID = 0;
+    qint16 curCenterX = 0;       // pivot, canvas pixels; 0 reads as half the box
+    qint16 curCenterY = 0;       // pivot, canvas pixels; 0 reads as half the box
+    quint8 curPointerLength = 0; // pixels
+    quint8 curPointerWidth = 4;  // pixels; 0 keeps the pen's width
+    common::Colour curColour{255};
+    qint16 curMinAngle = -120; // at curMin
+    qint16 curMaxAngle = 120;  // at curMax
+    float curMin = 0;
+    float curMax = 160;
+    float curDefaultVal = 0; // drawn while nothing is recorded; not limited to curMin..curMax
+    qint32 curColourVariable = 0;
+    float curColourVarMin = 0;
+    float curColourVarMax = 0;
+};
+
+const PropertyTable &gaugeProperties();
+
+// The needle of the gauge for its default value, about `pivot`, in pixels. Nothing when the scale or the
+// angles are empty.
+struct Needle
+{
+    QPointF tail;
+    QPointF tip;
+};
+std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot,
+                                   recorder::VideoStandard standard);
+std::optional<Needle> previewNeedle(const GaugeValues &values, recorder::VideoStandard standard);
+
+class Gauge final : public ControlOf<GaugeValues>
+{
+    Q_OBJECT
+
+public:
+    using ControlOf::ControlOf;
+
+    void AssignProperties() override;
+    void AssignBack() { emit DrawBack(); }
+
+    void updatePosition() override;
+    void applyResize() override;
+    Box resizedBox(const Box &wanted, Handle handle) const override;
+    void applyInitialProperties() override;
+    QSizeF startSize() const override { return {1950, 1950}; }
+    void paintPreview(QPainter &painter) const override;
+    double complexity() const override;
+    bool isSeeThrough() const override { return true; }
+
+protected:
+    const PropertyTable &properties() const override { return gaugeProperties(); }
+    void paintInner(QPainter &painter, const QSize &size) const override;
+    GripSet grips() const override { return GripSet::Corners; }
+    void sizeChanged() override;
+    void nudge(int dx, int dy) override;
+
+private:
+    void raiseReposition();
+    Box centredBox() const;
+};
+
+} // namespace controls

@@ -1,0 +1,54 @@
+#include "controls/geometry.h"
+
+#include "common/rounding.h"
+
+namespace controls {
+
+namespace {
+
+using common::toIntegerClamped;
+
+bool belongs(Handle handle, GripSet set)
+{
+    const bool corner =
+        (movesLeft(handle) || movesRight(handle)) && (movesTop(handle) || movesBottom(handle));
+    return set == GripSet::All || (set == GripSet::Corners && corner);
+}
+
+} // namespace
+
+QRect pixelRect(const Box &box, const platform::Screen &screen)
+{
+    return {toIntegerClamped<qint16>(box.Left / screen.tx), toIntegerClamped<qint16>(box.Top / screen.ty),
+            toIntegerClamped<qint16>(box.Width / screen.tx),
+            toIntegerClamped<qint16>(box.Height / screen.ty)};
+}
+
+HandleTable handleTable(float width, float height, GripSet set)
+{
+    HandleTable table;
+    for (std::size_t slot = 0; slot < table.size(); ++slot) {
+        const auto handle = static_cast<Handle>(slot);
+        if (!belongs(handle, set))
+            continue;
+        const float x = movesLeft(handle) ? 0 : (width - FrameTwips) / (movesRight(handle) ? 1.0F : 2.0F);
+        const float y = movesTop(handle) ? 0 : (height - FrameTwips) / (movesBottom(handle) ? 1.0F : 2.0F);
+        const auto left = toIntegerClamped<qint32>(x);
+        const auto top = toIntegerClamped<qint32>(y);
+        table[slot] = {left, top, left + qint32(FrameTwips), top + qint32(FrameTwips)};
+    }
+    return table;
+}
+
+std::optional<Handle> handleAt(const HandleTable &table, QPointF point)
+{
+    for (std::size_t slot = 0; slot < table.size(); ++slot) {
+        const GripBox &grip = table[slot];
+        if (grip.isFilled() && point.x() >= grip.Left && point.x() <= grip.Right && point.y() >= grip.Top &&
+            point.y() <= grip.Bottom)
+            return static_cast<Handle>(slot);
+    }
+    return std::nullopt;
+}
+
+} // namespace controls

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/screen.h"
+
+#include <QPointF>
+#include <QRect>
+
+#include <array>
+#include <optional>
+
+namespace controls {
+
+// The editing frame on each side of a control: hatch and grips. Twips.
+inline constexpr float FrameTwips = 75.0F;
+inline constexpr float BothFrames = 2 * FrameTwips;
+
+// A control's outer rectangle on the canvas, in twips.
+struct Box
+{
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
+
+    float right() const { return Left + Width; }
+    float bottom() const { return Top + Height; }
+    bool operator==(const Box &) const = default;
+};
+
+// The widget's rectangle: each edge position rounded like the positions in a layout file.
+QRect pixelRect(const Box &box, const platform::Screen &screen);
+
+// Grips in slot order.
+enum class Handle : quint8 {
+    TopLeft,
+    TopMiddle,
+    TopRight,
+    LeftMiddle,
+    RightMiddle,
+    BottomLeft,
+    BottomMiddle,
+    BottomRight
+};
+
+constexpr bool movesLeft(Handle h)
+{
+    return h == Handle::TopLeft || h == Handle::LeftMiddle || h == Handle::BottomLeft;
+}
+constexpr bool movesRight(Handle h)
+{
+    return h == Handle::TopRight || h == Handle::RightMiddle || h == Handle::BottomRight;
+}
+constexpr bool movesTop(Handle h)
+{
+    return h == Handle::TopLeft || h == Handle::TopMiddle || h == Handle::TopRight;
+}
+constexpr bool movesBottom(Handle h)
+{
+    return h == Handle::BottomLeft || h == Handle::BottomMiddle || h == Handle::BottomRight;
+}
+
+enum class GripSet { None, Corners, All };
+
+// Grip boxes, 75 twips square, relative to the control. Slots that the set leaves out stay all zero.
+struct GripBox
+{
+    qint32 Left = 0;
+    qint32 Top = 0;
+    qint32 Right = 0;
+    qint32 Bottom = 0;
+
+    bool isFilled() const { return Right > Left && Bottom > Top; }
+    bool operator==(const GripBox &) const = default;
+};
+using HandleTable = std::array<GripBox, 8>;
+
+HandleTable handleTable(float width, float height, GripSet set);
+
+// The first slot that holds the point (twips within the control); far edges count as inside.
+std::optional<Handle> handleAt(const HandleTable &table, QPointF point);
+
+} // namespace controls

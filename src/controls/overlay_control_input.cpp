@@ -1,0 +1,221 @@
+// Mouse, keys and focus of a control: what the user does to it, told to the surface as signals.
+
+#include "controls/overlay_control.h"
+#include "platform/guards.h"
+
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+
+namespace controls {
+
+using platform::skipFailures;
+
+namespace {
+
+Qt::CursorShape pointerOf(std::optional<Handle> handle)
+{
+    if (!handle)
+        return Qt::SizeAllCursor;
+    switch (*handle) {
+    case Handle::TopLeft:
+    case Handle::BottomRight:
+        return Qt::SizeFDiagCursor;
+    case Handle::TopRight:
+    case Handle::BottomLeft:
+        return Qt::SizeBDiagCursor;
+    case Handle::TopMiddle:
+    case Handle::BottomMiddle:
+        return Qt::SizeVerCursor;
+    case Handle::LeftMiddle:
+    case Handle::RightMiddle:
+        return Qt::SizeHorCursor;
+    }
+    return Qt::SizeAllCursor;
+}
+
+} // namespace
+
+// The control may have moved since the event was made, so its place on the screen decides.
+QPointF OverlayControl::twipsOf(const QMouseEvent &event) const
+{
+    const QPointF pixels = mapFromGlobal(event.globalPosition());
+    return {pixels.x() * static_cast<double>(screen().tx), pixels.y() * static_cast<double>(screen().ty)};
+}
+
+void OverlayControl::mousePressEvent(QMouseEvent *event)
+{
+    if (isFrozen())
+        return;
+    const QPointF position = twipsOf(*event);
+    if (event->button() == Qt::RightButton) {
+        skipFailures([&] { pressRight(event->modifiers(), event->globalPosition().toPoint()); });
+        return;
+    }
+    m_handleIndex = handleAt(m_handleTable, position);
+    m_gesture = m_handleIndex ? Gesture::Resizing : Gesture::None;
+    m_leftDeadZone = false;
+    skipFailures([&] { pressLeft(event->modifiers(), position); });
+}
+
+void OverlayControl::pressRight(Qt::KeyboardModifiers modifiers, const QPoint &globalPosition)
+{
+    if (modifiers == Qt::ControlModifier)
+        m_isGrouped = true;
+    if (m_isGrouped)
+        m_host.showGroupMenu(globalPosition);
+    else
+        m_host.showControlMenu(*this, globalPosition);
+}
+
+void OverlayControl::startDrag(QPointF position)
+{
+    m_gesture = Gesture::Dragging;
+    m_dragStart = position;
+}
+
+void OverlayControl::pressLeft(Qt::KeyboardModifiers modifiers, QPointF position)
+{
+    if (modifiers == Qt::ControlModifier) {
+        m_isGrouped = !m_isGrouped;
+        if (m_isGrouped && m_gesture != Gesture::Resizing) {
+            startDrag(position);
+            emit ResetControlGroup();
+        }
+        setGridColour(m_isGrouped ? FrameGrouped : FrameNormal);
+        return;
+    }
+    if (m_gesture != Gesture::Resizing) {
+        startDrag(position);
+        emit ResetControlGroup();
+    }
+    if (!m_isGrouped)
+        m_host.ResetControlGridColour();
+    setGridColour(m_isGrouped ? FrameGrouped : FrameSelected);
+}
+
+void OverlayControl::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isFrozen()) {
+        unsetCursor();
+        return;
+    }
+    const QPointF position = twipsOf(*event);
+    const auto x = static_cast<float>(position.x());
+    const auto y = static_cast<float>(position.y());
+    if (m_gesture == Gesture::Resizing) {
+        emit ResizeDrag(*m_handleIndex, x, y);
+    } else if (m_gesture == Gesture::Dragging) {
+        setCursor(Qt::SizeAllCursor);
+        emit Drag(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()), x, y);
+    } else {
+        m_handleIndex = handleAt(m_handleTable, position);
+        setCursor(pointerOf(m_handleIndex));
+    }
+}
+
+void OverlayControl::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (isFrozen())
+        return;
+    const QPointF position = twipsOf(*event);
+    const auto x = static_cast<float>(position.x());
+    const auto y = static_cast<float>(position.y());
+    const Gesture finished = std::exchange(m_gesture, Gesture::None);
+    if (finished == Gesture::Resizing)
+        emit Resize(*m_handleIndex, x, y);
+    else if (finished == Gesture::Dragging)
+        emit Relocate(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()), x, y);
+    if (m_isGrouped)
+        m_host.RefreshBackground();
+    emit DrawBack();
+    update();
+}
+
+void OverlayControl::keyPressEvent(QKeyEvent *event)
+{
+    if (isFrozen())
+        return;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        skipFailures([&] { nudge(-1, 0); });
+        break;
+    case Qt::Key_Up:
+        skipFailures([&] { nudge(0, -1); });
+        break;
+    case Qt::Key_Right:
+        skipFailures([&] { nudge(1, 0); });
+        break;
+    case Qt::Key_Down:
+        skipFailures([&] { nudge(0, 1); });
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        mnuProperties_Click();
+        break;
+    case Qt::Key_Delete:
+        mnuDelete_Click();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void OverlayControl::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isFrozen())
+        emit DrawBack();
+    QWidget::keyReleaseEvent(event);
+}
+
+void OverlayControl::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    if (isFrozen())
+        return;
+    // A press with Ctrl adds to the group and so must not clear it.
+    const bool joinsGroup = event->reason() == Qt::MouseFocusReason &&
+                            QGuiApplication::keyboardModifiers() == Qt::ControlModifier;
+    if (!m_isGrouped && !joinsGroup && !m_host.isCapturing()) {
+        m_host.ResetControlGridColour();
+        setGridColour(FrameSelected);
+    }
+    emit BringToFront();
+}
+
+// The menu key opens the same menu as the right button, which has been served at the press.
+void OverlayControl::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard && !isFrozen())
+        skipFailures([&] { pressRight(Qt::NoModifier, mapToGlobal(rect().center())); });
+}
+
+void OverlayControl::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!isFrozen() && event->mimeData()->hasFormat(VariableMime))
+        event->acceptProposedAction();
+}
+
+void OverlayControl::dropEvent(QDropEvent *event)
+{
+    skipFailures([&] { bindVariable(event->mimeData()->data(VariableMime).toInt()); });
+    event->acceptProposedAction();
+}
+
+// Arrow keys nudge the control; they do not walk to another shortcut or widget.
+bool OverlayControl::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && !isFrozen()) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if ((key >= Qt::Key_Left && key <= Qt::Key_Down) || key == Qt::Key_Delete) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+} // namespace controls

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "layoutfile/record_codec.h"
+#include "platform/stamp.h"
+
+namespace layoutfile {
+
+// The records of a layout while it is being put together, in groups by type.
+class RecordGroups
+{
+public:
+    // Adds to the end of its group and answers the object number, its place from 1.
+    qint16 add(RecordBody body);
+    // The same under an object number of its own.
+    void add(RecordBody body, qint16 object);
+
+    const std::vector<LayoutRecord> &of(RecordType type) const { return m_groups[slot(type)]; }
+
+private:
+    static std::size_t slot(RecordType type) { return static_cast<std::size_t>(type); }
+
+    std::array<std::vector<LayoutRecord>, std::variant_size_v<RecordBody> + 1> m_groups;
+};
+
+// The whole file: header with its stamp, the records in the format's order, each with its sum, the CRC.
+QByteArray assembleLayout(const RecordGroups &groups, const platform::Stamp &stamp);
+
+// Whether the last four bytes are the CRC of all before them. That is all the validation there is.
+bool IsValidVGL(QByteArrayView file);
+
+// All records in file order. Any bytes may be passed: what is no record is skipped four bytes at a time, a
+// record that the end cuts off ends the walk. Fonts are left out, the tool makes them again.
+std::vector<LayoutRecord> parseLayout(QByteArrayView file);
+
+// The JPEG of the thumbnail record; empty when the file is invalid or has none.
+QByteArray extractThumbnail(QByteArrayView file);
+
+} // namespace layoutfile

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "controls/control_surface.h"
+#include "platform/folders.h"
+#include "platform/progress.h"
+#include "platform/prompts.h"
+#include "recorder/recorder_settings.h"
+#include "variables/catalogue.h"
+
+namespace layoutfile {
+
+struct LoadContext
+{
+    controls::ControlSurface &surface;
+    variables::Catalogue &catalogue;
+    recorder::RecorderSettings &settings;
+    platform::Prompts &prompts;
+    platform::Progress &progress;
+    const platform::Folders &folders;
+};
+
+// Loads a layout into the current design without clearing it: controls are added, recorder settings replaced.
+// A file that cannot be read or fails its CRC shows "Invalid File Format" and changes nothing (false). Throws
+// RunTimeError when the variable or message file cannot be rewritten afterwards.
+bool LoadVGL(const QString &path, const LoadContext &context);
+
+// Writes the thumbnail of a layout to "Thumb.jpg" in the temporary folder and answers that path; empty when
+// the file is invalid or has none.
+QString ExtractThumbnail(const QString &path, const platform::Folders &folders);
+
+} // namespace layoutfile

@@ -1,0 +1,50 @@
+#include "layoutfile/used_variables.h"
+
+#include "common/number_text.h"
+#include "common/rounding.h"
+
+#include <QStringList>
+
+namespace layoutfile {
+
+namespace {
+
+constexpr qint32 AlwaysStored = 10;
+constexpr int IndexDigits = 4;
+
+void markNamed(UsedVariables &used, const QString &equation)
+{
+    const QStringList pieces = equation.toUpper().split(QLatin1String("VAR_"));
+    for (const QString &piece : pieces.sliced(1))
+        used.mark(common::toIntegerClamped<qint32>(common::leadingNumber(piece.left(IndexDigits))));
+}
+
+} // namespace
+
+void UsedVariables::mark(qint32 variable)
+{
+    if (variable > 0 && variable <= variables::LastIndex)
+        m_used[static_cast<std::size_t>(variable)] = true;
+}
+
+void markSettings(UsedVariables &used, const recorder::RecorderSettings &settings)
+{
+    used.mark(AlwaysStored);
+    for (const recorder::ChapterCondition &chapter : settings.ChapterList)
+        used.mark(chapter.variable);
+    for (const recorder::RecordingTrigger *trigger : {&settings.autoStart, &settings.autoStop}) {
+        if (trigger->condition != 0)
+            used.mark(trigger->variable);
+    }
+}
+
+void markReferences(UsedVariables &used, const variables::VariableTable &table)
+{
+    for (int index = variables::FirstUserVariable; index <= variables::LastUserVariable; ++index) {
+        const variables::VariableRecord &record = table[static_cast<std::size_t>(index)];
+        if (used.isUsed(index) && record.UseCustomTrans)
+            markNamed(used, record.CustomTransformation);
+    }
+}
+
+} // namespace layoutfile

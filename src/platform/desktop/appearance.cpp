@@ -1,0 +1,57 @@
+#include "platform/desktop/appearance.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace platform {
+
+namespace {
+
+struct Shades
+{
+    QColor window, base, alternate, text, button, mid, dark, disabled, accent;
+};
+
+const Shades Light{0xf1f3f6, 0xffffff, 0xf6f8fa, 0x1d2530, 0xe9edf2, 0xc3cad4, 0x5b6b7f, 0x8f99a6, 0x1f7ae0};
+const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47, 0x1c1f24, 0x14161a, 0x7d8793, 0x4d9bf0};
+
+QPalette paletteOf(const Shades &shades)
+{
+    QPalette palette(shades.button, shades.window);
+    palette.setColor(QPalette::Window, shades.window);
+    palette.setColor(QPalette::Base, shades.base);
+    palette.setColor(QPalette::AlternateBase, shades.alternate);
+    palette.setColor(QPalette::Mid, shades.mid);
+    palette.setColor(QPalette::Dark, shades.dark);
+    palette.setColor(QPalette::Highlight, shades.accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, shades.accent);
+    palette.setColor(QPalette::ToolTipBase, shades.base);
+    palette.setColor(QPalette::ToolTipText, shades.text);
+    palette.setColor(QPalette::PlaceholderText, shades.disabled);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, shades.text);
+        palette.setColor(QPalette::Disabled, role, shades.disabled);
+    }
+    return palette;
+}
+
+} // namespace
+
+void applyAppearance(QApplication &application, Theme theme)
+{
+    const QString libreFace = QStringLiteral("Liberation Sans");
+    const QString ownFace = QStringLiteral("QL Sans Serif");
+    for (const QString &face : {ownFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")})
+        QFont::insertSubstitution(face, libreFace);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QPalette palette = paletteOf(theme == Theme::Light ? Light : Dark);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+    application.setFont(QFont(ownFace, 9));
+}
+
+} // namespace platform

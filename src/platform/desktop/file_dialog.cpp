@@ -1,0 +1,92 @@
+#include "platform/desktop/file_dialog.h"
+
+#include <QDir>
+#include <QGridLayout>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <QUrl>
+
+namespace platform {
+
+namespace {
+
+constexpr QSize PreviewSize(180, 144);
+
+// "VGL files|*.VGL" as Qt writes it. Files of either case are shown: cards are formatted by all sorts of
+// machines.
+QString qtFilter(const QString &filter)
+{
+    const QString caption = filter.section(QLatin1Char('|'), 0, 0);
+    const QString pattern = filter.section(QLatin1Char('|'), 1, 1);
+    return QStringLiteral("%1 (%2 %3)")
+        .arg(caption.section(QLatin1Char('('), 0, 0).trimmed(), pattern, pattern.toLower());
+}
+
+QList<QUrl> sidePlaces()
+{
+    QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (QDir(documents).exists() && documents != QDir::homePath())
+        places.append(QUrl::fromLocalFile(documents));
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        const QString root = volume.rootPath();
+        const bool removable = root.startsWith(QLatin1String("/media/")) ||
+                               root.startsWith(QLatin1String("/run/media/")) ||
+                               root.startsWith(QLatin1String("/mnt/"));
+        if (volume.isReady() && removable)
+            places.append(QUrl::fromLocalFile(root));
+    }
+    return places;
+}
+
+} // namespace
+
+FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode mode) : QFileDialog(parent)
+{
+    setOption(DontUseNativeDialog); // the preview and the volumes need the same dialog everywhere
+    setAcceptMode(mode);
+    setFileMode(mode == AcceptOpen ? ExistingFile : AnyFile);
+    setWindowTitle(!request.title.isEmpty() ? request.title
+                   : mode == AcceptOpen     ? QStringLiteral("Open")
+                                            : QStringLiteral("Save As"));
+    setNameFilter(qtFilter(request.filter));
+    setDefaultSuffix(request.filter.section(QLatin1Char('.'), -1));
+    setSidebarUrls(sidePlaces());
+    if (!request.folder.isEmpty())
+        setDirectory(request.folder);
+    if (!request.fileName.isEmpty())
+        selectFile(request.fileName);
+    if (request.preview)
+        addPreview(request.preview);
+}
+
+void FileDialog::addPreview(const std::function<QImage(const QString &)> &preview)
+{
+    m_picture = new QLabel;
+    m_picture->setObjectName(QStringLiteral("picPreview"));
+    m_picture->setFixedSize(PreviewSize);
+    m_picture->setAlignment(Qt::AlignCenter);
+    m_picture->setFrameShape(QFrame::StyledPanel);
+    showPreview({});
+    if (auto *grid = qobject_cast<QGridLayout *>(layout()))
+        grid->addWidget(m_picture, 1, grid->columnCount(), Qt::AlignTop);
+    connect(this, &QFileDialog::currentChanged, this, [this, preview](const QString &path) {
+        showPreview(QFileInfo(path).isFile() ? preview(path) : QImage());
+    });
+}
+
+void FileDialog::showPreview(const QImage &picture)
+{
+    if (picture.isNull())
+        m_picture->setText(QStringLiteral("No preview"));
+    else
+        m_picture->setPixmap(
+            QPixmap::fromImage(picture.scaled(PreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+}
+
+QString FileDialog::chosenFile()
+{
+    return exec() == Accepted && !selectedFiles().isEmpty() ? selectedFiles().constFirst() : QString();
+}
+
+} // namespace platform

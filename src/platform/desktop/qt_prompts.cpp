@@ -1,0 +1,146 @@
+#include "platform/desktop/qt_prompts.h"
+
+#include "platform/desktop/file_dialog.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace platform {
+
+namespace {
+
+QMessageBox::Icon boxIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::None:
+        return QMessageBox::NoIcon;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Warning:
+        return QMessageBox::Warning;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// While a box is open the pointer is an arrow, also in the middle of a long task.
+class ArrowPointer
+{
+public:
+    ArrowPointer() : m_active(QApplication::overrideCursor() != nullptr)
+    {
+        if (m_active)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~ArrowPointer()
+    {
+        if (m_active)
+            QApplication::restoreOverrideCursor();
+    }
+    Q_DISABLE_COPY_MOVE(ArrowPointer)
+
+private:
+    bool m_active;
+};
+
+QMessageBox::StandardButton showBox(QWidget *parent, Icon icon, const QString &title, const QString &text,
+                                    QMessageBox::StandardButtons buttons)
+{
+    const ArrowPointer pointer;
+    QMessageBox box(boxIcon(icon), title, text, buttons, parent);
+    box.setTextFormat(Qt::PlainText); // names from files are shown, never interpreted
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+QWidget *QtPrompts::parent() const
+{
+    QWidget *active = QApplication::activeModalWidget();
+    return active ? active : m_owner.data();
+}
+
+void QtPrompts::message(Icon icon, const QString &title, const QString &text)
+{
+    showBox(parent(), icon, title, text, QMessageBox::Ok);
+}
+
+bool QtPrompts::ask(Icon icon, const QString &title, const QString &text)
+{
+    return showBox(parent(), icon, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+std::optional<int> QtPrompts::choose(const QString &title, const QString &text, const QStringList &options)
+{
+    const ArrowPointer pointer;
+    QDialog dialog(parent());
+    dialog.setWindowTitle(title);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(new QLabel(text));
+    QButtonGroup group;
+    for (int i = 0; i < options.size(); ++i) {
+        auto *option = new QRadioButton(options[i]);
+        option->setObjectName(QStringLiteral("optChoice%1").arg(i));
+        option->setChecked(i == 0);
+        group.addButton(option, i);
+        layout->addWidget(option);
+    }
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    if (group.button(0))
+        group.button(0)->setFocus();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return group.checkedId();
+}
+
+QString QtPrompts::input(const QString &title, const QString &prompt, const QString &initial)
+{
+    const ArrowPointer pointer;
+    return QInputDialog::getText(parent(), title, prompt, QLineEdit::Normal, initial);
+}
+
+QString QtPrompts::openFile(const FileRequest &request)
+{
+    const ArrowPointer pointer;
+    FileDialog dialog(parent(), request, QFileDialog::AcceptOpen);
+    return dialog.chosenFile();
+}
+
+QString QtPrompts::saveFile(const FileRequest &request)
+{
+    const ArrowPointer pointer;
+    FileDialog dialog(parent(), request, QFileDialog::AcceptSave);
+    return dialog.chosenFile();
+}
+
+std::optional<QRgb> QtPrompts::colour(QRgb initial)
+{
+    const ArrowPointer pointer;
+    const QColor chosen = QColorDialog::getColor(QColor::fromRgb(initial), parent());
+    return chosen.isValid() ? std::optional(chosen.rgb()) : std::nullopt;
+}
+
+std::optional<QFont> QtPrompts::font(const QFont &initial)
+{
+    const ArrowPointer pointer;
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, initial, parent());
+    return accepted ? std::optional(chosen) : std::nullopt;
+}
+
+} // namespace platform

@@ -1,0 +1,72 @@
+#include "platform/folders.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace platform {
+
+namespace {
+
+QString withSeparator(const QString &folder)
+{
+    return folder.isEmpty() || folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+QString privateFolder(const QString &parent, const QString &name)
+{
+    if (parent.isEmpty())
+        return {};
+    const QString path = parent + QLatin1Char('/') + name;
+    QDir().mkpath(path);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return withSeparator(path);
+}
+
+} // namespace
+
+QString Folders::GetAppDataFolder() const
+{
+    if (applicationData.isEmpty())
+        return {};
+    const bool marked = FileExists(program + QStringLiteral("../hVault.Dat")) != 0;
+    return applicationData + (marked ? QStringLiteral("hVault/") : QStringLiteral("Torvane/"));
+}
+
+Folders desktopFolders(const QString &programFolder)
+{
+    using Paths = QStandardPaths;
+    Folders folders;
+    folders.program = withSeparator(programFolder);
+    folders.applicationData = withSeparator(Paths::writableLocation(Paths::GenericDataLocation));
+    folders.cache =
+        privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), QStringLiteral("morvel-config"));
+    folders.temporary = privateFolder(folders.cache.chopped(1), QStringLiteral("temporary"));
+    return folders;
+}
+
+int FileExists(const QString &path)
+{
+    QString name = path.section(QChar(0), 0, 0);
+    name.remove(QLatin1Char('"'));
+    return !name.isEmpty() && QFileInfo(name).isFile() ? -1 : 0;
+}
+
+void wipeFiles(const QString &folder, const QString &pattern)
+{
+    if (folder.isEmpty())
+        return;
+    QDir dir(folder);
+    for (const QString &name : dir.entryList({pattern}, QDir::Files))
+        dir.remove(name);
+}
+
+QString nameWithin(const QString &folder, const QString &name)
+{
+    const bool escapes = name.isEmpty() || name.startsWith(QLatin1Char('.')) ||
+                         name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) ||
+                         name.contains(QLatin1Char(':')) || name.contains(QChar(0));
+    return escapes ? QString() : folder + name;
+}
+
+} // namespace platform

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QRgb>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace platform {
+
+enum class Icon { None, Information, Question, Warning, Critical };
+
+// A file dialog. `filter` is caption and pattern with a bar between them: "VGL files|*.VGL".
+struct FileRequest
+{
+    QString title;
+    QString folder;
+    QString filter;
+    QString fileName;                               // proposed name, for saving
+    std::function<QImage(const QString &)> preview; // picture of the selected file, for opening; may be empty
+};
+
+// The only way to a message box, a question, an input box, a file, colour or font dialog. Every call is
+// modal.
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+
+    virtual void message(Icon icon, const QString &title, const QString &text) = 0;
+    // Yes is true; No and a closed box are false.
+    virtual bool ask(Icon icon, const QString &title, const QString &text) = 0;
+    // One of `options` by number, or nothing when the user cancels.
+    virtual std::optional<int> choose(const QString &title, const QString &text,
+                                      const QStringList &options) = 0;
+    // Empty when the user cancels.
+    virtual QString input(const QString &title, const QString &prompt, const QString &initial) = 0;
+    virtual QString openFile(const FileRequest &request) = 0;
+    virtual QString saveFile(const FileRequest &request) = 0;
+    // Nothing when the user cancels.
+    virtual std::optional<QRgb> colour(QRgb initial) = 0;
+    virtual std::optional<QFont> font(const QFont &initial) = 0;
+};
+
+// The program's name in the title of every box that has no title of its own.
+inline const QString ProductTitle = QStringLiteral("MORVEL Configuration Tool");
+
+} // namespace platform

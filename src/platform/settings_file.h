@@ -1,0 +1,34 @@
+#pragma once
+
+#include "common/ini_file.h"
+
+#include <optional>
+
+namespace platform {
+
+// A settings file on disk: read once, changed in memory, replaced as a whole by save(). A file that is
+// missing or cannot be read counts as empty.
+class SettingsFile
+{
+public:
+    explicit SettingsFile(const QString &path);
+
+    QString read(const QString &section, const QString &key, const QString &fallback, int bufferSize) const
+    {
+        return m_ini.read(section, key, fallback, bufferSize);
+    }
+    bool write(const QString &section, const QString &key, const std::optional<QString> &value)
+    {
+        return m_ini.write(section, key, value);
+    }
+    void removeSection(const QString &section) { m_ini.removeSection(section); }
+
+    // Throws RunTimeError when the file cannot be written.
+    void save() const;
+
+private:
+    QString m_path;
+    common::IniFile m_ini;
+};
+
+} // namespace platform

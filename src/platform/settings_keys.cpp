@@ -1,0 +1,50 @@
+#include "platform/settings_keys.h"
+
+#include "common/number_text.h"
+#include "common/rounding.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int NumberBuffer = 10;
+constexpr int TextBuffer = 100;
+
+bool present(const SettingsFile &file, const NumberKey &key)
+{
+    return !file.read(QLatin1String(key.section), QLatin1String(key.key), {}, NumberBuffer).isEmpty();
+}
+
+} // namespace
+
+int NumberKey::read(const SettingsFile &file) const
+{
+    const QString text =
+        file.read(QLatin1String(section), QLatin1String(key), QString::number(fallback), NumberBuffer);
+    const int value = common::toIntegerClamped<int>(common::leadingNumber(text));
+    if (value < low)
+        return belowLow;
+    return value > high ? high : value;
+}
+
+void NumberKey::write(SettingsFile &file, int value) const
+{
+    file.write(QLatin1String(section), QLatin1String(key), QString::number(value));
+}
+
+QString TextKey::read(const SettingsFile &file) const
+{
+    return file.read(QLatin1String(section), QLatin1String(key), QLatin1String(fallback), TextBuffer);
+}
+
+void TextKey::write(SettingsFile &file, const QString &value) const
+{
+    file.write(QLatin1String(section), QLatin1String(key), value);
+}
+
+bool PanelKeys::stored(const SettingsFile &file) const
+{
+    return present(file, left) || present(file, top) || present(file, width) || present(file, height);
+}
+
+} // namespace platform

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/settings_file.h"
+
+#include <array>
+
+namespace platform {
+
+// One whole-number key of the settings file: its default and what is done with a value out of bounds.
+struct NumberKey
+{
+    const char *section;
+    const char *key;
+    int fallback;
+    int low = -2147483647 - 1; // a value below `low` becomes `belowLow`
+    int belowLow = low;
+    int high = 2147483647; // a value above `high` becomes `high`
+
+    int read(const SettingsFile &file) const;
+    void write(SettingsFile &file, int value) const;
+};
+
+// One text key, read into a buffer of 100 characters.
+struct TextKey
+{
+    const char *section;
+    const char *key;
+    const char *fallback;
+
+    QString read(const SettingsFile &file) const;
+    void write(SettingsFile &file, const QString &value) const;
+};
+
+// Left, top, width and height of a panel in twips.
+struct PanelKeys
+{
+    NumberKey left, top, width, height;
+    bool stored(const SettingsFile &file) const; // any of the four keys stands in the file
+};
+
+namespace keys {
+
+inline constexpr const char *Tool = "QLM6CONFIGURATIONTOOL";
+inline constexpr NumberKey VideoType{Tool, "VIDEOTYPE", 1};
+inline constexpr NumberKey GridSize{Tool, "GRIDSIZE", 80, -32768, -32768, 32767};
+inline constexpr NumberKey ShowGrid{Tool, "SHOWGRID", 1};
+inline constexpr NumberKey SnapGrid{Tool, "SNAPGRID", 1};
+inline constexpr TextKey PalPicture{Tool, "PAL_BACKIMG", "PALVIDEOBackImg.bmp"};
+inline constexpr TextKey NtscPicture{Tool, "NTSC_BACKIMG", "NTSCVIDEOBackImg.bmp"};
+
+// A top below 894 becomes 854: the smaller value is deliberate.
+inline constexpr PanelKeys Library{{"CONTROL", "LEFT", 0},
+                                   {"CONTROL", "TOP", 5550, 894, 854, 12894},
+                                   {"CONTROL", "WIDTH", 3165},
+                                   {"CONTROL", "HEIGHT", 2498, 650, 650, 12316}};
+inline constexpr PanelKeys LibrarySplitter{{"CONTROL_SPL", "LEFT", 2500, -32768, -32768, 32767},
+                                           {"CONTROL_SPL", "TOP", 1110, -32768, -32768, 32767},
+                                           {"CONTROL_SPL", "WIDTH", 60, -32768, -32768, 32767},
+                                           {"CONTROL_SPL", "HEIGHT", 60, -32768, -32768, 32767}};
+inline constexpr PanelKeys Functions{{"FUNTION", "LEFT", 12259},
+                                     {"FUNTION", "TOP", 180},
+                                     {"FUNTION", "WIDTH", 3041, 650, 650},
+                                     {"FUNTION", "HEIGHT", 6978}};
+inline constexpr PanelKeys Design{{"DESIGN", "LEFT", 0},
+                                  {"DESIGN", "TOP", 180},
+                                  {"DESIGN", "WIDTH", 12255},
+                                  {"DESIGN", "HEIGHT", 6978, 434, 434, 12474}};
+// By panel number; 0 means that the panel is closed at start.
+inline constexpr std::array<NumberKey, 3> Visible{
+    {{"VISIBLE", "0", 1}, {"VISIBLE", "1", 1}, {"VISIBLE", "2", 1}}};
+
+} // namespace keys
+
+} // namespace platform

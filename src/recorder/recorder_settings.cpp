@@ -1,0 +1,18 @@
+#include "recorder/recorder_settings.h"
+
+namespace recorder {
+
+void resetForNewLayout(RecorderSettings &settings, const MessageTable &startMessages)
+{
+    RecorderSettings fresh;
+    fresh.VideoType = settings.VideoType;
+    fresh.MessageTable = startMessages;
+    settings = std::move(fresh);
+}
+
+QString bitRateCaption(quint8 megabitsPerSecond)
+{
+    return QStringLiteral("Bit Rate %1 Mbps").arg(megabitsPerSecond);
+}
+
+} // namespace recorder

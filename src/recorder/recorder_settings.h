@@ -1,0 +1,92 @@
+#pragma once
+
+#include "recorder/message_table.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace recorder {
+
+enum class VideoStandard : quint8 { Ntsc = 0, Pal = 1 };
+
+inline constexpr int CanvasWidth = 720; // pixels
+constexpr int canvasHeight(VideoStandard standard) { return standard == VideoStandard::Pal ? 576 : 480; }
+
+enum class EncodePattern : quint8 { I = 0, IP = 1, IPB = 2 };
+
+// A chapter is marked while value1 sign1 variable sign2 value2 holds; a sign is 0 for "<", 1 for "<=".
+struct ChapterCondition
+{
+    quint8 type = 0; // shown number less 1
+    float value1 = 0;
+    quint8 sign1 = 0;
+    qint32 variable = 0;
+    quint8 sign2 = 0;
+    float value2 = 0;
+
+    bool operator==(const ChapterCondition &) const = default;
+};
+
+// Automatic start or stop of recording.
+struct RecordingTrigger
+{
+    qint32 variable = 0;
+    quint8 condition = 0; // 0 not active, 1 "<", 2 ">"
+    float value = 0;
+    quint8 time = 0;
+
+    bool operator==(const RecordingTrigger &) const = default;
+};
+
+struct GearLimits
+{
+    float lower = 0;
+    float upper = 0;
+
+    bool operator==(const GearLimits &) const = default;
+};
+
+// The recorder's one icon: its place and its planes (4:2:0), as they go to the file.
+struct SpecialIcon
+{
+    bool enabled = false;
+    qint16 width = 0; // pixels
+    qint16 height = 0;
+    qint16 top = 0;
+    qint16 left = 0;
+    quint8 alpha = 0;
+    QByteArray planes; // Y, then U, then V
+
+    bool operator==(const SpecialIcon &) const = default;
+};
+
+// What a layout carries beside the overlay.
+struct RecorderSettings
+{
+    VideoStandard VideoType = VideoStandard::Pal;
+    quint8 CurrentBitRate = 6; // Mbps
+    EncodePattern encodePattern = EncodePattern::IPB;
+    std::vector<ChapterCondition> ChapterList;
+    quint8 LapChapterActive = 0;
+    quint8 LapChapterType = 0;
+    RecordingTrigger autoStart;
+    RecordingTrigger autoStop;
+    std::vector<GearLimits> GearTable = std::vector<GearLimits>(6);
+    quint8 GearMethod = 0; // 1 gearbox sensor, 0 speed and engine speed
+    qint32 GearVariable = 0;
+    float PulsesPerRevolution = 0;
+    SpecialIcon icon;
+    recorder::MessageTable MessageTable{};
+
+    bool operator==(const RecorderSettings &) const = default;
+};
+
+// The state of a new layout: everything at its start value but the video standard; `startMessages` is the
+// message table as it was read at start.
+void resetForNewLayout(RecorderSettings &settings, const MessageTable &startMessages);
+
+QString bitRateCaption(quint8 megabitsPerSecond);
+
+} // namespace recorder

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "recorder/recorder_settings.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace shell {
+
+struct CommandLine
+{
+    QString layoutToOpen;                                 // empty for none
+    std::optional<recorder::VideoStandard> videoOverride; // for this run
+};
+
+// The raw line of the arguments behind the program's name. Where "/" separates folders, the slashes behind
+// the first one of an argument become "\", so that the parser, which splits at "/", sees one path. An
+// argument that follows a bare /F or /T belongs to it.
+QString rawCommandLine(const QStringList &arguments);
+
+// /F and a path that ends in "VGL" and exists (the last one wins), /T and NTSC or PAL; anything else is
+// ignored.
+CommandLine parseCommandLine(const QString &rawLine, const std::function<bool(const QString &)> &fileExists);
+
+} // namespace shell

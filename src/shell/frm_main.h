@@ -1,0 +1,60 @@
+#pragma once
+
+#include "shell/file_commands.h"
+
+#include <QActionGroup>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPointer>
+
+namespace shell {
+
+struct CommandRow;
+
+// The main window: menus, toolbar, status bar and the design window inside. Its commands are rows of one
+// table; what they show is derived from the state by refreshFromState().
+class frmMain final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    frmMain(ProgramState &state, platform::Prompts &prompts);
+
+    surface::frmInterface &design() { return *m_design; }
+    FileCommands &files() { return m_files; }
+
+    // Caption, check marks and texts of the menus and the status bar.
+    void refreshFromState();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void makeMenus();
+    void makeToolbar();
+    void makeStatusBar();
+    void makePopups();
+    QAction *makeAction(const CommandRow &row);
+    QAction *action(const char *name) const;
+    void fillAddMenu(QMenu &menu, const QString &prefix);
+    void setStandard(recorder::VideoStandard standard);
+    void setEncodePattern(recorder::EncodePattern pattern);
+    void sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    ProgramState &m_state;
+    platform::Prompts &m_prompts;
+    surface::frmInterface *m_design;
+    FileCommands m_files;
+    QMenu m_addControl;   // shared by the menu bar and the canvas popup
+    QMenu m_canvasPopup;  // mnuDropDown
+    QMenu m_controlPopup; // mnuDropDown3
+    QPointer<controls::OverlayControl> m_currentControl;
+    QLabel *m_position;
+    QLabel *m_standard;
+    QLabel *m_bitRate;
+
+    friend struct CommandTable;
+};
+
+} // namespace shell

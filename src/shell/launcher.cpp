@@ -1,0 +1,51 @@
+// What the desktop starts: gives a new user the shipped definition files, then runs the program. A plain file
+// argument, as a file manager passes it, opens that layout.
+
+#include "platform/desktop/appearance.h"
+#include "platform/desktop/qt_prompts.h"
+#include "platform/guards.h"
+#include "shell/seed_user_data.h"
+#include "shell/single_instance.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+bool isPlainFile(const QString &argument)
+{
+    const bool isSwitch = argument.startsWith(QLatin1String("/F"), Qt::CaseInsensitive) ||
+                          argument.startsWith(QLatin1String("/T"), Qt::CaseInsensitive);
+    return (!isSwitch || QFileInfo(argument).isFile()) && QFileInfo::exists(argument);
+}
+
+QStringList programArguments(const QStringList &arguments)
+{
+    QStringList result;
+    for (const QString &argument : arguments)
+        result.append(isPlainFile(argument) ? QStringLiteral("/F") + QFileInfo(argument).absoluteFilePath()
+                                            : argument);
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication desktop(argc, argv);
+    platform::applyAppearance(desktop);
+    platform::QtPrompts prompts;
+    const QString folder = QApplication::applicationDirPath();
+    const bool seeded =
+        platform::reportFailures(prompts, [&] { shell::seedUserData(platform::desktopFolders(folder)); });
+    if (!seeded)
+        return EXIT_FAILURE;
+    const QStringList passed = programArguments(QApplication::arguments().sliced(1));
+    const int status = QProcess::execute(folder + QStringLiteral("/morvel-config"), passed);
+    if (status == shell::AlreadyRunning && !passed.isEmpty())
+        prompts.message(
+            platform::Icon::Information, platform::ProductTitle,
+            QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));
+    return status;
+}

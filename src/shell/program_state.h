@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/folders.h"
+#include "platform/locale.h"
+#include "platform/screen.h"
+#include "platform/stamp.h"
+#include "recorder/recorder_settings.h"
+#include "variables/catalogue.h"
+
+namespace shell {
+
+// All state of the running program that is not on the canvas. One instance, owned by the start.
+struct ProgramState
+{
+    platform::Folders folders;
+    platform::NumberLocale locale;
+    platform::Screen screen;
+    platform::Stamp stamp;
+    variables::Catalogue catalogue;
+    recorder::RecorderSettings settings;
+    recorder::MessageTable startMessages{}; // as read at start
+};
+
+} // namespace shell

@@ -1,0 +1,32 @@
+#include "shell/save_rules.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+namespace shell {
+
+std::optional<QString> longNameQuestion(const QString &path)
+{
+    constexpr qsizetype LongestName = 8;
+    if (QFileInfo(path).completeBaseName().size() <= LongestName)
+        return std::nullopt;
+    return QStringLiteral("File name should be maximum of 8 characters, Do you want to continue?");
+}
+
+std::optional<QString> recorderNameQuestion(const QString &path,
+                                            const std::function<QString(const QString &)> &rootOf)
+{
+    const QFileInfo file(path);
+    const bool named = file.fileName().compare(QLatin1String("DEFAULT.VGL"), Qt::CaseInsensitive) == 0;
+    const QString folder = QDir::cleanPath(file.absolutePath());
+    if (named && folder == QDir::cleanPath(rootOf(folder)))
+        return std::nullopt;
+    return QStringLiteral("Note that the file must be called DEFAULT.VGL and saved to the root \n"
+                          "directory of a CF card to be recognised by the MORVEL\n\n"
+                          "Do you want to continue ?");
+}
+
+QString volumeRoot(const QString &folder) { return QStorageInfo(folder).rootPath(); }
+
+} // namespace shell

@@ -1,0 +1,132 @@
+#include "shell/start_up.h"
+
+#include "platform/desktop/busy.h"
+#include "platform/file_replace.h"
+#include "platform/guards.h"
+#include "platform/settings_keys.h"
+#include "shell/frm_start_splash.h"
+#include "variables/definition_file.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+
+namespace shell {
+
+using platform::FileExists;
+using platform::Icon;
+using recorder::VideoStandard;
+
+StartUp::StartUp(const StartUpInput &input, platform::Prompts &prompts) : m_input(input), m_prompts(prompts)
+{
+    m_state.folders = input.folders;
+    m_state.locale = input.locale;
+    m_state.stamp = input.stamp;
+}
+
+StartUp::~StartUp() = default;
+
+bool StartUp::run()
+{
+    m_commandLine = parseCommandLine(rawCommandLine(m_input.arguments),
+                                     [](const QString &path) { return FileExists(path) != 0; });
+    readSettings();
+    makeFolders();
+    const QString ownIcon = m_state.folders.program + QStringLiteral("User.ico");
+    QApplication::setWindowIcon(QIcon(FileExists(ownIcon) ? ownIcon : QStringLiteral(":/icon.png")));
+    if (!loadVariables() || !loadMessages())
+        return false;
+    showWindows();
+    chooseFirstLayout();
+    return true;
+}
+
+void StartUp::readSettings()
+{
+    const platform::SettingsFile file(m_state.folders.ConfigFile());
+    const VideoStandard stored =
+        platform::keys::VideoType.read(file) == 0 ? VideoStandard::Ntsc : VideoStandard::Pal;
+    m_state.settings.VideoType = m_commandLine.videoOverride.value_or(stored);
+}
+
+void StartUp::makeFolders()
+{
+    QDir().mkpath(m_state.folders.pictureFolder());
+    QDir().mkpath(m_state.folders.FontFolder());
+}
+
+void StartUp::missingFile(const QString &name)
+{
+    m_prompts.message(
+        Icon::Critical, QStringLiteral("File not found"),
+        QStringLiteral("An important system file cannot be found, please uninstall and re-install\n") + name);
+}
+
+bool StartUp::loadVariables()
+{
+    const QString path = m_state.folders.variablesFile();
+    if (!FileExists(path)) {
+        missingFile(QStringLiteral("QLM6ConfigToolVars.cfg"));
+        return false;
+    }
+    // A damaged file is told of, and the program goes on with what it has.
+    platform::reportFailures(m_prompts, [&] {
+        if (variables::loadDefinitions(platform::readFile(path), m_state.catalogue) ==
+            variables::DefinitionStatus::Corrupted)
+            m_prompts.message(Icon::None, platform::ProductTitle, variables::CorruptedDefinitions);
+    });
+    return true;
+}
+
+bool StartUp::loadMessages()
+{
+    const QString path = m_state.folders.MessagesFile();
+    if (!FileExists(path)) {
+        missingFile(path);
+        return false;
+    }
+    platform::reportFailures(m_prompts, [&] {
+        recorder::readMessageTable(platform::readFile(path), m_state.settings.MessageTable);
+    });
+    m_state.startMessages = m_state.settings.MessageTable;
+    return true;
+}
+
+void StartUp::showWindows()
+{
+    m_window = std::make_unique<frmMain>(m_state, m_prompts);
+    frmStartSplash splash(m_state.folders, nullptr);
+    splash.show();
+    splash.repaint();
+    QApplication::processEvents();
+    m_window->design().load();
+    m_window->refreshFromState();
+    m_window->showMaximized();
+    platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
+    {
+        platform::Busy busy(m_window.get());
+        m_window->design().GenerateIcons(busy);
+    }
+    m_window->activateWindow();
+}
+
+void StartUp::chooseFirstLayout()
+{
+    if (!m_commandLine.layoutToOpen.isEmpty()) {
+        m_window->files().load(m_commandLine.layoutToOpen);
+        return;
+    }
+    if (offerLayout(m_state.folders.workspaceFile(), QStringLiteral("Do you want to load last layout ?")))
+        return;
+    offerLayout(m_state.folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
+}
+
+bool StartUp::offerLayout(const QString &path, const QString &question)
+{
+    if (!FileExists(path) || !m_prompts.ask(Icon::Question, platform::ProductTitle, question))
+        return false;
+    m_window->files().load(path);
+    return true;
+}
+
+} // namespace shell

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/desktop/qt_prompts.h"
+#include "shell/command_line.h"
+#include "shell/frm_main.h"
+
+#include <memory>
+
+namespace shell {
+
+// Where the raw material of a start comes from; tests fill it by hand.
+struct StartUpInput
+{
+    platform::Folders folders;
+    platform::NumberLocale locale;
+    platform::Stamp stamp;
+    QStringList arguments; // behind the program's name
+};
+
+// The load of the main window, step by step in its order.
+class StartUp
+{
+public:
+    StartUp(const StartUpInput &input, platform::Prompts &prompts);
+    ~StartUp();
+
+    // False when a file that the program cannot do without is missing; the message has been shown.
+    bool run();
+    frmMain *window() { return m_window.get(); }
+
+private:
+    void readSettings();
+    void makeFolders();
+    bool loadVariables();
+    bool loadMessages();
+    void missingFile(const QString &name);
+    void showWindows();
+    void chooseFirstLayout();
+    bool offerLayout(const QString &path, const QString &question);
+
+    StartUpInput m_input;
+    platform::Prompts &m_prompts;
+    CommandLine m_commandLine;
+    ProgramState m_state;
+    std::unique_ptr<frmMain> m_window;
+};
+
+} // namespace shell

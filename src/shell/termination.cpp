@@ -1,0 +1,60 @@
+#include "shell/termination.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QWidget>
+
+#ifdef Q_OS_UNIX
+#include <array>
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
+
+namespace shell {
+
+#ifdef Q_OS_UNIX
+namespace {
+
+// A signal handler may do no more than write to this descriptor.
+volatile std::sig_atomic_t signalDescriptor = -1;
+
+void tellEventLoop(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const auto written = ::write(signalDescriptor, &byte, 1);
+}
+
+void closeEverything()
+{
+    while (QWidget *modal = QApplication::activeModalWidget()) {
+        modal->close();
+        if (QApplication::activeModalWidget() == modal)
+            break; // a long task that cannot be closed
+    }
+    QApplication::closeAllWindows();
+}
+
+} // namespace
+
+void closeOnTermination(QObject *owner)
+{
+    std::array<int, 2> pair{};
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair.data()) != 0)
+        return;
+    signalDescriptor = pair[0];
+    auto *notifier = new QSocketNotifier(pair[1], QSocketNotifier::Read, owner);
+    QObject::connect(notifier, &QSocketNotifier::activated, owner, [notifier](QSocketDescriptor descriptor) {
+        notifier->setEnabled(false);
+        char byte = 0;
+        [[maybe_unused]] const auto count = ::read(static_cast<int>(descriptor), &byte, 1);
+        closeEverything();
+    });
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, &tellEventLoop);
+}
+#else
+void closeOnTermination(QObject *) {}
+#endif
+
+} // namespace shell

@@ -1,0 +1,128 @@
+#include "surface/canvas.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace surface {
+
+namespace {
+
+void paintDots(QPainter &painter, const QSize &size, const CanvasRules &rules)
+{
+    const double dx = rules.grid.spacing / static_cast<double>(rules.screen.tx);
+    const double dy = rules.grid.spacing / static_cast<double>(rules.screen.ty);
+    if (rules.grid.spacing < 1)
+        return;
+    QList<QPoint> dots;
+    for (int row = 0; row * dy < size.height(); ++row) {
+        for (int column = 0; column * dx < size.width(); ++column)
+            dots.append({static_cast<int>(column * dx), static_cast<int>(row * dy)});
+    }
+    painter.drawPoints(dots.constData(), static_cast<int>(dots.size()));
+}
+
+} // namespace
+
+Canvas::Canvas(QWidget *parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("pic"));
+    setAccessibleName(QStringLiteral("Design canvas"));
+    setMouseTracking(true);
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Canvas::display(const QPixmap &picture, const CanvasRules &rules, bool dots)
+{
+    m_screen = rules.screen;
+    m_picture = picture;
+    const QSize size(recorder::CanvasWidth, recorder::canvasHeight(rules.standard));
+    setFixedSize(size);
+    m_backdrop = QPixmap(size);
+    m_backdrop.fill(Qt::black);
+    QPainter painter(&m_backdrop);
+    painter.drawPixmap(0, 0, picture);
+    painter.setPen(palette().color(QPalette::WindowText));
+    if (dots)
+        paintDots(painter, size, rules);
+    update();
+}
+
+QPointF Canvas::twips(QPointF pixels) const
+{
+    return {pixels.x() * static_cast<double>(m_screen.tx), pixels.y() * static_cast<double>(m_screen.ty)};
+}
+
+void Canvas::setBand(const std::optional<QRect> &band)
+{
+    // Only the old and the new outline are painted again.
+    for (const auto &outline : {m_band, band}) {
+        if (outline)
+            update(outline->adjusted(-1, -1, 2, 2));
+    }
+    m_band = band;
+}
+
+void Canvas::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.drawPixmap(event->rect(), m_backdrop, event->rect());
+    if (!m_band)
+        return;
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawRect(*m_band);
+    painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
+    painter.drawRect(*m_band);
+}
+
+void Canvas::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        emit rightPressed(twips(event->position()), event->globalPosition().toPoint());
+        return;
+    }
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_bandStart = event->position().toPoint();
+    setBand(QRect(m_bandStart, QSize(0, 0)));
+    emit pressed(twips(event->position()));
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_band)
+        setBand(QRect(m_bandStart, event->position().toPoint()).normalized());
+    emit moved(twips(event->position()));
+}
+
+void Canvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_band)
+        return;
+    setBand(std::nullopt);
+    emit bandFinished(twips(m_bandStart), twips(event->position()));
+}
+
+// The menu key; the right button has been served at its press.
+void Canvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        emit rightPressed(twips(rect().center()), mapToGlobal(rect().center()));
+}
+
+void Canvas::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasFormat(LibraryMime))
+        event->acceptProposedAction();
+}
+
+void Canvas::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    emit dropped(QString::fromUtf8(event->mimeData()->data(LibraryMime)), twips(event->position()));
+}
+
+} // namespace surface

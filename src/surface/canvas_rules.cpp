@@ -1,0 +1,109 @@
+#include "surface/canvas_rules.h"
+
+#include "common/rounding.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace surface {
+
+namespace {
+
+constexpr double DeadZonePixels = 5;
+constexpr float SmallestSide = 180;  // twips: two pixels of content
+constexpr double SmallestBand = 100; // twips
+
+float snapped(float value, const Grid &grid)
+{
+    if (!grid.snaps)
+        return value;
+    return static_cast<float>(SnapXY({static_cast<double>(value), 0}, grid.spacing).x());
+}
+
+// One axis of a resize: the edges of the box, the pointer, the canvas' end.
+struct Edges
+{
+    float low;
+    float high;
+};
+
+Edges draggedEdges(Edges edges, bool movesLow, bool movesHigh, float pointer, float canvasEnd,
+                   const Grid &grid)
+{
+    if (movesLow) {
+        const float wanted = snapped(std::min(edges.low + pointer, edges.high - SmallestSide), grid);
+        edges.low = std::min(std::max(wanted, 0.0F), edges.high - SmallestSide);
+    }
+    if (movesHigh) {
+        const float wanted = snapped(std::max(edges.low + pointer, edges.low + SmallestSide), grid);
+        edges.high = std::max(std::min(wanted, canvasEnd), edges.low + SmallestSide);
+    }
+    return edges;
+}
+
+} // namespace
+
+QPointF SnapXY(QPointF place, int spacing)
+{
+    if (spacing <= 0)
+        return place;
+    return {std::floor(place.x() / spacing) * spacing, std::floor(place.y() / spacing) * spacing};
+}
+
+bool insideDeadZone(QPointF start, QPointF now, const platform::Screen &screen)
+{
+    return std::fabs(now.x() - start.x()) <= DeadZonePixels * static_cast<double>(screen.tx) &&
+           std::fabs(now.y() - start.y()) <= DeadZonePixels * static_cast<double>(screen.ty);
+}
+
+Box clampedToCanvas(const Box &box, const CanvasRules &rules)
+{
+    Box clamped = box;
+    if (box.right() > rules.width())
+        clamped.Left = rules.width() - box.Width;
+    if (box.bottom() > rules.height())
+        clamped.Top = rules.height() - box.Height;
+    clamped.Left = std::max(clamped.Left, 0.0F);
+    clamped.Top = std::max(clamped.Top, 0.0F);
+    return clamped;
+}
+
+Box movedBox(const Box &box, QPointF start, QPointF now, const CanvasRules &rules)
+{
+    const QPointF shift = now - start;
+    Box moved = box;
+    moved.Left = snapped(box.Left + static_cast<float>(shift.x()), rules.grid);
+    moved.Top = snapped(box.Top + static_cast<float>(shift.y()), rules.grid);
+    return clampedToCanvas(moved, rules);
+}
+
+Box resizedBox(const Box &box, controls::Handle handle, QPointF now, const CanvasRules &rules)
+{
+    const Edges x = draggedEdges({box.Left, box.right()}, movesLeft(handle), movesRight(handle),
+                                 static_cast<float>(now.x()), rules.width(), rules.grid);
+    const Edges y = draggedEdges({box.Top, box.bottom()}, movesTop(handle), movesBottom(handle),
+                                 static_cast<float>(now.y()), rules.height(), rules.grid);
+    return {x.low, y.low, x.high - x.low, y.high - y.low};
+}
+
+bool isSelectingBand(QPointF start, QPointF end)
+{
+    return std::fabs(end.x() - start.x()) > SmallestBand && std::fabs(end.y() - start.y()) > SmallestBand;
+}
+
+bool bandHolds(QPointF start, QPointF end, const Box &box)
+{
+    const auto between = [](double a, double b, float value) {
+        return static_cast<double>(value) >= std::min(a, b) && static_cast<double>(value) <= std::max(a, b);
+    };
+    return between(start.x(), end.x(), box.Left) && between(start.y(), end.y(), box.Top);
+}
+
+QString positionText(QPointF twips, const platform::Screen &screen)
+{
+    return QStringLiteral("Pos (x, y) : %1, %2")
+        .arg(common::toIntegerClamped<int>(twips.x() / static_cast<double>(screen.tx)))
+        .arg(common::toIntegerClamped<int>(twips.y() / static_cast<double>(screen.ty)));
+}
+
+} // namespace surface

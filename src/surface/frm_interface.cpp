@@ -1,0 +1,259 @@
+#include "surface/frm_interface.h"
+
+#include "platform/guards.h"
+#include "surface/canvas.h"
+#include "surface/library_icons.h"
+#include "surface/library_panel.h"
+#include "surface/overlay_picture.h"
+#include "surface/panel_area.h"
+#include "surface/variable_tree.h"
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace surface {
+
+using controls::OverlayControl;
+using platform::skipFailures;
+using recorder::VideoStandard;
+
+namespace {
+
+const QString UntitledCaption = QStringLiteral("Untitled");
+
+} // namespace
+
+frmInterface::frmInterface(const InterfaceContext &context)
+    : m_context(context), m_canvas(new Canvas(nullptr)), m_library(new LibraryPanel(context.folders)),
+      m_variables(new VariableTree(context.catalogue, context.locale)), m_caption(UntitledCaption)
+{
+    setObjectName(QStringLiteral("frmInterface"));
+    m_panels = new PanelArea(context.screen.tx, {{{QStringLiteral("Variables"), m_variables},
+                                                  {QStringLiteral("Control library"), m_library},
+                                                  {m_caption, makeDesignPanel()}}});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_panels);
+    connectCanvas();
+}
+
+frmInterface::~frmInterface() = default;
+
+QWidget *frmInterface::makeDesignPanel()
+{
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(m_canvas);
+    scroll->setAlignment(Qt::AlignCenter);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setBackgroundRole(QPalette::Mid);
+    return scroll;
+}
+
+void frmInterface::connectCanvas()
+{
+    connect(m_canvas, &Canvas::pressed, this, [this](QPointF twips) {
+        m_lastMousePosition = twips;
+        ResetControlGridColour();
+    });
+    connect(m_canvas, &Canvas::rightPressed, this, [this](QPointF twips, const QPoint &globalPosition) {
+        m_lastMousePosition = twips;
+        if (m_IsPlayMode)
+            return;
+        const QList<OverlayControl *> all = controls();
+        const bool grouped =
+            std::any_of(all.begin(), all.end(), [](const auto *c) { return c->IsSelectedToGroup(); });
+        if (grouped)
+            emit groupMenuRequested(globalPosition);
+        else
+            emit canvasMenuRequested(globalPosition);
+    });
+    connect(m_canvas, &Canvas::moved, this,
+            [this](QPointF twips) { emit positionShown(positionText(twips, screen())); });
+    connect(m_canvas, &Canvas::bandFinished, this, &frmInterface::selectBand);
+    const auto addByKey = [this](const QString &key, QPointF twips) {
+        ResetControlGridColour();
+        if (const controls::Family *family = controls::familyOfKey(key))
+            addControl(family->type, twips);
+    };
+    connect(m_canvas, &Canvas::dropped, this, addByKey);
+    connect(m_library, &LibraryPanel::activated, this,
+            [this, addByKey](const QString &key) { addByKey(key, m_lastMousePosition); });
+    connect(m_library, &LibraryPanel::used, this, &frmInterface::ResetControlGridColour);
+    connect(m_variables, &VariableTree::used, this, &frmInterface::ResetControlGridColour);
+}
+
+CanvasRules frmInterface::rules() const { return {m_context.screen, VideoType(), m_grid}; }
+
+void frmInterface::setCaption(const QString &name)
+{
+    m_caption = name;
+    m_panels->panel(PanelId::Design).setTitle(name);
+}
+
+QList<OverlayControl *> frmInterface::bottomToTop() const
+{
+    QList<OverlayControl *> stacked;
+    for (QObject *child : m_canvas->children()) {
+        auto *control = qobject_cast<OverlayControl *>(child);
+        if (control && m_registry.controls().contains(control))
+            stacked.append(control);
+    }
+    return stacked;
+}
+
+OverlayControl *frmInterface::loadControl(controls::ControlType family)
+{
+    int index = m_registry.count(family);
+    OverlayControl *control = m_registry.loadControl(family, index, *this, m_canvas);
+    if (control)
+        connectControl(control);
+    return control;
+}
+
+void frmInterface::showControl(OverlayControl &control)
+{
+    control.setColour(m_backColour, m_labelColour);
+    control.setMode(m_IsPlayMode ? OverlayControl::Mode::Play : OverlayControl::Mode::Design);
+    drawBack(control);
+    control.show();
+}
+
+void frmInterface::addControl(controls::ControlType family, QPointF twips)
+{
+    OverlayControl *control = loadControl(family);
+    if (!control)
+        return;
+    const QSizeF size = control->startSize();
+    const auto place = [&](float left, float top) {
+        Box box = control->box();
+        box.Left = left;
+        box.Top = top;
+        const Box clamped = clampedToCanvas(box, rules());
+        control->moveTo(clamped.Left, clamped.Top);
+    };
+    control->setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
+    place(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
+    skipFailures([&] { control->applyInitialProperties(); });
+    place(control->box().Left, control->box().Top); // the initial properties may have sized it
+    control->updatePosition();
+    showControl(*control);
+    control->setFocus();
+    m_changed = true;
+}
+
+void frmInterface::connectControl(OverlayControl *control)
+{
+    const auto move = [this, control](float x0, float y0, float x1, float y1) {
+        MoveTo(*control, QPointF(x0, y0), QPointF(x1, y1));
+    };
+    const auto resize = [this, control](controls::Handle handle, float x, float y) {
+        ResizeTo(*control, handle, QPointF(x, y));
+    };
+    connect(control, &OverlayControl::Drag, this, move);
+    connect(control, &OverlayControl::Relocate, this, move);
+    connect(control, &OverlayControl::ResizeDrag, this, resize);
+    connect(control, &OverlayControl::Resize, this, resize);
+    connect(control, &OverlayControl::Delete, this, [this, control] {
+        m_registry.unload(control);
+        m_changed = true;
+    });
+    connect(control, &OverlayControl::Reposition, this,
+            [this, control](float x, float y) { reposition(*control, x, y); });
+    connect(control, &OverlayControl::DrawBack, this, [this, control] { drawBack(*control); });
+    connect(control, &OverlayControl::BringToFront, control, &QWidget::raise);
+}
+
+void frmInterface::MoveTo(OverlayControl &control, QPointF start, QPointF now)
+{
+    if (!control.hasLeftDeadZone() && insideDeadZone(start, now, screen()))
+        return;
+    control.leaveDeadZone();
+    const Box moved = movedBox(control.box(), start, now, rules());
+    control.moveTo(moved.Left, moved.Top);
+    control.updatePosition();
+    drawBack(control);
+    m_changed = true;
+    showPosition(control);
+}
+
+void frmInterface::ResizeTo(OverlayControl &control, controls::Handle handle, QPointF now)
+{
+    const Box wanted = resizedBox(control.box(), handle, now, rules());
+    control.setBox(control.resizedBox(wanted, handle));
+    control.applyResize();
+    drawBack(control);
+    m_changed = true;
+    showPosition(control);
+}
+
+void frmInterface::reposition(OverlayControl &control, float x, float y)
+{
+    if (control.repositionsInTwips())
+        control.moveTo(x, y);
+    else
+        control.moveTo(x * screen().tx, y * screen().ty);
+}
+
+void frmInterface::showPosition(const OverlayControl &control)
+{
+    emit positionShown(positionText(QPointF(control.box().Left, control.box().Top), screen()));
+}
+
+void frmInterface::drawBack(OverlayControl &control)
+{
+    if (control.isSeeThrough())
+        control.setBackImage(captureBelow(control));
+}
+
+QImage frmInterface::captureBelow(const OverlayControl &control)
+{
+    return pictureBelow(control, m_canvas->backdrop(), bottomToTop());
+}
+
+void frmInterface::RefreshBackground()
+{
+    for (OverlayControl *control : bottomToTop())
+        drawBack(*control);
+}
+
+QImage frmInterface::renderPreview() const { return overlayPicture(m_canvas->picture(), bottomToTop()); }
+
+void frmInterface::showControlMenu(OverlayControl &control, const QPoint &globalPosition)
+{
+    emit controlMenuRequested(&control, globalPosition);
+}
+
+void frmInterface::showGroupMenu(const QPoint &globalPosition) { emit groupMenuRequested(globalPosition); }
+
+void frmInterface::ResetControlGridColour()
+{
+    for (OverlayControl *control : controls())
+        control->SetControlGridColour(controls::FrameNormal);
+}
+
+void frmInterface::selectBand(QPointF start, QPointF end)
+{
+    if (m_IsPlayMode || !isSelectingBand(start, end))
+        return;
+    for (OverlayControl *control : controls()) {
+        if (bandHolds(start, end, control->box()))
+            control->SetControlGroup(1);
+    }
+}
+
+void frmInterface::mnuNew_Click()
+{
+    m_registry.clear();
+    recorder::resetForNewLayout(m_context.settings, m_context.startMessages);
+    setCaption(UntitledCaption);
+    emit layoutChanged();
+}
+
+void frmInterface::refresh()
+{
+    RefreshBackground();
+    m_variables->RegenerateVariableTree();
+    emit layoutChanged();
+}
+
+} // namespace surface

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "controls/control_host.h"
+#include "controls/control_surface.h"
+#include "platform/progress.h"
+#include "platform/settings_file.h"
+#include "surface/canvas_rules.h"
+#include "surface/control_registry.h"
+#include "surface/panel_layout.h"
+
+#include <QPixmap>
+#include <QPointer>
+#include <QWidget>
+
+namespace surface {
+
+class Canvas;
+class LibraryPanel;
+class Panel;
+class PanelArea;
+class VariableTree;
+
+// What the design window works on; everything is owned by the program's start.
+struct InterfaceContext
+{
+    variables::Catalogue &catalogue;
+    recorder::RecorderSettings &settings;
+    const recorder::MessageTable &startMessages; // as read at start
+    const platform::Folders &folders;
+    platform::Prompts &prompts;
+    const platform::NumberLocale &locale;
+    platform::Screen screen;
+};
+
+// The design window: canvas, control library and variable tree. The controls on the canvas are the layout.
+class frmInterface final : public QWidget, public controls::ControlHost, public controls::ControlSurface
+{
+    Q_OBJECT
+
+public:
+    explicit frmInterface(const InterfaceContext &context);
+    ~frmInterface() override;
+
+    // First step of its life, after construction and before it is seen.
+    void load();
+    void GenerateIcons(platform::Progress &progress);
+    void saveGeometry();
+    void mnuNew_Click();
+    // Adds a control of the family with its corner at this point of the canvas (twips).
+    void addControl(controls::ControlType family, QPointF twips);
+    void addControlAtLastPosition(controls::ControlType family) { addControl(family, m_lastMousePosition); }
+
+    const QString &caption() const { return m_caption; }
+    void setCaption(const QString &name);
+    PanelArea &panels() { return *m_panels; }
+
+    // ControlSurface
+    QList<controls::OverlayControl *> controls() const override { return m_registry.controls(); }
+    controls::OverlayControl *loadControl(controls::ControlType family) override;
+    void showControl(controls::OverlayControl &control) override;
+    QImage renderPreview() const override;
+    void setVideoStandard(recorder::VideoStandard standard) override;
+    void refresh() override;
+
+    // ControlHost
+    bool IsPlayMode() const override { return m_IsPlayMode; }
+    bool isCapturing() const override { return m_capturing; }
+    const platform::Screen &screen() const override { return m_context.screen; }
+    const platform::NumberLocale &locale() const override { return m_context.locale; }
+    platform::Prompts &prompts() override { return m_context.prompts; }
+    const variables::Catalogue &catalogue() const override { return m_context.catalogue; }
+    recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
+    QImage captureBelow(const controls::OverlayControl &control) override;
+    void showControlMenu(controls::OverlayControl &control, const QPoint &globalPosition) override;
+    void showGroupMenu(const QPoint &globalPosition) override;
+    void ResetControlGridColour() override;
+    void RefreshBackground() override;
+    void UserControlChanged() override { m_changed = true; }
+
+signals:
+    void positionShown(const QString &text);
+    void controlMenuRequested(controls::OverlayControl *control, const QPoint &globalPosition);
+    void canvasMenuRequested(const QPoint &globalPosition);
+    void groupMenuRequested(const QPoint &globalPosition);
+    void layoutChanged(); // the layout's caption, standard or settings may differ now
+
+private:
+    CanvasRules rules() const;
+    QWidget *makeDesignPanel();
+    void connectCanvas();
+    void connectControl(controls::OverlayControl *control);
+    void loadBackground(recorder::VideoStandard standard);
+    void initGrid(const Grid &grid);
+    void ShowGrid();
+    void restoreSplitter(const platform::SettingsFile &file);
+    void setCurBackColour(quint32 backColour, quint32 labelColour);
+
+    void MoveTo(controls::OverlayControl &control, QPointF start, QPointF now);
+    void ResizeTo(controls::OverlayControl &control, controls::Handle handle, QPointF now);
+    void reposition(controls::OverlayControl &control, float x, float y);
+    void drawBack(controls::OverlayControl &control);
+    void showPosition(const controls::OverlayControl &control);
+    void selectBand(QPointF start, QPointF end);
+    QList<controls::OverlayControl *> bottomToTop() const;
+
+    InterfaceContext m_context;
+    ControlRegistry m_registry;
+    Canvas *m_canvas;
+    LibraryPanel *m_library;
+    VariableTree *m_variables;
+    PanelArea *m_panels;
+    QPixmap m_picPAL, m_picNTSC;
+    Grid m_grid;
+    quint32 m_backColour = 0;
+    quint32 m_labelColour = 0;
+    bool m_IsPlayMode = false;
+    bool m_capturing = false;
+    bool m_changed = false;
+    QPointF m_lastMousePosition; // twips
+    QString m_caption;
+};
+
+} // namespace surface

@@ -1,0 +1,139 @@
+// The design window's start, its background pictures and grid, and what it keeps in the settings file.
+
+#include "platform/guards.h"
+#include "surface/canvas.h"
+#include "surface/frm_interface.h"
+#include "surface/library_icons.h"
+#include "surface/library_panel.h"
+#include "surface/panel_area.h"
+#include "surface/variable_tree.h"
+
+namespace surface {
+
+using controls::OverlayControl;
+using platform::SettingsFile;
+using recorder::VideoStandard;
+namespace keys = platform::keys;
+
+namespace {
+
+// Colours that every control is given, packed 0x00BBGGRR.
+constexpr quint32 DefaultBackColour = 0x4A3B2F;
+constexpr quint32 DefaultLabelColour = 0xFFFFFF;
+
+struct Background
+{
+    const platform::TextKey &key;
+    const char *builtIn;
+};
+
+Background backgroundOf(VideoStandard standard)
+{
+    if (standard == VideoStandard::Pal)
+        return {keys::PalPicture, ":/pal_background.jpg"};
+    return {keys::NtscPicture, ":/ntsc_background.jpg"};
+}
+
+} // namespace
+
+void frmInterface::load()
+{
+    loadBackground(VideoStandard::Pal);
+    loadBackground(VideoStandard::Ntsc);
+    const SettingsFile file(m_context.folders.ConfigFile());
+    m_grid = {keys::GridSize.read(file), keys::ShowGrid.read(file) == 1, keys::SnapGrid.read(file) == 1};
+    m_panels->restore(file);
+    restoreSplitter(file);
+    setCurBackColour(DefaultBackColour, DefaultLabelColour);
+    m_IsPlayMode = false;
+    initGrid(m_grid);
+    m_library->loadControlTree();
+    m_context.catalogue.staging = m_context.catalogue.live;
+    m_variables->RegenerateVariableTree();
+    m_context.settings.ChapterList.clear();
+}
+
+// A picture that is missing leaves the previous one of its standard, at start the built-in one.
+void frmInterface::loadBackground(VideoStandard standard)
+{
+    QPixmap &picture = standard == VideoStandard::Pal ? m_picPAL : m_picNTSC;
+    const Background background = backgroundOf(standard);
+    const SettingsFile file(m_context.folders.ConfigFile());
+    const QString path =
+        platform::nameWithin(m_context.folders.GetAppDataFolder(), background.key.read(file));
+    QPixmap loaded;
+    if (!path.isEmpty() && loaded.load(path))
+        picture = loaded;
+    else if (picture.isNull())
+        picture.load(QLatin1String(background.builtIn));
+}
+
+void frmInterface::initGrid(const Grid &grid)
+{
+    m_grid = grid;
+    ShowGrid();
+}
+
+void frmInterface::ShowGrid()
+{
+    m_canvas->display(VideoType() == VideoStandard::Pal ? m_picPAL : m_picNTSC, rules(),
+                      m_grid.shown && !m_IsPlayMode);
+}
+
+void frmInterface::setCurBackColour(quint32 backColour, quint32 labelColour)
+{
+    m_backColour = backColour;
+    m_labelColour = labelColour;
+    for (OverlayControl *control : controls())
+        control->setColour(backColour, labelColour);
+}
+
+void frmInterface::setVideoStandard(VideoStandard standard)
+{
+    loadBackground(standard);
+    m_context.settings.VideoType = standard;
+    ShowGrid();
+    const float height = rules().height();
+    for (OverlayControl *control : controls()) {
+        if (standard == VideoStandard::Ntsc)
+            control->fitCanvasHeight(height);
+        control->update();
+    }
+    RefreshBackground();
+    emit layoutChanged();
+}
+
+void frmInterface::GenerateIcons(platform::Progress &progress)
+{
+    m_capturing = true;
+    surface::GenerateIcons(*this, m_context.folders, progress);
+    m_capturing = false;
+    m_library->loadControlList();
+}
+
+void frmInterface::restoreSplitter(const SettingsFile &file)
+{
+    if (!keys::LibrarySplitter.stored(file))
+        return;
+    // The places are shares of the panel; their unit does not matter.
+    const int top = keys::LibrarySplitter.top.read(file);
+    m_library->setSizes({qMax(top, 1), qMax(keys::Library.height.read(file) - top, 1)});
+}
+
+void frmInterface::saveGeometry()
+{
+    SettingsFile file(m_context.folders.ConfigFile());
+    keys::VideoType.write(file, static_cast<int>(VideoType()));
+    m_panels->save(file);
+    const auto twips = [this](int pixels) {
+        return static_cast<int>(static_cast<float>(pixels) * screen().ty);
+    };
+    const QRect bar = m_library->handle(1)->geometry();
+    keys::LibrarySplitter.left.write(file, twips(bar.left()));
+    keys::LibrarySplitter.top.write(file, twips(bar.top()));
+    keys::LibrarySplitter.width.write(file, twips(bar.width()));
+    keys::LibrarySplitter.height.write(file, twips(bar.height()));
+    file.save();
+}
+
+} // namespace surface

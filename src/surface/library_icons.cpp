@@ -1,0 +1,68 @@
+#include "surface/library_icons.h"
+
+#include "controls/overlay_control.h"
+#include "platform/guards.h"
+
+#include <QPainter>
+
+#include <memory>
+
+namespace surface {
+
+namespace {
+
+constexpr int PictureSide = 183; // pixels: 203 less the editing frame
+const QColor Plate(0x2f, 0x3b, 0x4a);
+
+// So that there is something to see, the icon shows two thirds of the scale.
+void showTwoThirds(controls::OverlayControl &control)
+{
+    platform::skipFailures([&] {
+        const float low = std::get<float>(control.read("curMin"));
+        const float high = std::get<float>(control.read("curMax"));
+        control.write("newDefaultVal", low + (high - low) * 2 / 3);
+    });
+}
+
+QImage standardPicture(const controls::Family &family, controls::ControlHost &host)
+{
+    QWidget canvas;
+    const std::unique_ptr<controls::OverlayControl> control(family.create(family, host, &canvas));
+    const float side = PictureSide * host.screen().tx;
+    const QSizeF start = control->startSize();
+    const auto width = static_cast<float>(start.width());
+    const auto height = static_cast<float>(start.height());
+    control->setBox({(side - width) / 2, (side - height) / 2, width, height});
+    control->applyInitialProperties();
+    const controls::Box box = control->box();
+    control->moveTo((side - box.Width) / 2, (side - box.Height) / 2);
+    control->updatePosition();
+    showTwoThirds(*control);
+
+    QImage picture(PictureSide, PictureSide, QImage::Format_RGB32);
+    picture.fill(Plate);
+    QPainter painter(&picture);
+    control->paintPreview(painter);
+    return picture;
+}
+
+} // namespace
+
+void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders,
+                   platform::Progress &progress)
+{
+    progress.begin(QStringLiteral("Preparing the control library....."));
+    int done = 0;
+    for (const controls::Family &family : controls::families()) {
+        if (family.create) {
+            platform::skipFailures([&] {
+                const QImage picture = standardPicture(family, host);
+                picture.save(folders.cache + QLatin1String(family.iconFile), "BMP");
+            });
+        }
+        progress.setValue(++done * 100 / static_cast<int>(controls::families().size()));
+    }
+    progress.end();
+}
+
+} // namespace surface

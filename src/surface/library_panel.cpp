@@ -1,0 +1,95 @@
+#include "surface/library_panel.h"
+
+#include "controls/families.h"
+#include "surface/canvas.h"
+#include "surface/drag_source.h"
+
+namespace surface {
+
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+constexpr QSize PictureSize(72, 72);
+const QString PanelFont = QStringLiteral("QL Sans Serif");
+constexpr int PanelFontPoints = 8;
+
+using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
+using List = DragSource<QListWidget, QListWidgetItem>;
+
+// Families that cannot be placed are shown but not dragged.
+QString draggedKey(const QString &key)
+{
+    const controls::Family *family = controls::familyOfKey(key);
+    return family && family->create ? key : QString();
+}
+
+} // namespace
+
+LibraryPanel::LibraryPanel(const platform::Folders &folders)
+    : QSplitter(Qt::Vertical), m_folders(folders),
+      m_tree(
+          new Tree(LibraryMime,
+                   [](const QTreeWidgetItem &item) { return draggedKey(item.data(0, KeyRole).toString()); })),
+      m_list(new List(LibraryMime,
+                      [](const QListWidgetItem &item) { return draggedKey(item.data(KeyRole).toString()); }))
+{
+    setChildrenCollapsible(false);
+    const QFont font(PanelFont, PanelFontPoints);
+    m_tree->setObjectName(QStringLiteral("trvControl"));
+    m_tree->setAccessibleName(QStringLiteral("Control library"));
+    m_tree->setHeaderHidden(true);
+    m_tree->setIndentation(12);
+    m_tree->setFont(font);
+    m_list->setObjectName(QStringLiteral("lvControl"));
+    m_list->setAccessibleName(QStringLiteral("Entries of the chosen kind"));
+    m_list->setViewMode(QListView::IconMode);
+    m_list->setIconSize(PictureSize);
+    m_list->setResizeMode(QListView::Adjust);
+    m_list->setMovement(QListView::Static);
+    m_list->setSpacing(4);
+    m_list->setFont(font);
+    addWidget(m_tree);
+    addWidget(m_list);
+    setStretchFactor(0, 3);
+    setStretchFactor(1, 2);
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, &LibraryPanel::loadControlList);
+    connect(m_tree, &QTreeWidget::itemActivated, this,
+            [this](const QTreeWidgetItem *item) { emit activated(item->data(0, KeyRole).toString()); });
+    connect(m_list, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem *item) { emit activated(item->data(KeyRole).toString()); });
+    connect(m_tree, &QTreeWidget::itemPressed, this, &LibraryPanel::used);
+    connect(m_list, &QListWidget::itemPressed, this, &LibraryPanel::used);
+}
+
+void LibraryPanel::loadControlTree()
+{
+    m_tree->clear();
+    for (const controls::Family &family : controls::families()) {
+        auto *root = new QTreeWidgetItem(m_tree, {QLatin1String(family.caption)});
+        root->setData(0, KeyRole, QLatin1String(family.rootKey));
+        root->setIcon(0, QIcon(QStringLiteral(":/families/%1.png").arg(QLatin1String(family.art))));
+        root->setExpanded(true);
+    }
+    m_tree->setCurrentItem(m_tree->topLevelItem(0));
+}
+
+QString LibraryPanel::selectedKey() const
+{
+    const QTreeWidgetItem *item = m_tree->currentItem();
+    return item ? item->data(0, KeyRole).toString() : QString();
+}
+
+void LibraryPanel::loadControlList()
+{
+    m_list->clear();
+    const QString key = selectedKey();
+    const controls::Family *family = controls::familyOfKey(key);
+    if (!family)
+        return;
+    // A picture that is missing leaves the entry without one.
+    const QPixmap picture(m_folders.cache + QLatin1String(family->iconFile));
+    auto *entry = new QListWidgetItem(QIcon(picture), QLatin1String(family->caption), m_list);
+    entry->setData(KeyRole, key);
+}
+
+} // namespace surface

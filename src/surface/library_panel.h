@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/folders.h"
+
+#include <QListWidget>
+#include <QSplitter>
+#include <QTreeWidget>
+
+namespace surface {
+
+// The control library: the tree of families and, below the splitter bar, the pictures of the chosen family's
+// entries. An entry is dragged to the canvas, or added with Enter.
+class LibraryPanel final : public QSplitter
+{
+    Q_OBJECT
+
+public:
+    explicit LibraryPanel(const platform::Folders &folders);
+
+    void loadControlTree();
+    // Shows the entries of the selected node with their pictures.
+    void loadControlList();
+    // Key of the selected node; empty when none is.
+    QString selectedKey() const;
+
+signals:
+    void activated(const QString &key);
+    void used(); // a press that takes the surface's group marks away
+
+private:
+    const platform::Folders &m_folders;
+    QTreeWidget *m_tree; // trvControl
+    QListWidget *m_list; // lvControl
+};
+
+} // namespace surface

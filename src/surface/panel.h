@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+namespace surface {
+
+// A titled frame inside the design window that the user can move by its title, size by its edges and close.
+class Panel final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    Panel(const QString &title, QWidget *content, QWidget *parent);
+
+    void setTitle(const QString &title) { m_title->setText(title); }
+
+signals:
+    void closeRequested();
+    void arranged(); // by the user, at every step
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    Qt::Edges edgesAt(const QPoint &position) const;
+    void follow(const QPoint &globalPosition);
+
+    QLabel *m_title;
+    Qt::Edges m_edges; // being dragged; none means that the panel is moved
+    bool m_dragging = false;
+    QPoint m_grabbed; // global position of the press
+    QRect m_before;   // geometry at the press
+};
+
+} // namespace surface

@@ -1,0 +1,111 @@
+#include "surface/panel_area.h"
+
+#include "common/rounding.h"
+
+#include <QResizeEvent>
+
+namespace surface {
+
+namespace {
+
+using platform::NumberKey;
+using platform::PanelKeys;
+namespace keys = platform::keys;
+
+const PanelKeys &keysOf(std::size_t panel)
+{
+    static constexpr std::array<const PanelKeys *, 3> Keys{&keys::Functions, &keys::Library, &keys::Design};
+    return *Keys[panel];
+}
+
+int toPixels(int twips, float twipsPerPixel)
+{
+    return common::toIntegerClamped<int>(twips / static_cast<double>(twipsPerPixel));
+}
+
+int toTwips(int pixels, float twipsPerPixel)
+{
+    return common::toIntegerClamped<int>(pixels * static_cast<double>(twipsPerPixel));
+}
+
+} // namespace
+
+PanelArea::PanelArea(float twipsPerPixel, const std::array<std::pair<QString, QWidget *>, 3> &panels)
+    : m_twipsPerPixel(twipsPerPixel)
+{
+    for (std::size_t i = 0; i < panels.size(); ++i) {
+        m_panels[i] = new Panel(panels[i].first, panels[i].second, this);
+        connect(m_panels[i], &Panel::closeRequested, this,
+                [this, i] { setPanelVisible(static_cast<PanelId>(i), false); });
+        connect(m_panels[i], &Panel::arranged, this, [this] { m_automatic = false; });
+    }
+}
+
+void PanelArea::setPanelVisible(PanelId id, bool visible)
+{
+    m_visible[static_cast<std::size_t>(id)] = visible;
+    panel(id).setVisible(visible);
+    if (visible)
+        panel(id).raise();
+    emit visibilityChanged(id, visible);
+}
+
+void PanelArea::restore(const platform::SettingsFile &file)
+{
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        const PanelKeys &key = keysOf(i);
+        m_automatic = m_automatic && !key.stored(file);
+        const auto pixels = [&](const NumberKey &number) {
+            return toPixels(number.read(file), m_twipsPerPixel);
+        };
+        m_stored[i] = QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
+        m_visible[i] = keys::Visible[i].read(file) != 0;
+        m_panels[i]->setVisible(m_visible[i]);
+    }
+}
+
+void PanelArea::save(platform::SettingsFile &file) const
+{
+    const PanelRects rects = current();
+    for (std::size_t i = 0; i < rects.size(); ++i) {
+        const PanelKeys &key = keysOf(i);
+        const auto write = [&](const NumberKey &number, int pixels) {
+            number.write(file, toTwips(pixels, m_twipsPerPixel));
+        };
+        write(key.left, rects[i].left());
+        write(key.top, rects[i].top());
+        write(key.width, rects[i].width());
+        write(key.height, rects[i].height());
+    }
+}
+
+PanelRects PanelArea::current() const
+{
+    PanelRects rects;
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        rects[i] = m_panels[i]->geometry();
+    return rects;
+}
+
+void PanelArea::arrange(const PanelRects &rects)
+{
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        m_panels[i]->setGeometry(rects[i]);
+}
+
+void PanelArea::resizeEvent(QResizeEvent *event)
+{
+    if (m_automatic) {
+        arrange(defaultPanels(event->size()));
+    } else if (!m_placed) {
+        PanelRects rects = m_stored;
+        for (QRect &rect : rects)
+            rect = pulledIntoView(rect, event->size());
+        arrange(rects);
+    } else {
+        arrange(scaledPanels(current(), event->oldSize(), event->size()));
+    }
+    m_placed = true;
+}
+
+} // namespace surface

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/settings_keys.h"
+#include "surface/panel.h"
+#include "surface/panel_layout.h"
+
+#include <QWidget>
+
+#include <array>
+
+namespace surface {
+
+// The area of the design window that holds the three panels. Until somebody arranges them (the user, or
+// stored geometry) they fill the area side by side; then they keep their shares of it.
+class PanelArea final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `twipsPerPixel` turns stored geometry into pixels.
+    PanelArea(float twipsPerPixel, const std::array<std::pair<QString, QWidget *>, 3> &panels);
+
+    Panel &panel(PanelId id) const { return *m_panels[static_cast<std::size_t>(id)]; }
+    bool isPanelVisible(PanelId id) const { return m_visible[static_cast<std::size_t>(id)]; }
+    // The report of a close writes 0 to the settings file; showing again writes 1.
+    void setPanelVisible(PanelId id, bool visible);
+
+    void restore(const platform::SettingsFile &file);
+    void save(platform::SettingsFile &file) const;
+
+signals:
+    void visibilityChanged(surface::PanelId id, bool visible);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void arrange(const PanelRects &rects);
+    PanelRects current() const;
+
+    float m_twipsPerPixel;
+    std::array<Panel *, 3> m_panels{};
+    std::array<bool, 3> m_visible{true, true, true};
+    bool m_automatic = true;
+    bool m_placed = false; // stored geometry waits for the area's first size
+    PanelRects m_stored{};
+};
+
+} // namespace surface

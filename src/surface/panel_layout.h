@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QRect>
+
+#include <array>
+
+namespace surface {
+
+// The three panels of the design window by their numbers in the settings file.
+enum class PanelId { Functions = 0, Library = 1, Design = 2 };
+using PanelRects = std::array<QRect, 3>; // indexed by PanelId, pixels
+
+// Library, design and functions side by side, filling an area of this size without overlap.
+PanelRects defaultPanels(const QSize &area);
+
+// The rectangle no larger than the area, no smaller than a panel can be used at, and inside the area.
+QRect pulledIntoView(const QRect &panel, const QSize &area);
+
+// The panels after their area has changed its size: they keep their shares of it.
+PanelRects scaledPanels(const PanelRects &panels, const QSize &before, const QSize &after);
+
+} // namespace surface

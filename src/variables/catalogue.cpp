@@ -1,0 +1,112 @@
+#include "variables/catalogue.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <array>
+
+namespace variables {
+
+namespace {
+
+struct Range
+{
+    int first;
+    int last;
+    bool holds(int index) const { return index >= first && index <= last; }
+};
+
+// The variables that the recorder's hardware offers.
+constexpr std::array<Range, 25> Permitted{
+    {{1, 5},       {10, 10},     {15, 17},     {22, 22},     {30, 31},     {40, 41},     {70, 75},
+     {90, 91},     {100, 100},   {200, 231},   {300, 319},   {400, 416},   {430, 431},   {450, 451},
+     {500, 500},   {1000, 1024}, {1500, 1503}, {2000, 2030}, {2500, 2511}, {3000, 3002}, {3500, 3504},
+     {4000, 4004}, {5050, 5081}, {6001, 6025}, {7000, 7011}}};
+
+constexpr Range NeverSmoothed{7000, 7011};
+
+void normaliseFlags(VariableRecord &record, int index)
+{
+    if (record.AlwaysOn)
+        record.Enabled = record.Available = true;
+    if (!record.Enabled)
+        record.Available = false;
+    // Available deliberately stays when the hardware lacks the variable.
+    record.Enabled = record.Enabled && isPermitted(index);
+    if (index == 1 || NeverSmoothed.holds(index))
+        record.SmoothingTime = record.MaximumROC = 0;
+}
+
+// The label of each unit name; names that are in no row have the label of row 0.
+class UnitLabels
+{
+public:
+    explicit UnitLabels(const UnitTable &units)
+    {
+        if (!units.empty())
+            m_unknown = units.front().Uniit;
+        for (const UnitRecord &unit : units) {
+            if (!m_labels.contains(unit.UnitName))
+                m_labels.insert(unit.UnitName, unit.Uniit);
+        }
+    }
+    const QString &of(const QString &unitName) const
+    {
+        const auto found = m_labels.constFind(unitName);
+        return found == m_labels.constEnd() ? m_unknown : *found;
+    }
+
+private:
+    QHash<QString, QString> m_labels;
+    QString m_unknown;
+};
+
+QString bracketed(const QString &name, const QString &unit)
+{
+    return name + QLatin1String(" [") + unit + QLatin1Char(']');
+}
+
+} // namespace
+
+bool isPermitted(int index)
+{
+    return std::any_of(Permitted.begin(), Permitted.end(),
+                       [index](const Range &range) { return range.holds(index); });
+}
+
+void SetupVariables(Catalogue &catalogue)
+{
+    const UnitLabels labels(catalogue.units);
+    const QString emptySlotName = bracketed({}, labels.of({}));
+    for (std::size_t i = 1; i < catalogue.live.size(); ++i) {
+        VariableRecord &record = catalogue.live[i];
+        normaliseFlags(record, static_cast<int>(i));
+        const QString &label =
+            record.UseCustomTrans ? record.CustomUnits : labels.of(record.ApplyTransformation);
+        // One text is shared by the thousands of empty slots.
+        const bool empty =
+            record.BaseName.isEmpty() && !record.UseCustomTrans && record.ApplyTransformation.isEmpty();
+        record.DisplayName = empty ? emptySlotName : bracketed(record.BaseName, label);
+    }
+    if (catalogue.live.size() > LastIndex)
+        catalogue.live[LastIndex].Enabled = catalogue.live[LastIndex].Available = false;
+}
+
+int findByName(const VariableTable &table, const QString &name, NameField field)
+{
+    const QString wanted = name.section(QLatin1Char('['), 0, 0).trimmed().toUpper();
+    const auto found = std::find_if(table.begin(), table.end(), [&](const VariableRecord &record) {
+        const QString &text = field == NameField::PhysicalName ? record.PhysicalName : record.BaseName;
+        return text.trimmed().toUpper() == wanted;
+    });
+    return found == table.end() ? NotFound : static_cast<int>(found - table.begin());
+}
+
+std::size_t findUnit(const UnitTable &units, const QString &unitName)
+{
+    const auto found = std::find_if(units.begin(), units.end(),
+                                    [&](const UnitRecord &unit) { return unit.UnitName == unitName; });
+    return found == units.end() ? 0 : static_cast<std::size_t>(found - units.begin());
+}
+
+} // namespace variables

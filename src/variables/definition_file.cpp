@@ -1,0 +1,196 @@
+#include "variables/definition_file.h"
+
+#include "common/bytes.h"
+#include "common/code_page.h"
+
+namespace variables {
+
+namespace {
+
+constexpr qint32 Trailer = 7576;
+constexpr quint16 OneDimension = 1;
+constexpr qint16 FileTrue = -1;
+// The fewest bytes that a row can take in a file: what a bound may promise is measured against what is left.
+constexpr qsizetype SmallestUnit = 4 * 2;
+constexpr qsizetype SmallestVariable = 73;
+constexpr qsizetype SmallestText = 2;
+
+// One declaration of a record's fields, in file order, for reading and for writing.
+template <typename Record, typename Field>
+void visitUnit(Record &unit, Field &&field)
+{
+    field(unit.UnitName);
+    field(unit.Description);
+    field(unit.Conversion);
+    field(unit.Uniit);
+}
+
+template <typename Record, typename Field>
+void visitVariable(Record &record, Field &&field)
+{
+    field(record.DisplayName);
+    field(record.PhysicalName);
+    field(record.BaseName);
+    field(record.IndexNumber);
+    field(record.Enabled);
+    field(record.AlwaysOn);
+    field(record.Available);
+    field(record.VariableType);
+    field(record.DefaultMin);
+    field(record.DefaultMax);
+    field(record.FilterDesign);
+    field(record.FilterLowVal);
+    field(record.FilterHighVal);
+    field(record.FilterRipple);
+    field(record.FilterOrder);
+    field(record.ApplyTransformation);
+    field(record.AllowTransformations);
+    field(record.UseCustomTrans);
+    field(record.CustomTransformation);
+    field(record.CustomUnits);
+    field(record.Description);
+    field(record.SmoothingTime);
+    field(record.MaximumROC);
+    field(record.calculus);
+    field(record.Misc);
+}
+
+class FieldReader
+{
+public:
+    explicit FieldReader(common::ByteReader &reader) : m_reader(reader) {}
+
+    template <common::Scalar T>
+    void operator()(T &value)
+    {
+        value = m_reader.get<T>();
+    }
+    void operator()(bool &value) { value = m_reader.get<qint16>() != 0; }
+    void operator()(QString &text)
+    {
+        const auto length = m_reader.get<quint16>();
+        text = length == 0 ? QString() : common::fromCodePage(m_reader.get(length));
+    }
+    void operator()(QStringList &list)
+    {
+        list.clear();
+        const auto dimensions = m_reader.get<quint16>();
+        if (dimensions == 0)
+            return;
+        const auto count = m_reader.get<qint32>();
+        m_reader.get<qint32>(); // lower bound, always 0
+        if (dimensions != OneDimension || count < 0 || count > m_reader.remaining() / SmallestText) {
+            m_wellFormed = false;
+            return;
+        }
+        list.reserve(count);
+        for (qint32 i = 0; i < count; ++i) {
+            QString text;
+            (*this)(text);
+            list.append(text);
+        }
+    }
+
+    bool wellFormed() const { return m_wellFormed && !m_reader.failed(); }
+
+private:
+    common::ByteReader &m_reader;
+    bool m_wellFormed = true;
+};
+
+class FieldWriter
+{
+public:
+    explicit FieldWriter(common::ByteWriter &writer) : m_writer(writer) {}
+
+    template <common::Scalar T>
+    void operator()(const T &value)
+    {
+        m_writer.put(value);
+    }
+    void operator()(const bool &value) { m_writer.put<qint16>(value ? FileTrue : qint16{0}); }
+    void operator()(const QString &text)
+    {
+        const QByteArray bytes = common::toCodePage(text).left(0xFFFF);
+        m_writer.put(static_cast<quint16>(bytes.size()));
+        m_writer.put(QByteArrayView(bytes));
+    }
+    void operator()(const QStringList &list)
+    {
+        // A list without elements is an array that was never allocated: no dimensions, and nothing follows.
+        m_writer.put(list.isEmpty() ? quint16{0} : OneDimension);
+        if (list.isEmpty())
+            return;
+        m_writer.put(static_cast<qint32>(list.size()));
+        m_writer.put(qint32{0});
+        for (const QString &text : list)
+            (*this)(text);
+    }
+
+private:
+    common::ByteWriter &m_writer;
+};
+
+bool readUnits(common::ByteReader &reader, FieldReader &field, UnitTable &units)
+{
+    const auto bound = reader.get<qint32>();
+    if (reader.failed() || bound < 0 || bound >= reader.remaining() / SmallestUnit)
+        return false;
+    units.resize(static_cast<std::size_t>(bound) + 1);
+    for (UnitRecord &unit : units) {
+        visitUnit(unit, field);
+        if (!field.wellFormed())
+            return false;
+    }
+    return true;
+}
+
+// A file of fewer rows leaves the other slots empty; one of more rows is refused.
+bool readVariables(common::ByteReader &reader, FieldReader &field, VariableTable &table)
+{
+    const auto bound = reader.get<qint32>();
+    if (reader.failed() || bound < 0 || bound > LastIndex || bound >= reader.remaining() / SmallestVariable)
+        return false;
+    table.resize(LastIndex + 1);
+    for (qint32 i = 0; i <= bound; ++i) {
+        visitVariable(table[static_cast<std::size_t>(i)], field);
+        if (!field.wellFormed())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+DefinitionStatus loadDefinitions(const QByteArray &bytes, Catalogue &catalogue)
+{
+    common::ByteReader reader(bytes);
+    FieldReader field(reader);
+    UnitTable units;
+    VariableTable table;
+    const bool complete = readUnits(reader, field, units) && readVariables(reader, field, table) &&
+                          reader.get<qint32>() == Trailer && !reader.failed();
+    if (!complete)
+        return DefinitionStatus::Corrupted;
+    catalogue.units = std::move(units);
+    catalogue.live = std::move(table);
+    SetupVariables(catalogue);
+    return DefinitionStatus::Loaded;
+}
+
+QByteArray saveDefinitions(const Catalogue &catalogue)
+{
+    common::ByteWriter writer;
+    FieldWriter field(writer);
+    writer.reserve(static_cast<qsizetype>(catalogue.live.size()) * 128);
+    writer.put(static_cast<qint32>(catalogue.units.size()) - 1);
+    for (const UnitRecord &unit : catalogue.units)
+        visitUnit(unit, field);
+    writer.put(static_cast<qint32>(catalogue.live.size()) - 1);
+    for (const VariableRecord &record : catalogue.live)
+        visitVariable(record, field);
+    writer.put(Trailer);
+    return writer.bytes();
+}
+
+} // namespace variables

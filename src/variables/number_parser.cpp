@@ -1,0 +1,71 @@
+#include "variables/number_parser.h"
+
+#include "common/number_text.h"
+
+#include <QStringList>
+
+#include <cmath>
+
+namespace variables {
+
+namespace {
+
+constexpr int LongestNumber = 40;
+
+template <typename Keep>
+QString kept(const QString &text, Keep keep)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (keep(c))
+            result.append(c);
+    }
+    return result;
+}
+
+bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+
+// "05" is 0.05: divided by 10 until below 1, then once more for every leading zero.
+double fractionValue(const QString &digits)
+{
+    double fraction = common::leadingNumber(digits);
+    while (std::fabs(fraction) >= 1.0)
+        fraction /= 10.0;
+    for (qsizetype i = 0; i < digits.size() && digits[i] == QLatin1Char('0'); ++i)
+        fraction /= 10.0;
+    return fraction;
+}
+
+} // namespace
+
+double parseNumber(const QString &text)
+{
+    QString number = text;
+    number = number.replace(QLatin1Char(','), QLatin1Char('.')).trimmed().toUpper().left(LongestNumber);
+    const bool negative = number.startsWith(QLatin1Char('-'));
+    if (negative)
+        number.remove(0, 1);
+
+    const QStringList parts = number.split(QLatin1Char('E'));
+    double multiplier = 1.0;
+    if (parts.size() > 1) {
+        const QString exponent = kept(parts[1], [](QChar c) { return isDigit(c) || c == QLatin1Char('-'); });
+        if (!exponent.isEmpty())
+            multiplier = std::pow(10.0, common::leadingNumber(exponent));
+    }
+
+    const QStringList mantissa = kept(parts[0], [](QChar c) {
+                                     return isDigit(c) || c == QLatin1Char('-') || c == QLatin1Char('.');
+                                 }).split(QLatin1Char('.'));
+    const double fraction = mantissa.size() > 1 ? fractionValue(mantissa[1]) : 0.0;
+    const double value = (common::leadingNumber(mantissa[0]) + fraction) * multiplier;
+    return negative ? -value : value;
+}
+
+bool isNumericKey(QChar key, const QString &decimalSeparator)
+{
+    static const QString accepted = QStringLiteral("0123456789.,-\b\r");
+    return accepted.contains(key) || decimalSeparator.contains(key);
+}
+
+} // namespace variables

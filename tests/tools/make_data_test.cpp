@@ -1,0 +1,201 @@
+#include "make_data/catalogue_builder.h"
+#include "make_data/message_builder.h"
+#include "variables/definition_file.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+using make_data::Problems;
+using make_data::TextTable;
+
+const QByteArray GoodUnits = "km/h | km/h | value$1$0     | Kilometres per hour\n"
+                             "mph  | mph  | x*0.621371192 | Miles per hour\n";
+const QByteArray GoodVariables = "[1 Standard variables]\n"
+                                 "2 | SPEED | Speed | 0 | 300 | km/h,mph | always smooth=0.1 | Road speed.\n";
+
+TextTable shippedTable(const QString &name, Problems &problems)
+{
+    QFile file(QStringLiteral(MORVEL_CATALOGUE_DIR "/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+    return make_data::parseTable(name, file.readAll(), problems);
+}
+
+variables::Catalogue shippedCatalogue(Problems &problems)
+{
+    const TextTable units = shippedTable(QStringLiteral("units.txt"), problems);
+    const TextTable rows = shippedTable(QStringLiteral("variables.txt"), problems);
+    return make_data::buildCatalogue(units, rows, problems);
+}
+
+// Nothing but one problem is expected, at this place.
+void expectProblem(const Problems &problems, const char *place, const char *what)
+{
+    ASSERT_EQ(problems.lines().size(), 1)
+        << what << ": " << qPrintable(problems.lines().join(QLatin1Char('\n')));
+    EXPECT_TRUE(problems.lines()[0].startsWith(QLatin1String(place))) << qPrintable(problems.lines()[0]);
+    EXPECT_TRUE(problems.lines()[0].contains(QLatin1String(what))) << qPrintable(problems.lines()[0]);
+}
+
+struct BrokenLine
+{
+    QByteArray line; // added behind the good ones
+    const char *what;
+};
+
+TEST(CatalogueBuilder, namesTheLineOfEachFaultyUnit)
+{
+    const BrokenLine broken[] = {
+        {"mph | mph | value$1$0 | Twice", "taken by line 2"},
+        {" | mph | value$1$0 | Nameless", "missing"},
+        {"kn | kn | value$1$0", "4 cells"},
+        {"kn | kn | value$1 | One coefficient", "\"$\""},
+        {"kn | kn | value$1$0$0 | Three coefficients", "\"$\""},
+        {"kn | kn | value$1$0x | Stray letter", "\"0x\""},
+        {"kn | kn |  | No conversion", "missing"},
+        {"kn | \xCE\xBA | value$1$0 | Greek label", "code page"},
+        {"kn | \xB0 | value$1$0 | Not encoded", "UTF-8"},
+    };
+    for (const BrokenLine &fault : broken) {
+        Problems problems;
+        const TextTable units =
+            make_data::parseTable(QStringLiteral("units.txt"), GoodUnits + fault.line, problems);
+        const TextTable rows =
+            make_data::parseTable(QStringLiteral("variables.txt"), GoodVariables, problems);
+        make_data::buildCatalogue(units, rows, problems);
+        expectProblem(problems, "units.txt:3: ", fault.what);
+    }
+}
+
+TEST(CatalogueBuilder, namesTheLineOfEachFaultyVariable)
+{
+    const BrokenLine broken[] = {
+        {"3 | ENGINE | Engine | 0 | 9 | furlongs | | Text", "unknown unit \"furlongs\""},
+        {"3 | ENGINE | Engine | 0 | 9 |  | | Text", "unknown unit"},
+        {"6 | ENGINE | Engine | 0 | 9 | mph | | Text", "no variable 6"},
+        {"8001 | ENGINE | Engine | 0 | 9 | mph | | Text", "8001"},
+        {"2 | ENGINE | Engine | 0 | 9 | mph | | Text", "index \"2\" is taken by line 2"},
+        {"3 | SPEED | Engine | 0 | 9 | mph | | Text", "physical name \"SPEED\""},
+        {"3 | ENGINE | speed [again] | 0 | 9 | mph | | Text", "name \"speed [again]\""},
+        {"3 | ENGINE | Engine | low | 9 | mph | | Text", "\"low\" is not a number"},
+        {"3 | ENGINE | Engine | 0 | inf | mph | | Text", "\"inf\" is not a number"},
+        {"3 | ENGINE | Engine | 0 | 9 | mph | smooth | Text", "\"\" is not a number"},
+        {"3 | ENGINE | Engine | 0 | 9 | mph | nevr | Text", "unknown option \"nevr\""},
+        {"3 | ENGINE | Engine | 0 | 9 | mph | | Text | x", "8 cells expected, 9 found"},
+        {"[10 More]", "\"10\""},
+    };
+    for (const BrokenLine &fault : broken) {
+        Problems problems;
+        const TextTable units = make_data::parseTable(QStringLiteral("units.txt"), GoodUnits, problems);
+        const TextTable rows =
+            make_data::parseTable(QStringLiteral("variables.txt"), GoodVariables + fault.line, problems);
+        make_data::buildCatalogue(units, rows, problems);
+        expectProblem(problems, "variables.txt:3: ", fault.what);
+    }
+}
+
+TEST(MessageBuilder, namesTheLineOfEachFaultyMessage)
+{
+    const BrokenLine broken[] = {
+        {"8 | Again | 5Hz | 5Hz | 0", "twice"},
+        {"256 | Late | 5Hz | 5Hz | 0", "\"256\""},
+        {"9 | Name | 5Hz | 5Hz", "5 cells"},
+        {"9 | Name | 30Hz | 5Hz | 0", "\"30Hz\""},
+        {"9 | Name | On | 5Hz | 1", "\"5Hz\""},
+        {"9 | Name | On | On | 3", "\"3\""},
+        {"9 | " + QByteArray(51, 'n') + " | 5Hz | 5Hz | 0", "longer than 50"},
+    };
+    for (const BrokenLine &fault : broken) {
+        Problems problems;
+        const QByteArray text = "8 | Speed | 100Hz | 25Hz | 0\n" + fault.line;
+        make_data::buildMessages(make_data::parseTable(QStringLiteral("messages.txt"), text, problems),
+                                 problems);
+        expectProblem(problems, "messages.txt:2: ", fault.what);
+    }
+}
+
+TEST(CatalogueBuilder, keepsWhatARowSays)
+{
+    Problems problems;
+    const TextTable units = make_data::parseTable({}, GoodUnits, problems);
+    const TextTable rows =
+        make_data::parseTable({},
+                              GoodVariables + "[7 Debugging variables]\n"
+                                              "4000 | LOAD | Load | -1 | 1.5 | mph | hidden roc=20 | D\n"
+                                              "[4 User defined variables]\n"
+                                              "6001 | USER | User | 0 | 2 | | | D | var_0002/2 | g\n"
+                                              "8000 | NONE | None | 0 | 1 | | | D | 0 | \n",
+                              problems);
+    const variables::Catalogue catalogue = make_data::buildCatalogue(units, rows, problems);
+    ASSERT_TRUE(problems.none()) << qPrintable(problems.lines().join(QLatin1Char('\n')));
+
+    const variables::VariableRecord &speed = catalogue.live[2];
+    EXPECT_EQ(speed.DisplayName, QStringLiteral("Speed [km/h]"));
+    EXPECT_EQ(speed.ApplyTransformation, QStringLiteral("km/h"));
+    EXPECT_EQ(speed.AllowTransformations, QStringList({QStringLiteral("km/h"), QStringLiteral("mph")}));
+    EXPECT_TRUE(speed.AlwaysOn && speed.Enabled && speed.Available && !speed.UseCustomTrans);
+    EXPECT_FLOAT_EQ(speed.SmoothingTime, 0.1F);
+
+    const variables::VariableRecord &load = catalogue.live[4000];
+    EXPECT_EQ(load.VariableType, 7);
+    EXPECT_TRUE(load.Enabled && !load.Available && !load.AlwaysOn);
+    EXPECT_FLOAT_EQ(load.DefaultMin, -1.0F);
+    EXPECT_FLOAT_EQ(load.DefaultMax, 1.5F);
+    EXPECT_FLOAT_EQ(load.MaximumROC, 20.0F);
+
+    const variables::VariableRecord &user = catalogue.live[6001];
+    EXPECT_EQ(user.DisplayName, QStringLiteral("User [g]"));
+    EXPECT_TRUE(user.UseCustomTrans);
+    EXPECT_EQ(user.CustomTransformation, QStringLiteral("var_0002/2"));
+    EXPECT_FALSE(catalogue.live[8000].Enabled || catalogue.live[8000].Available);
+}
+
+TEST(ShippedData, catalogueLoadsBackAsItWasBuilt)
+{
+    Problems problems;
+    const variables::Catalogue built = shippedCatalogue(problems);
+    ASSERT_TRUE(problems.none()) << qPrintable(problems.lines().join(QLatin1Char('\n')));
+
+    variables::Catalogue loaded;
+    ASSERT_EQ(variables::loadDefinitions(variables::saveDefinitions(built), loaded),
+              variables::DefinitionStatus::Loaded);
+    EXPECT_TRUE(loaded.units == built.units); // no text was lost in the 8-bit code page
+    EXPECT_TRUE(loaded.live == built.live);
+}
+
+TEST(ShippedData, catalogueIsRichEnough)
+{
+    Problems problems;
+    const variables::Catalogue catalogue = shippedCatalogue(problems);
+    const auto available =
+        std::count_if(catalogue.live.begin(), catalogue.live.end(),
+                      [](const auto &record) { return record.Enabled && record.Available; });
+    EXPECT_GE(available, 240);
+    EXPECT_GE(catalogue.units.size(), 61U); // with the blank row
+    std::set<qsizetype> conversionForms;
+    for (const variables::UnitRecord &unit : catalogue.units)
+        conversionForms.insert(unit.Conversion.count(QLatin1Char('$')));
+    EXPECT_EQ(conversionForms, (std::set<qsizetype>{0, 2, 4}));
+}
+
+// The rows are 54 bytes: number, 50 of name, storage rate, output rate, kind.
+TEST(ShippedData, messagesCarryTheirRates)
+{
+    Problems problems;
+    const TextTable table = shippedTable(QStringLiteral("messages.txt"), problems);
+    const QByteArray bytes = recorder::writeMessageTable(make_data::buildMessages(table, problems));
+    ASSERT_TRUE(problems.none()) << qPrintable(problems.lines().join(QLatin1Char('\n')));
+    ASSERT_EQ(bytes.size(), 256 * 54);
+    const auto row = [&](qsizetype number) { return bytes.mid(number * 54, 54); };
+    const QByteArray blanks(50, ' ');
+    EXPECT_EQ(row(2), "\x02" + QByteArray("Serial number and firmware").leftJustified(50, ' ') +
+                          QByteArray("\x00\x09\x01", 3)); // On, Off
+    EXPECT_EQ(row(8), "\x08" + QByteArray("Speed").leftJustified(50, ' ') + QByteArray("\x00\x02\x00", 3));
+    EXPECT_EQ(row(255), "\xFF" + blanks + QByteArray("\x09\x09\x00", 3)); // not listed
+}
+
+} // namespace

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "make_data/text_table.h"
+#include "recorder/message_table.h"
+
+namespace make_data {
+
+// All 256 messages; those that the table does not list are nameless and disabled. The result is of use only
+// when no problem was added.
+recorder::MessageTable buildMessages(const TextTable &table, Problems &problems);
+
+} // namespace make_data
