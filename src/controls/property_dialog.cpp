@@ -115,7 +115,9 @@ void PropertyDialog::addRow(const QString &label, QWidget *field, const QString 
     }
     auto *row = new QHBoxLayout;
     row->addWidget(field);
-    row->addWidget(new QLabel(unit));
+    auto *unitLabel = new QLabel(unit);
+    unitLabel->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("degrees ")));
+    row->addWidget(unitLabel);
     m_form->addRow(caption, row);
 }
 

@@ -7,6 +7,8 @@
 #include "platform/guards.h"
 #include "variables/definition_file.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <cmath>
 
@@ -44,16 +46,16 @@ void buildControl(const FamilyRecord &family, const RecordBody &body, controls::
     platform::skipFailures([&] { control->AssignProperties(); });
 }
 
-void buildControls(const Records &records, const LoadContext &context)
+void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
 {
-    const auto total = static_cast<int>(controlCount(records));
-    int done = 0;
+    const qsizetype total = controlCount(records);
+    qsizetype done = 0;
     for (const FamilyRecord &family : familyRecords()) {
         for (const LayoutRecord &record : records) {
             if (record.type() != family.type)
                 continue;
             buildControl(family, record.body, context.surface);
-            context.progress.setValue(50 + ++done * 40 / total);
+            progress.advance(50, 40, ++done, total);
         }
     }
 }
@@ -75,6 +77,38 @@ void foldVariables(const Records &records, variables::Catalogue &catalogue)
     catalogue.staging = catalogue.live;
 }
 
+// A picture for the eye only: one that cannot be written is no failure.
+QString writeThumbnail(const QByteArray &jpeg, const platform::Folders &folders)
+{
+    QFile file(folders.temporary + QStringLiteral("Thumb.jpg"));
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(jpeg) == jpeg.size();
+    return written ? file.fileName() : QString();
+}
+
+Records readRecords(const QByteArray &file, const platform::Folders &folders,
+                    platform::ProgressScope &progress)
+{
+    constexpr int ReadingEnds = 50;
+    Records records = parseLayout(file);
+    int read = 0;
+    for (const LayoutRecord &record : records) {
+        if (const auto *thumbnail = std::get_if<ThumbnailRecord>(&record.body))
+            writeThumbnail(thumbnail->data.bytes, folders);
+        progress.setValue(std::min(++read, ReadingEnds));
+    }
+    return records;
+}
+
+// The definition and message files follow the design. The design stands even when they cannot be written.
+void writeTables(const LoadContext &context)
+{
+    platform::reportFailures(context.prompts, [&] {
+        platform::replaceFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
+        platform::replaceFile(context.folders.MessagesFile(),
+                              recorder::writeMessageTable(context.settings.MessageTable));
+    });
+}
+
 } // namespace
 
 bool LoadVGL(const QString &path, const LoadContext &context)
@@ -85,39 +119,26 @@ bool LoadVGL(const QString &path, const LoadContext &context)
                                 QStringLiteral("Invalid File Format"));
         return false;
     }
-    context.progress.begin(QStringLiteral("Loading configuration....."));
-    const Records records = parseLayout(*file);
-    context.progress.setValue(50);
-
-    const recorder::VideoStandard before = context.settings.VideoType;
-    const recorder::VideoStandard stored = settingsFromRecords(records, context.settings);
-    if (stored != before)
-        context.surface.setVideoStandard(stored);
-    buildControls(records, context);
-    foldVariables(records, context.catalogue);
-    const bool filesWritten = platform::reportFailures(context.prompts, [&] {
-        platform::replaceFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
-        platform::replaceFile(context.folders.MessagesFile(),
-                              recorder::writeMessageTable(context.settings.MessageTable));
-    });
-    Q_UNUSED(filesWritten); // the design stands either way
-    context.progress.end();
+    {
+        platform::ProgressScope progress(context.progress, QStringLiteral("Loading configuration....."));
+        const Records records = readRecords(*file, context.folders, progress);
+        const recorder::VideoStandard before = context.settings.VideoType;
+        const recorder::VideoStandard stored = settingsFromRecords(records, context.settings);
+        if (stored != before)
+            context.surface.setVideoStandard(stored);
+        buildControls(records, context, progress);
+        foldVariables(records, context.catalogue);
+        writeTables(context);
+    }
     context.surface.refresh();
     return true;
 }
 
 QString ExtractThumbnail(const QString &path, const platform::Folders &folders)
 {
-    QString thumbnailPath;
-    platform::skipFailures([&] {
-        const QByteArray jpeg = extractThumbnail(platform::readFile(path));
-        if (jpeg.isEmpty())
-            return;
-        const QString target = folders.temporary + QStringLiteral("Thumb.jpg");
-        platform::replaceFile(target, jpeg);
-        thumbnailPath = target;
-    });
-    return thumbnailPath;
+    QByteArray jpeg;
+    platform::skipFailures([&] { jpeg = extractThumbnail(platform::readFile(path)); });
+    return jpeg.isEmpty() ? QString() : writeThumbnail(jpeg, folders);
 }
 
 } // namespace layoutfile

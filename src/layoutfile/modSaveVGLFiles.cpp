@@ -13,6 +13,7 @@ namespace {
 
 using controls::ControlType;
 using controls::OverlayControl;
+using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
 
 int countOf(const ControlList &controls, ControlType family)
@@ -60,30 +61,26 @@ bool sharesCamera(const std::vector<LayoutRecord> &sources)
     return false;
 }
 
-// Maps `done` of `total` into the stretch of the progress bar that begins at `from`.
-void advance(platform::Progress &progress, int from, int length, int done, int total)
+void gatherControls(Gathering &save, const ControlList &controls, ProgressScope &progress)
 {
-    progress.setValue(from + done * length / std::max(total, 1));
-}
-
-void gatherControls(Gathering &save, const ControlList &controls, platform::Progress &progress)
-{
-    const int total = objectTotal(controls);
-    int done = 0;
+    qsizetype done = 0;
     for (OverlayControl *control : controls) {
         for (const FamilyRecord &record : familyRecords()) {
             if (record.family == control->family().type)
                 record.gather(*control, save);
         }
-        advance(progress, 0, 25, ++done, total);
+        progress.advance(0, 25, ++done, objectTotal(controls));
     }
 }
 
 // Enabled variables in catalogue order. The length 1 of a used variable without a program does not count in
 // offsets or sums.
-void gatherVariables(Gathering &save, const variables::VariableTable &table, platform::Progress &progress)
+void gatherVariables(Gathering &save, const variables::VariableTable &table, ProgressScope &progress)
 {
     markReferences(save.used, table);
+    const auto count =
+        std::count_if(table.begin(), table.end(), [](const auto &record) { return record.Enabled; });
+    qsizetype done = 0;
     for (std::size_t i = 1; i < table.size(); ++i) {
         const variables::VariableRecord &record = table[i];
         if (!record.Enabled)
@@ -91,9 +88,19 @@ void gatherVariables(Gathering &save, const variables::VariableTable &table, pla
         const quint8 used = save.used.isUsed(static_cast<int>(i)) ? 1 : 0;
         save.groups.add(
             VariableEntry{static_cast<qint32>(i), used, record.SmoothingTime, record.MaximumROC, -1, used});
+        progress.advance(50, 10, ++done, count);
     }
     save.groups.add(ProgramsRecord{});
-    progress.setValue(60);
+}
+
+void gatherChapters(RecordGroups &groups, const std::vector<recorder::ChapterCondition> &chapters,
+                    ProgressScope &progress)
+{
+    qsizetype done = 0;
+    for (const recorder::ChapterCondition &c : chapters) {
+        groups.add(ChapterRecord{c.type, c.value1, c.sign1, c.variable, c.sign2, c.value2});
+        progress.advance(60, 10, ++done, static_cast<qsizetype>(chapters.size()));
+    }
 }
 
 template <typename Record>
@@ -131,18 +138,23 @@ void gatherIcon(RecordGroups &groups, const recorder::SpecialIcon &icon)
             SpecialIconRecord{1, icon.width, icon.height, icon.top, icon.left, icon.alpha, {icon.planes}});
 }
 
-void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &settings)
+void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &settings, ProgressScope &progress)
 {
-    for (const recorder::ChapterCondition &c : settings.ChapterList)
-        groups.add(ChapterRecord{c.type, c.value1, c.sign1, c.variable, c.sign2, c.value2});
+    gatherChapters(groups, settings.ChapterList, progress);
     if (settings.LapChapterActive == 1)
         groups.add(LapChaptersRecord{settings.LapChapterType});
+    progress.setValue(65);
     gatherTrigger<AutoStartRecord>(groups, settings.autoStart);
+    progress.setValue(70);
     gatherTrigger<AutoStopRecord>(groups, settings.autoStop);
+    progress.setValue(75);
     groups.add(VideoStandardRecord{static_cast<quint8>(settings.VideoType)});
+    progress.setValue(80);
     groups.add(BitRateRecord{static_cast<quint8>(settings.CurrentBitRate + 1),
                              static_cast<quint8>(settings.encodePattern)});
+    progress.setValue(85);
     gatherMessages(groups, settings.MessageTable);
+    progress.setValue(90);
     gatherGears(groups, settings);
     gatherIcon(groups, settings.icon);
 }
@@ -154,39 +166,22 @@ void gatherThumbnail(RecordGroups &groups, const controls::ControlSurface &surfa
         [&] { groups.add(ThumbnailRecord{Bulk{graphics::thumbnailJpeg(surface.renderPreview())}}); });
 }
 
-// Ends the progress display on every way out.
-class ProgressScope
-{
-public:
-    ProgressScope(platform::Progress &progress, const QString &title) : m_progress(progress)
-    {
-        progress.begin(title);
-    }
-    ~ProgressScope() { m_progress.end(); }
-    Q_DISABLE_COPY_MOVE(ProgressScope)
-
-private:
-    platform::Progress &m_progress;
-};
-
 // False when two cameras clash.
 bool writeLayout(const QString &path, SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
-    const ProgressScope scope(context.progress, kind == SaveKind::Command
-                                                    ? QStringLiteral("Saving configuration.....")
-                                                    : QStringLiteral("Saving workspace....."));
+    ProgressScope progress(context.progress, kind == SaveKind::Command
+                                                 ? QStringLiteral("Saving configuration.....")
+                                                 : QStringLiteral("Saving workspace....."));
     Gathering save{{}, {}, context.screen};
     gatherThumbnail(save.groups, context.surface);
-    gatherControls(save, controls, context.progress);
+    gatherControls(save, controls, progress);
     if (kind != SaveKind::Backup && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return false;
     markSettings(save.used, context.settings);
-    context.progress.setValue(50);
-    gatherVariables(save, context.catalogue.live, context.progress);
-    gatherSettings(save.groups, context.settings);
-    context.progress.setValue(90);
+    gatherVariables(save, context.catalogue.live, progress);
+    gatherSettings(save.groups, context.settings, progress);
     platform::replaceFile(path, assembleLayout(save.groups, context.stamp));
-    context.progress.setValue(100);
+    progress.setValue(100);
     return true;
 }
 

@@ -14,6 +14,25 @@ public:
     virtual void end() = 0;
 };
 
+// Shows `progress` under a title until the scope is left, on every way out.
+class ProgressScope
+{
+public:
+    ProgressScope(Progress &progress, const QString &title) : m_progress(progress) { progress.begin(title); }
+    ~ProgressScope() { m_progress.end(); }
+    Q_DISABLE_COPY_MOVE(ProgressScope)
+
+    // `done` of `total` steps, in the stretch of the bar that begins at `from`.
+    void advance(int from, int length, qsizetype done, qsizetype total)
+    {
+        m_progress.setValue(from + static_cast<int>(done * length / qMax<qsizetype>(total, 1)));
+    }
+    void setValue(int percent) { m_progress.setValue(percent); }
+
+private:
+    Progress &m_progress;
+};
+
 // For tasks that show nothing.
 class NoProgress final : public Progress
 {

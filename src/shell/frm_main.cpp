@@ -207,6 +207,8 @@ void frmMain::makeStatusBar()
     m_position->setObjectName(QStringLiteral("lblPosition"));
     m_bitRate->setObjectName(QStringLiteral("lblBitRate"));
     m_position->setMinimumWidth(180);
+    for (QLabel *pane : {m_position, m_standard, m_bitRate})
+        pane->setContentsMargins(8, 2, 8, 2);
     statusBar()->addWidget(m_position, 1);
     statusBar()->addPermanentWidget(m_standard);
     statusBar()->addPermanentWidget(m_bitRate);

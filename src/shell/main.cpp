@@ -22,7 +22,6 @@ int main(int argc, char **argv)
         prompts);
     if (!start.run())
         return EXIT_FAILURE;
-    prompts.setOwner(start.window());
     shell::closeOnTermination(&application);
     return QApplication::exec();
 }

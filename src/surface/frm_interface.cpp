@@ -35,6 +35,8 @@ frmInterface::frmInterface(const InterfaceContext &context)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_panels);
     connectCanvas();
+    connect(m_panels, &PanelArea::visibilityChanged, this,
+            [this](PanelId id, bool visible) { skipFailures([&] { storeVisibility(id, visible); }); });
 }
 
 frmInterface::~frmInterface() = default;

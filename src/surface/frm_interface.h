@@ -92,6 +92,7 @@ private:
     void loadBackground(recorder::VideoStandard standard);
     void initGrid(const Grid &grid);
     void ShowGrid();
+    void storeVisibility(PanelId id, bool visible);
     void restoreSplitter(const platform::SettingsFile &file);
     void setCurBackColour(quint32 backColour, quint32 labelColour);
 

@@ -111,6 +111,13 @@ void frmInterface::GenerateIcons(platform::Progress &progress)
     m_library->loadControlList();
 }
 
+void frmInterface::storeVisibility(PanelId id, bool visible)
+{
+    SettingsFile file(m_context.folders.ConfigFile());
+    keys::Visible[static_cast<std::size_t>(id)].write(file, visible ? 1 : 0);
+    file.save();
+}
+
 void frmInterface::restoreSplitter(const SettingsFile &file)
 {
     if (!keys::LibrarySplitter.stored(file))

@@ -51,18 +51,17 @@ QImage standardPicture(const controls::Family &family, controls::ControlHost &ho
 void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders,
                    platform::Progress &progress)
 {
-    progress.begin(QStringLiteral("Preparing the control library....."));
-    int done = 0;
-    for (const controls::Family &family : controls::families()) {
+    platform::ProgressScope scope(progress, QStringLiteral("Preparing the control library....."));
+    const std::span<const controls::Family> families = controls::families();
+    for (std::size_t i = 0; i < families.size(); ++i) {
+        const controls::Family &family = families[i];
         if (family.create) {
             platform::skipFailures([&] {
-                const QImage picture = standardPicture(family, host);
-                picture.save(folders.cache + QLatin1String(family.iconFile), "BMP");
+                standardPicture(family, host).save(folders.cache + QLatin1String(family.iconFile), "BMP");
             });
         }
-        progress.setValue(++done * 100 / static_cast<int>(controls::families().size()));
+        scope.advance(0, 100, static_cast<qsizetype>(i) + 1, static_cast<qsizetype>(families.size()));
     }
-    progress.end();
 }
 
 } // namespace surface

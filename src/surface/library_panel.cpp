@@ -70,7 +70,11 @@ void LibraryPanel::loadControlTree()
         root->setIcon(0, QIcon(QStringLiteral(":/families/%1.png").arg(QLatin1String(family.art))));
         root->setExpanded(true);
     }
-    m_tree->setCurrentItem(m_tree->topLevelItem(0));
+    // The first family that can be placed shows its entries.
+    for (int i = m_tree->topLevelItemCount() - 1; i >= 0; --i) {
+        if (!draggedKey(m_tree->topLevelItem(i)->data(0, KeyRole).toString()).isEmpty())
+            m_tree->setCurrentItem(m_tree->topLevelItem(i));
+    }
 }
 
 QString LibraryPanel::selectedKey() const

@@ -22,7 +22,6 @@ public:
 
     Panel &panel(PanelId id) const { return *m_panels[static_cast<std::size_t>(id)]; }
     bool isPanelVisible(PanelId id) const { return m_visible[static_cast<std::size_t>(id)]; }
-    // The report of a close writes 0 to the settings file; showing again writes 1.
     void setPanelVisible(PanelId id, bool visible);
 
     void restore(const platform::SettingsFile &file);

@@ -49,13 +49,17 @@ void Busy::begin(const QString &title)
 {
     m_progress = std::make_unique<ProgressWindow>(m_window.data(), title);
     m_progress->show();
-    setValue(0);
+    m_progress->setValue(0);
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void Busy::setValue(int percent)
 {
-    if (m_progress)
+    if (m_progress) {
+        if (percent == m_progress->value())
+            return; // nothing to show: yielding for every step would cost more than the task
         m_progress->setValue(percent);
+    }
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -52,12 +52,12 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
     setNameFilter(qtFilter(request.filter));
     setDefaultSuffix(request.filter.section(QLatin1Char('.'), -1));
     setSidebarUrls(sidePlaces());
-    if (!request.folder.isEmpty())
-        setDirectory(request.folder);
+    setDirectory(request.folder.isEmpty() ? QDir::homePath() : request.folder);
     if (!request.fileName.isEmpty())
         selectFile(request.fileName);
     if (request.preview)
         addPreview(request.preview);
+    resize(820, 460);
 }
 
 void FileDialog::addPreview(const std::function<QImage(const QString &)> &preview)

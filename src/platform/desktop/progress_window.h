@@ -12,6 +12,7 @@ class ProgressWindow final : public QDialog
 
 public:
     ProgressWindow(QWidget *parent, const QString &title);
+    int value() const { return m_bar->value(); }
     void setValue(int percent) { m_bar->setValue(percent); }
 
     void reject() override {} // Escape does not end the task

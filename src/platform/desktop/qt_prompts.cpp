@@ -17,6 +17,17 @@ namespace platform {
 
 namespace {
 
+QWidget *parent()
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            return window;
+    }
+    return nullptr;
+}
+
 QMessageBox::Icon boxIcon(Icon icon)
 {
     switch (icon) {
@@ -64,12 +75,6 @@ QMessageBox::StandardButton showBox(QWidget *parent, Icon icon, const QString &t
 }
 
 } // namespace
-
-QWidget *QtPrompts::parent() const
-{
-    QWidget *active = QApplication::activeModalWidget();
-    return active ? active : m_owner.data();
-}
 
 void QtPrompts::message(Icon icon, const QString &title, const QString &text)
 {

@@ -1,0 +1,43 @@
+#include "support/test_world.h"
+
+#include <QDir>
+
+namespace test {
+
+namespace {
+
+QString folder(const QTemporaryDir &root, const QString &name)
+{
+    QDir().mkpath(root.filePath(name));
+    return root.filePath(name) + QLatin1Char('/');
+}
+
+} // namespace
+
+World::World()
+{
+    state.folders = {folder(root, QStringLiteral("program")), folder(root, QStringLiteral("data")),
+                     folder(root, QStringLiteral("temporary")), folder(root, QStringLiteral("cache"))};
+    QDir().mkpath(state.folders.GetAppDataFolder());
+    state.stamp = {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, QStringLiteral("driver"), QStringLiteral("pitwall")};
+    addVariable(2, QStringLiteral("Speed"));
+    addVariable(3, QStringLiteral("Engine speed"));
+    addVariable(10, QStringLiteral("Time stamp"));
+    for (std::size_t i = 0; i < state.settings.MessageTable.size(); ++i)
+        state.settings.MessageTable[i].number = static_cast<quint8>(i);
+    state.startMessages = state.settings.MessageTable;
+}
+
+void World::addVariable(int index, const QString &name, qint32 group)
+{
+    variables::VariableRecord &record = state.catalogue.live[static_cast<std::size_t>(index)];
+    record.IndexNumber = index;
+    record.PhysicalName = name.toUpper();
+    record.BaseName = name;
+    record.Enabled = record.Available = true;
+    record.VariableType = group;
+    variables::SetupVariables(state.catalogue);
+    state.catalogue.staging = state.catalogue.live;
+}
+
+} // namespace test
