@@ -17,11 +17,16 @@ bool present(const SettingsFile &file, const NumberKey &key)
 
 } // namespace
 
-int NumberKey::read(const SettingsFile &file) const
+int NumberKey::readUnclamped(const SettingsFile &file) const
 {
     const QString text =
         file.read(QLatin1String(section), QLatin1String(key), QString::number(fallback), NumberBuffer);
-    const int value = common::toIntegerClamped<int>(common::leadingNumber(text));
+    return common::toIntegerClamped<int>(common::leadingNumber(text));
+}
+
+int NumberKey::read(const SettingsFile &file) const
+{
+    const int value = readUnclamped(file);
     if (value < low)
         return belowLow;
     return value > high ? high : value;

@@ -17,6 +17,7 @@ struct NumberKey
     int high = 2147483647; // a value above `high` becomes `high`
 
     int read(const SettingsFile &file) const;
+    int readUnclamped(const SettingsFile &file) const;
     void write(SettingsFile &file, int value) const;
 };
 

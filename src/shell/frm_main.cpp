@@ -48,6 +48,13 @@ struct CommandTable
         {"mnuFile", "mnuSaveConfig", "&Save Layout", "toolbar/save", "Ctrl+S", false,
          [](frmMain &w) { w.m_files.mnuSaveConfig(); }},
         {"mnuFile", "", "", "", "", false, nullptr},
+        {"mnuFile", "mnuLoadVarInfo", "Load &Variable Information", "", "", false,
+         [](frmMain &w) { w.m_variables.mnuLoadVarInfo(); }},
+        {"mnuFile", "mnuSaveVarInfo", "Save Variable &Information", "", "", false,
+         [](frmMain &w) { w.m_variables.mnuSaveVarInfo(); }},
+        {"mnuFile", "mnuRestoreDefaultVar", "&Restore Default Variable Information", "", "", false,
+         [](frmMain &w) { w.m_variables.mnuRestoreDefaultVar(); }},
+        {"mnuFile", "", "", "", "", false, nullptr},
         {"mnuFile", "mnuPrdCPULoad", "Calculate Predictive CPU Load", "menu/load_estimate", "", false,
          [](frmMain &w) { w.m_files.mnuPrdCPULoad(); }},
         {"mnuFile", "", "", "", "", false, nullptr},
@@ -105,7 +112,7 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     : m_state(state), m_prompts(prompts),
       m_design(new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
                                           prompts, state.locale, state.screen})),
-      m_files(state, prompts, *m_design, *this)
+      m_files(state, prompts, *m_design, *this), m_variables(state, prompts, *m_design)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(platform::ProductTitle + QStringLiteral(" - Version ") + programVersion());

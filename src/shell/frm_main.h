@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/file_commands.h"
+#include "shell/variable_commands.h"
 
 #include <QActionGroup>
 #include <QLabel>
@@ -46,6 +47,7 @@ private:
     platform::Prompts &m_prompts;
     surface::frmInterface *m_design;
     FileCommands m_files;
+    VariableCommands m_variables;
     QMenu m_addControl;   // shared by the menu bar and the canvas popup
     QMenu m_canvasPopup;  // mnuDropDown
     QMenu m_controlPopup; // mnuDropDown3

@@ -25,7 +25,8 @@ const QString UntitledCaption = QStringLiteral("Untitled");
 
 frmInterface::frmInterface(const InterfaceContext &context)
     : m_context(context), m_canvas(new Canvas(nullptr)), m_library(new LibraryPanel(context.folders)),
-      m_variables(new VariableTree(context.catalogue, context.locale)), m_caption(UntitledCaption)
+      m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
+      m_caption(UntitledCaption)
 {
     setObjectName(QStringLiteral("frmInterface"));
     m_panels = new PanelArea(context.screen.tx, {{{QStringLiteral("Variables"), m_variables},

@@ -123,8 +123,8 @@ void frmInterface::restoreSplitter(const SettingsFile &file)
     if (!keys::LibrarySplitter.stored(file))
         return;
     // The places are shares of the panel; their unit does not matter.
-    const int top = keys::LibrarySplitter.top.read(file);
-    m_library->setSizes({qMax(top, 1), qMax(keys::Library.height.read(file) - top, 1)});
+    const int left = keys::LibrarySplitter.left.read(file);
+    m_library->setSizes({qMax(left, 1), qMax(keys::Library.width.read(file) - left, 1)});
 }
 
 void frmInterface::saveGeometry()

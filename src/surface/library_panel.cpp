@@ -26,7 +26,7 @@ QString draggedKey(const QString &key)
 } // namespace
 
 LibraryPanel::LibraryPanel(const platform::Folders &folders)
-    : QSplitter(Qt::Vertical), m_folders(folders),
+    : QSplitter(Qt::Horizontal), m_folders(folders),
       m_tree(
           new Tree(LibraryMime,
                    [](const QTreeWidgetItem &item) { return draggedKey(item.data(0, KeyRole).toString()); })),
@@ -50,7 +50,7 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
     m_list->setFont(font);
     addWidget(m_tree);
     addWidget(m_list);
-    setStretchFactor(0, 3);
+    setStretchFactor(0, 1);
     setStretchFactor(1, 2);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &LibraryPanel::loadControlList);
     connect(m_tree, &QTreeWidget::itemActivated, this,

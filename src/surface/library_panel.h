@@ -8,7 +8,7 @@
 
 namespace surface {
 
-// The control library: the tree of families and, below the splitter bar, the pictures of the chosen family's
+// The control library: the tree of families and, beside the splitter bar, the pictures of the chosen family's
 // entries. An entry is dragged to the canvas, or added with Enter.
 class LibraryPanel final : public QSplitter
 {

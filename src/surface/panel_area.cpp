@@ -37,7 +37,10 @@ PanelArea::PanelArea(float twipsPerPixel, const std::array<std::pair<QString, QW
         m_panels[i] = new Panel(panels[i].first, panels[i].second, this);
         connect(m_panels[i], &Panel::closeRequested, this,
                 [this, i] { setPanelVisible(static_cast<PanelId>(i), false); });
-        connect(m_panels[i], &Panel::arranged, this, [this] { m_automatic = false; });
+        connect(m_panels[i], &Panel::arranged, this, [this] {
+            m_automatic = false;
+            m_wanted = current();
+        });
     }
 }
 
@@ -52,16 +55,24 @@ void PanelArea::setPanelVisible(PanelId id, bool visible)
 
 void PanelArea::restore(const platform::SettingsFile &file)
 {
+    using Reader = int (NumberKey::*)(const platform::SettingsFile &) const;
+    const auto rect = [&](const PanelKeys &key, Reader read) {
+        const auto pixels = [&](const NumberKey &number) {
+            return toPixels((number.*read)(file), m_twipsPerPixel);
+        };
+        return QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
+    };
+    bool stored = false;
+    PanelRects unclamped;
     for (std::size_t i = 0; i < m_panels.size(); ++i) {
         const PanelKeys &key = keysOf(i);
-        m_automatic = m_automatic && !key.stored(file);
-        const auto pixels = [&](const NumberKey &number) {
-            return toPixels(number.read(file), m_twipsPerPixel);
-        };
-        m_stored[i] = QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
+        stored = stored || key.stored(file);
+        unclamped[i] = rect(key, &NumberKey::readUnclamped);
+        m_wanted[i] = rect(key, &NumberKey::read);
         m_visible[i] = keys::Visible[i].read(file) != 0;
         m_panels[i]->setVisible(m_visible[i]);
     }
+    m_automatic = !stored || isDefaultArrangement(unclamped);
 }
 
 void PanelArea::save(platform::SettingsFile &file) const
@@ -87,25 +98,11 @@ PanelRects PanelArea::current() const
     return rects;
 }
 
-void PanelArea::arrange(const PanelRects &rects)
-{
-    for (std::size_t i = 0; i < rects.size(); ++i)
-        m_panels[i]->setGeometry(rects[i]);
-}
-
 void PanelArea::resizeEvent(QResizeEvent *event)
 {
-    if (m_automatic) {
-        arrange(defaultPanels(event->size()));
-    } else if (!m_placed) {
-        PanelRects rects = m_stored;
-        for (QRect &rect : rects)
-            rect = pulledIntoView(rect, event->size());
-        arrange(rects);
-    } else {
-        arrange(scaledPanels(current(), event->oldSize(), event->size()));
-    }
-    m_placed = true;
+    PanelRects rects = m_automatic ? defaultPanels(event->size()) : m_wanted;
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        m_panels[i]->setGeometry(pulledIntoView(rects[i], event->size()));
 }
 
 } // namespace surface

@@ -11,7 +11,7 @@
 namespace surface {
 
 // The area of the design window that holds the three panels. Until somebody arranges them (the user, or
-// stored geometry) they fill the area side by side; then they keep their shares of it.
+// stored geometry) they fill the area; then they stay where they were put, as far as that is in view.
 class PanelArea final : public QWidget
 {
     Q_OBJECT
@@ -34,15 +34,13 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void arrange(const PanelRects &rects);
     PanelRects current() const;
 
     float m_twipsPerPixel;
     std::array<Panel *, 3> m_panels{};
     std::array<bool, 3> m_visible{true, true, true};
     bool m_automatic = true;
-    bool m_placed = false; // stored geometry waits for the area's first size
-    PanelRects m_stored{};
+    PanelRects m_wanted{}; // where they were put
 };
 
 } // namespace surface

@@ -7,32 +7,26 @@ namespace surface {
 namespace {
 
 constexpr int Gap = 4;
-constexpr int LibraryWidth = 200;
 constexpr int CanvasPanelWidth = 720 + 30; // canvas with its frame and a scroll bar
-constexpr int SmallestFunctions = 220;
+constexpr int WidestColumn = 560;
+constexpr int SmallestLibrary = 160;
 constexpr QSize SmallestPanel(120, 80);
-
-QRect column(int left, int right, const QSize &area)
-{
-    return {left, Gap, right - left, area.height() - 2 * Gap};
-}
 
 } // namespace
 
 PanelRects defaultPanels(const QSize &area)
 {
-    const int width = std::max(area.width(), 4 * Gap);
-    const int library = std::min(LibraryWidth, width / 5);
-    const int rest = width - library - 4 * Gap;
-    // The canvas is fully visible where there is room for it; what is left goes to the tree of variables.
-    const int functions =
-        std::max(std::min(rest - CanvasPanelWidth, rest / 3), std::min(SmallestFunctions, rest / 3));
-    const int designLeft = library + 2 * Gap;
-    const int functionsLeft = width - functions - Gap;
+    const int width = std::max(area.width() - 3 * Gap, 3);
+    const int height = std::max(area.height() - 2 * Gap, 3);
+    // The canvas is fully visible where there is room for it; what is left goes to the column at its right.
+    const int column = std::min(std::max(width - CanvasPanelWidth, width / 3), WidestColumn);
+    const int left = area.width() - Gap - column;
+    const int library = std::max(height * 2 / 5, std::min(SmallestLibrary, height / 2));
+    const int functions = height - library - Gap;
     PanelRects rects;
-    rects[std::size_t(PanelId::Library)] = column(Gap, library + Gap, area);
-    rects[std::size_t(PanelId::Design)] = column(designLeft, functionsLeft - Gap, area);
-    rects[std::size_t(PanelId::Functions)] = column(functionsLeft, width - Gap, area);
+    rects[std::size_t(PanelId::Design)] = {Gap, Gap, width - column, height};
+    rects[std::size_t(PanelId::Functions)] = {left, Gap, column, functions};
+    rects[std::size_t(PanelId::Library)] = {left, 2 * Gap + functions, column, library};
     return rects;
 }
 
@@ -44,23 +38,11 @@ QRect pulledIntoView(const QRect &panel, const QSize &area)
     return {QPoint(left, top), size};
 }
 
-PanelRects scaledPanels(const PanelRects &panels, const QSize &before, const QSize &after)
+bool isDefaultArrangement(const PanelRects &panels)
 {
-    PanelRects scaled = panels;
-    if (before.isEmpty())
-        return scaled;
-    const auto x = [&](int value) {
-        return static_cast<int>(qint64{value} * after.width() / before.width());
-    };
-    const auto y = [&](int value) {
-        return static_cast<int>(qint64{value} * after.height() / before.height());
-    };
-    for (QRect &rect : scaled) {
-        const QPoint corner(x(rect.left()), y(rect.top()));
-        const QPoint end(x(rect.left() + rect.width()), y(rect.top() + rect.height()));
-        rect = pulledIntoView({corner, QSize(end.x() - corner.x(), end.y() - corner.y())}, after);
-    }
-    return scaled;
+    const QRect &last = panels[std::size_t(PanelId::Library)];
+    const QSize area(last.left() + last.width() + Gap, last.top() + last.height() + Gap);
+    return panels == defaultPanels(area);
 }
 
 } // namespace surface

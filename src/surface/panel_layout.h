@@ -10,13 +10,14 @@ namespace surface {
 enum class PanelId { Functions = 0, Library = 1, Design = 2 };
 using PanelRects = std::array<QRect, 3>; // indexed by PanelId, pixels
 
-// Library, design and functions side by side, filling an area of this size without overlap.
+// The design at the left, functions above the library at its right, filling an area of this size without
+// overlap.
 PanelRects defaultPanels(const QSize &area);
 
 // The rectangle no larger than the area, no smaller than a panel can be used at, and inside the area.
 QRect pulledIntoView(const QRect &panel, const QSize &area);
 
-// The panels after their area has changed its size: they keep their shares of it.
-PanelRects scaledPanels(const PanelRects &panels, const QSize &before, const QSize &after);
+// Whether the panels lie as defaultPanels() lays them out for an area of any size: nobody has moved them.
+bool isDefaultArrangement(const PanelRects &panels);
 
 } // namespace surface

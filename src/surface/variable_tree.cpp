@@ -1,30 +1,20 @@
 #include "surface/variable_tree.h"
 
 #include "controls/overlay_control.h"
+#include "platform/guards.h"
 #include "surface/drag_source.h"
+#include "surface/variable_edits.h"
 #include "surface/variable_labels.h"
+#include "variables/edit_cycle.h"
 
 #include <QHash>
-#include <QSet>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace surface {
 
-namespace {
-
-constexpr int KeyRole = Qt::UserRole;
-constexpr int IndexRole = Qt::UserRole + 1;
-
-using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
-
-// A variable stands right below its group.
-QString draggedVariable(const QTreeWidgetItem &item)
-{
-    const bool isVariable = item.parent() && !item.parent()->parent();
-    return isVariable ? QString::number(item.data(0, IndexRole).toInt()) : QString();
-}
-
-class IconCache
+// Loads each icon of the tree once.
+class VariableIcons
 {
 public:
     const QIcon &of(const char *art)
@@ -39,6 +29,23 @@ private:
     QHash<QString, QIcon> m_icons;
 };
 
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+constexpr int IndexRole = Qt::UserRole + 1;
+
+using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
+
+// A variable stands right below its group.
+bool isVariable(const QTreeWidgetItem &item) { return item.parent() && !item.parent()->parent(); }
+
+QString draggedVariable(const QTreeWidgetItem &item)
+{
+    return isVariable(item) ? QString::number(item.data(0, IndexRole).toInt()) : QString();
+}
+
+QString keyOf(const QTreeWidgetItem *item) { return item->data(0, KeyRole).toString(); }
+
 QTreeWidgetItem *newItem(QTreeWidgetItem *parent, const QString &key, const QString &text, const QIcon &icon)
 {
     auto *item = new QTreeWidgetItem(parent, {text});
@@ -48,7 +55,7 @@ QTreeWidgetItem *newItem(QTreeWidgetItem *parent, const QString &key, const QStr
 }
 
 void addDetails(QTreeWidgetItem *parent, const std::vector<VariableDetail> &details, int index,
-                IconCache &icons)
+                VariableIcons &icons)
 {
     for (const VariableDetail &detail : details) {
         QTreeWidgetItem *item = newItem(parent, detail.key(index), detail.text, icons.of(detail.art));
@@ -65,20 +72,20 @@ void walk(QTreeWidgetItem *item, Visit visit)
     }
 }
 
-QSet<QString> openBranches(const QTreeWidget &tree)
+QSet<QString> expandedKeys(const QTreeWidget &tree)
 {
     QSet<QString> keys;
     walk(tree.invisibleRootItem(), [&](const QTreeWidgetItem *item) {
         if (item->isExpanded())
-            keys.insert(item->data(0, KeyRole).toString());
+            keys.insert(keyOf(item));
     });
     return keys;
 }
 
 } // namespace
 
-VariableTree::VariableTree(const variables::Catalogue &catalogue, const platform::NumberLocale &locale)
-    : m_catalogue(catalogue), m_locale(locale), m_tree(new Tree(controls::VariableMime, &draggedVariable))
+VariableTree::VariableTree(const VariableTreeContext &context)
+    : m_context(context), m_search(new QLineEdit), m_tree(new Tree(controls::VariableMime, &draggedVariable))
 {
     m_tree->setObjectName(QStringLiteral("VarTree"));
     m_tree->setAccessibleName(QStringLiteral("Variables"));
@@ -86,16 +93,53 @@ VariableTree::VariableTree(const variables::Catalogue &catalogue, const platform
     m_tree->setIndentation(14);
     m_tree->setUniformRowHeights(true);
     m_tree->setFont(QFont(QStringLiteral("QL Sans Serif"), 8));
+    makeSearchBox();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(m_search);
     layout->addWidget(m_tree);
-    connect(m_tree, &QTreeWidget::itemPressed, this, &VariableTree::used);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *enter = new QShortcut(key, m_tree);
+        enter->setContext(Qt::WidgetShortcut);
+        connect(enter, &QShortcut::activated, this, [this] {
+            if (const QTreeWidgetItem *item = m_tree->currentItem())
+                edit(keyOf(item));
+        });
+    }
+    connect(m_tree, &QTreeWidget::itemPressed, this, [this](const QTreeWidgetItem *item) {
+        emit used();
+        // The prompt opens when the press is done, so that the tree does not wait for a release.
+        QMetaObject::invokeMethod(
+            this, [this, key = keyOf(item)] { edit(key); }, Qt::QueuedConnection);
+    });
+}
+
+void VariableTree::makeSearchBox()
+{
+    m_search->setObjectName(QStringLiteral("txtSearch"));
+    m_search->setPlaceholderText(QStringLiteral("Search variables"));
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this, &VariableTree::filter);
+}
+
+void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index, VariableIcons &icons) const
+{
+    const variables::VariableRecord &record = m_context.catalogue.staging[index];
+    const int number = static_cast<int>(index);
+    QTreeWidgetItem *item =
+        newItem(group, variableKey("AVAILABLETYPE", number), variableText(record), icons.of("variable"));
+    item->setData(0, IndexRole, number);
+    addDetails(item,
+               variableDetails(record, number, m_context.catalogue.units, m_context.locale.decimalSeparator),
+               number, icons);
 }
 
 void VariableTree::RegenerateVariableTree()
 {
-    const QSet<QString> open = openBranches(*m_tree);
-    IconCache icons;
+    const QSet<QString> open = expandedKeys(*m_tree);
+    VariableIcons icons;
     QList<QTreeWidgetItem *> groups;
     for (const VariableGroupNode &group : VariableGroups) {
         auto *item = new QTreeWidgetItem({QLatin1String(group.text)});
@@ -103,23 +147,74 @@ void VariableTree::RegenerateVariableTree()
         item->setIcon(0, icons.of(group.art));
         groups.append(item);
     }
-    for (std::size_t i = 1; i < m_catalogue.staging.size(); ++i) {
-        const variables::VariableRecord &record = m_catalogue.staging[i];
-        if (!record.Available || record.VariableType < 1 || record.VariableType > groups.size())
-            continue;
-        const int index = static_cast<int>(i);
-        QTreeWidgetItem *item = newItem(groups[record.VariableType - 1], variableKey("AVAILABLETYPE", index),
-                                        variableText(record), icons.of("variable"));
-        item->setData(0, IndexRole, index);
-        addDetails(item, variableDetails(record, index, m_catalogue.units, m_locale.decimalSeparator), index,
-                   icons);
+    const variables::VariableTable &table = m_context.catalogue.staging;
+    for (std::size_t i = 1; i < table.size(); ++i) {
+        const qint32 group = table[i].VariableType;
+        if (table[i].Available && group >= 1 && group <= groups.size())
+            addVariable(groups[group - 1], i, icons);
     }
     m_tree->clear();
     m_tree->addTopLevelItems(groups);
-    walk(m_tree->invisibleRootItem(), [&](QTreeWidgetItem *item) {
-        if (open.contains(item->data(0, KeyRole).toString()))
-            item->setExpanded(true);
+    openBranches(open);
+    if (!m_search->text().isEmpty())
+        filter(m_search->text());
+}
+
+void VariableTree::openBranches(const QSet<QString> &keys)
+{
+    walk(m_tree->invisibleRootItem(),
+         [&](QTreeWidgetItem *item) { item->setExpanded(keys.contains(keyOf(item))); });
+}
+
+void VariableTree::filter(const QString &text)
+{
+    const bool searching = !text.trimmed().isEmpty();
+    if (searching && m_openBeforeSearch.isEmpty())
+        m_openBeforeSearch = expandedKeys(*m_tree);
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *group = m_tree->topLevelItem(i);
+        bool anyMatch = false;
+        for (int j = 0; j < group->childCount(); ++j) {
+            const bool match = group->child(j)->text(0).contains(text.trimmed(), Qt::CaseInsensitive);
+            group->child(j)->setHidden(!match);
+            anyMatch = anyMatch || match;
+        }
+        group->setHidden(searching && !anyMatch);
+        if (searching)
+            group->setExpanded(anyMatch);
+    }
+    if (!searching) {
+        openBranches(m_openBeforeSearch);
+        m_openBeforeSearch.clear();
+    }
+}
+
+void VariableTree::edit(const QString &key)
+{
+    const auto line = variableLine(key);
+    if (!line)
+        return;
+    bool changed = false;
+    platform::reportFailures(m_context.prompts, [&] { changed = editRecord(line->role, line->index); });
+    if (!changed)
+        return;
+    platform::reportFailures(m_context.prompts, [&] {
+        variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale);
     });
+    RegenerateVariableTree(); // the edit stands even when the files could not be written
+}
+
+bool VariableTree::editRecord(const QString &role, int index)
+{
+    variables::VariableRecord &record = m_context.catalogue.staging[static_cast<std::size_t>(index)];
+    const QString &mark = m_context.locale.decimalSeparator;
+    if (role == QLatin1String("MAXROC"))
+        return editMaximumRoc(record, m_context.prompts, mark);
+    if (role == QLatin1String("USERNAME"))
+        return editName(record, m_context.prompts);
+    if (role == QLatin1String("SMOOTHING"))
+        return editSmoothing(record, m_context.prompts, mark);
+    return false;
 }
 
 } // namespace surface

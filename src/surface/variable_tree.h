@@ -1,20 +1,34 @@
 #pragma once
 
+#include "platform/folders.h"
 #include "platform/locale.h"
+#include "platform/prompts.h"
 #include "variables/catalogue.h"
 
+#include <QLineEdit>
+#include <QSet>
 #include <QTreeWidget>
 #include <QWidget>
 
 namespace surface {
 
-// The functions panel's tree of variables. It holds no state of its own but which branches are open.
+// What the tree of variables works on.
+struct VariableTreeContext
+{
+    variables::Catalogue &catalogue;
+    const platform::Folders &folders;
+    const platform::NumberLocale &locale;
+    platform::Prompts &prompts;
+};
+
+// The functions panel: a search box and the tree of variables. It holds no state of its own but which
+// branches are open; every edit changes the catalogue, saves it and builds the tree anew.
 class VariableTree final : public QWidget
 {
     Q_OBJECT
 
 public:
-    VariableTree(const variables::Catalogue &catalogue, const platform::NumberLocale &locale);
+    explicit VariableTree(const VariableTreeContext &context);
 
     // Builds the tree anew from the staging table; open branches stay open.
     void RegenerateVariableTree();
@@ -23,9 +37,17 @@ signals:
     void used(); // a press that takes the surface's group marks away
 
 private:
-    const variables::Catalogue &m_catalogue;
-    const platform::NumberLocale &m_locale;
-    QTreeWidget *m_tree; // VarTree
+    void makeSearchBox();
+    void addVariable(QTreeWidgetItem *group, std::size_t index, class VariableIcons &icons) const;
+    void edit(const QString &key);
+    bool editRecord(const QString &role, int index);
+    void filter(const QString &text);
+    void openBranches(const QSet<QString> &keys);
+
+    VariableTreeContext m_context;
+    QLineEdit *m_search;
+    QTreeWidget *m_tree;              // VarTree
+    QSet<QString> m_openBeforeSearch; // branches to come back to when the search box is empty again
 };
 
 } // namespace surface

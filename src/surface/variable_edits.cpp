@@ -1,0 +1,67 @@
+#include "surface/variable_edits.h"
+
+#include "common/number_text.h"
+#include "variables/number_parser.h"
+
+#include <QStringList>
+
+namespace surface {
+
+using variables::VariableRecord;
+
+namespace {
+
+// Stores what was typed; an empty answer is a cancel.
+bool storeNumber(float &field, const QString &answer)
+{
+    if (answer.trimmed().isEmpty())
+        return false;
+    field = static_cast<float>(variables::parseNumber(answer));
+    return true;
+}
+
+} // namespace
+
+std::optional<VariableLine> variableLine(const QString &key)
+{
+    const QStringList fields = key.split(QLatin1Char('#'));
+    if (!key.startsWith(QLatin1Char('#')) || fields.size() < 3)
+        return std::nullopt;
+    const int index = fields[2].toInt();
+    if (index < 1 || index > variables::LastIndex)
+        return std::nullopt;
+    return VariableLine{fields[1], index};
+}
+
+bool editMaximumRoc(VariableRecord &record, platform::Prompts &prompts, const QString &decimalMark)
+{
+    const QString current = common::shortestText(record.MaximumROC, decimalMark);
+    return storeNumber(record.MaximumROC,
+                       prompts.input(QStringLiteral("Maximum rate of change"),
+                                     QStringLiteral("Please inputs a new maximum rate of change ") + current,
+                                     current));
+}
+
+bool editName(VariableRecord &record, platform::Prompts &prompts)
+{
+    const QString answer =
+        prompts
+            .input(QStringLiteral("New name"),
+                   QStringLiteral("Please inputs a new name for ") + record.BaseName, record.BaseName)
+            .trimmed();
+    if (answer.isEmpty())
+        return false;
+    record.BaseName = answer;
+    return true;
+}
+
+bool editSmoothing(VariableRecord &record, platform::Prompts &prompts, const QString &decimalMark)
+{
+    return storeNumber(
+        record.SmoothingTime,
+        prompts.input(QStringLiteral("Smoothing time"),
+                      QStringLiteral("Please inputs a new smoothing time for ") + record.BaseName,
+                      common::shortestText(record.SmoothingTime, decimalMark)));
+}
+
+} // namespace surface
