@@ -52,7 +52,7 @@ changed_sources()
 
 check_changed() # BUILD-FOLDER
 {
-    local build=$1 tool file most=40
+    local build=$1 tool file most=12
     tool=$(llvm_tool clang-tidy) || return 0
     if ! in_git rev-parse --git-dir >/dev/null 2>&1; then
         say "This is no git repository; static checks are left out"

@@ -30,7 +30,10 @@ bool hasLineBreak(const QString &text)
     return text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\r')) || text.contains(QChar(0));
 }
 
-bool readableName(const QString &name) { return !name.trimmed().isEmpty() && !hasLineBreak(name); }
+bool readableName(const QString &name)
+{
+    return !name.trimmed().isEmpty() && !hasLineBreak(name) && fromCodePage(toCodePage(name)) == name;
+}
 
 bool readableKey(const QString &key)
 {

@@ -22,8 +22,8 @@ public:
     QString read(const QString &section, const QString &key, const QString &fallback, int bufferSize) const;
 
     // Sets the value, or removes the key when there is none. Refuses (false) a section, key or value that
-    // could not be read back: line breaks, "=" or a leading "[" or ";" in a key, "]" in a section, an empty
-    // name.
+    // could not be read back: characters outside the code page, line breaks, "=" or a leading "[" or ";" in a
+    // key, "]" in a section, an empty name.
     bool write(const QString &section, const QString &key, const std::optional<QString> &value);
     void removeSection(const QString &section);
 

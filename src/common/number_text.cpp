@@ -3,8 +3,24 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace common {
+
+namespace {
+
+// A number too small for a double is 0, one too large is infinite.
+double outOfRange(QByteArrayView number)
+{
+    const bool negative = number.front() == '-';
+    const QByteArray digits = number.sliced(negative ? 1 : 0).toByteArray().toLower();
+    const bool isSmall =
+        digits.contains("e-") || (!digits.contains('e') && (digits[0] == '0' || digits[0] == '.'));
+    const double limit = isSmall ? 0.0 : std::numeric_limits<double>::infinity();
+    return negative ? -limit : limit;
+}
+
+} // namespace
 
 QString shortestText(float value, const QString &decimalMark)
 {
@@ -32,7 +48,7 @@ double leadingNumber(const QString &text)
     double value = 0.0;
     const auto result = std::from_chars(begin, end, value);
     if (result.ec == std::errc::result_out_of_range)
-        return QByteArray(begin, result.ptr - begin).toDouble();
+        return outOfRange(QByteArrayView(begin, result.ptr));
     return result.ec == std::errc() ? value : 0.0;
 }
 

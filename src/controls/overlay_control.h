@@ -145,8 +145,8 @@ private:
     void placeWidget();
     QPointF twipsOf(const QMouseEvent &event) const;
     void pressRight(Qt::KeyboardModifiers modifiers, const QPoint &globalPosition);
-    void pressLeft(Qt::KeyboardModifiers modifiers, QPointF position);
-    void startDrag(QPointF position);
+    void pressLeft(Qt::KeyboardModifiers modifiers);
+    void startDrag();
     void setGridColour(quint32 colour);
     bool isFrozen() const { return m_host.IsPlayMode(); }
 
@@ -157,7 +157,8 @@ private:
     bool m_isGrouped = false;
     Gesture m_gesture = Gesture::None;
     bool m_leftDeadZone = false;
-    QPointF m_dragStart; // twips
+    QPointF m_dragStart;     // twips
+    bool m_hasMoved = false; // since the press
     std::optional<Handle> m_handleIndex;
     HandleTable m_handleTable{};
     quint32 m_backColour = 0;

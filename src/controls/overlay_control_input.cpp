@@ -56,8 +56,10 @@ void OverlayControl::mousePressEvent(QMouseEvent *event)
     }
     m_handleIndex = handleAt(m_handleTable, position);
     m_gesture = m_handleIndex ? Gesture::Resizing : Gesture::None;
+    m_dragStart = position;
+    m_hasMoved = false;
     m_leftDeadZone = false;
-    skipFailures([&] { pressLeft(event->modifiers(), position); });
+    skipFailures([&] { pressLeft(event->modifiers()); });
 }
 
 void OverlayControl::pressRight(Qt::KeyboardModifiers modifiers, const QPoint &globalPosition)
@@ -70,25 +72,21 @@ void OverlayControl::pressRight(Qt::KeyboardModifiers modifiers, const QPoint &g
         m_host.showControlMenu(*this, globalPosition);
 }
 
-void OverlayControl::startDrag(QPointF position)
-{
-    m_gesture = Gesture::Dragging;
-    m_dragStart = position;
-}
+void OverlayControl::startDrag() { m_gesture = Gesture::Dragging; }
 
-void OverlayControl::pressLeft(Qt::KeyboardModifiers modifiers, QPointF position)
+void OverlayControl::pressLeft(Qt::KeyboardModifiers modifiers)
 {
     if (modifiers == Qt::ControlModifier) {
         m_isGrouped = !m_isGrouped;
         if (m_isGrouped && m_gesture != Gesture::Resizing) {
-            startDrag(position);
+            startDrag();
             emit ResetControlGroup();
         }
         setGridColour(m_isGrouped ? FrameGrouped : FrameNormal);
         return;
     }
     if (m_gesture != Gesture::Resizing) {
-        startDrag(position);
+        startDrag();
         emit ResetControlGroup();
     }
     if (!m_isGrouped)
@@ -103,13 +101,15 @@ void OverlayControl::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const QPointF position = twipsOf(*event);
-    const auto x = static_cast<float>(position.x());
-    const auto y = static_cast<float>(position.y());
+    if (m_gesture != Gesture::None && event->buttons() == Qt::NoButton)
+        m_gesture = Gesture::None; // the release went elsewhere
+    m_hasMoved = m_hasMoved || position != m_dragStart;
     if (m_gesture == Gesture::Resizing) {
-        emit ResizeDrag(*m_handleIndex, x, y);
+        emit ResizeDrag(*m_handleIndex, static_cast<float>(position.x()), static_cast<float>(position.y()));
     } else if (m_gesture == Gesture::Dragging) {
         setCursor(Qt::SizeAllCursor);
-        emit Drag(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()), x, y);
+        emit Drag(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()),
+                  static_cast<float>(position.x()), static_cast<float>(position.y()));
     } else {
         m_handleIndex = handleAt(m_handleTable, position);
         setCursor(pointerOf(m_handleIndex));
@@ -121,13 +121,13 @@ void OverlayControl::mouseReleaseEvent(QMouseEvent *event)
     if (isFrozen())
         return;
     const QPointF position = twipsOf(*event);
-    const auto x = static_cast<float>(position.x());
-    const auto y = static_cast<float>(position.y());
     const Gesture finished = std::exchange(m_gesture, Gesture::None);
-    if (finished == Gesture::Resizing)
-        emit Resize(*m_handleIndex, x, y);
-    else if (finished == Gesture::Dragging)
-        emit Relocate(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()), x, y);
+    if (finished == Gesture::Resizing && m_hasMoved) {
+        emit Resize(*m_handleIndex, static_cast<float>(position.x()), static_cast<float>(position.y()));
+    } else if (finished == Gesture::Dragging) {
+        emit Relocate(static_cast<float>(m_dragStart.x()), static_cast<float>(m_dragStart.y()),
+                      static_cast<float>(position.x()), static_cast<float>(position.y()));
+    }
     if (m_isGrouped)
         m_host.RefreshBackground();
     emit DrawBack();

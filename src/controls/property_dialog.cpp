@@ -3,12 +3,12 @@
 #include "common/number_text.h"
 #include "platform/guards.h"
 #include "variables/number_parser.h"
+#include "variables/numeric_keys.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QValidator>
 
 namespace controls {
 
@@ -16,26 +16,6 @@ namespace {
 
 constexpr double AlphaOpaque = 255;
 constexpr double PercentFull = 100;
-
-// Drops keys that no number holds.
-class NumericKeys final : public QValidator
-{
-public:
-    NumericKeys(QObject *parent, QString decimalSeparator)
-        : QValidator(parent), m_decimalSeparator(std::move(decimalSeparator))
-    {
-    }
-    State validate(QString &text, int &) const override
-    {
-        const bool numeric = std::all_of(text.cbegin(), text.cend(), [this](QChar c) {
-            return variables::isNumericKey(c, m_decimalSeparator);
-        });
-        return numeric ? Acceptable : Invalid;
-    }
-
-private:
-    QString m_decimalSeparator;
-};
 
 } // namespace
 
@@ -126,7 +106,7 @@ QLineEdit *PropertyDialog::addNumber(const char *name, const QString &label, con
 {
     auto *field = new QLineEdit(text);
     field->setObjectName(QLatin1String(name));
-    field->setValidator(new NumericKeys(field, m_control.host().locale().decimalSeparator));
+    new variables::NumericKeys(field, m_control.host().locale().decimalSeparator);
     addRow(label, field, unit);
     return field;
 }

@@ -7,7 +7,6 @@ namespace layoutfile {
 
 namespace {
 
-using common::toInteger;
 using common::toIntegerClamped;
 using common::wholeDivide;
 using controls::BarGraph;
@@ -25,10 +24,10 @@ struct Point
 std::pair<Point, Point> barEnds(const BarGraphValues &values, const platform::Screen &screen)
 {
     const Box &box = values.box;
-    const auto left = toInteger<qint16>(wholeDivide(box.Left + FrameTwips, screen.tx));
-    const auto right = toInteger<qint16>(wholeDivide(box.right() - FrameTwips, screen.tx));
-    const auto top = toInteger<qint16>(wholeDivide(box.Top + FrameTwips, screen.ty));
-    const auto bottom = toInteger<qint16>(wholeDivide(box.bottom() - FrameTwips, screen.ty));
+    const auto left = toIntegerClamped<qint16>(wholeDivide(box.Left + FrameTwips, screen.tx));
+    const auto right = toIntegerClamped<qint16>(wholeDivide(box.right() - FrameTwips, screen.tx));
+    const auto top = toIntegerClamped<qint16>(wholeDivide(box.Top + FrameTwips, screen.ty));
+    const auto bottom = toIntegerClamped<qint16>(wholeDivide(box.bottom() - FrameTwips, screen.ty));
     const bool reversed = values.curMin > values.curMax;
     std::pair<Point, Point> ends = values.isHorizontal() ? std::pair{Point{left, top}, Point{right, top}}
                                                          : std::pair{Point{left, bottom}, Point{left, top}};

@@ -2,6 +2,7 @@
 
 #include "controls/overlay_control.h"
 #include "layoutfile/family_records.h"
+#include "layoutfile/fold_variables.h"
 #include "layoutfile/settings_from_records.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
@@ -10,7 +11,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <cmath>
 
 namespace layoutfile {
 
@@ -58,23 +58,6 @@ void buildControls(const Records &records, const LoadContext &context, platform:
             progress.advance(50, 40, ++done, total);
         }
     }
-}
-
-// Brings the catalogue in line with the file: what the recorder was told about smoothing and limits.
-void foldVariables(const Records &records, variables::Catalogue &catalogue)
-{
-    for (const LayoutRecord &record : records) {
-        const auto *entry = std::get_if<VariableEntry>(&record.body);
-        if (!entry || entry->variable < 1 || entry->variable > variables::LastIndex)
-            continue;
-        variables::VariableRecord &variable = catalogue.live[static_cast<std::size_t>(entry->variable)];
-        if (std::isfinite(entry->smoothingTime))
-            variable.SmoothingTime = entry->smoothingTime;
-        if (std::isfinite(entry->maximumRoc))
-            variable.MaximumROC = entry->maximumRoc;
-    }
-    variables::SetupVariables(catalogue);
-    catalogue.staging = catalogue.live;
 }
 
 // A picture for the eye only: one that cannot be written is no failure.
@@ -127,7 +110,7 @@ bool LoadVGL(const QString &path, const LoadContext &context)
         if (stored != before)
             context.surface.setVideoStandard(stored);
         buildControls(records, context, progress);
-        foldVariables(records, context.catalogue);
+        foldVariables(records, context.catalogue, context.locale);
         writeTables(context);
     }
     context.surface.refresh();

@@ -2,6 +2,7 @@
 
 #include "controls/control_surface.h"
 #include "platform/folders.h"
+#include "platform/locale.h"
 #include "platform/progress.h"
 #include "platform/prompts.h"
 #include "recorder/recorder_settings.h"
@@ -17,6 +18,7 @@ struct LoadContext
     platform::Prompts &prompts;
     platform::Progress &progress;
     const platform::Folders &folders;
+    platform::NumberLocale locale{}; // in which equations will be read
 };
 
 // Loads a layout into the current design without clearing it: controls are added, recorder settings replaced.

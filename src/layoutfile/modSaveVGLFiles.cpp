@@ -2,6 +2,7 @@
 
 #include "graphics/thumbnail.h"
 #include "layoutfile/family_records.h"
+#include "layoutfile/program_pass.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
 
@@ -73,24 +74,21 @@ void gatherControls(Gathering &save, const ControlList &controls, ProgressScope 
     }
 }
 
-// Enabled variables in catalogue order. The length 1 of a used variable without a program does not count in
-// offsets or sums.
-void gatherVariables(Gathering &save, const variables::VariableTable &table, ProgressScope &progress)
+void gatherVariables(Gathering &save, const SaveContext &context, ProgressScope &progress)
 {
+    const variables::VariableTable &table = context.catalogue.live;
     markReferences(save.used, table);
     const auto count =
         std::count_if(table.begin(), table.end(), [](const auto &record) { return record.Enabled; });
+    ProgramPass pass(context.catalogue, save.used, context.locale);
     qsizetype done = 0;
     for (std::size_t i = 1; i < table.size(); ++i) {
-        const variables::VariableRecord &record = table[i];
-        if (!record.Enabled)
+        if (!table[i].Enabled)
             continue;
-        const quint8 used = save.used.isUsed(static_cast<int>(i)) ? 1 : 0;
-        save.groups.add(
-            VariableEntry{static_cast<qint32>(i), used, record.SmoothingTime, record.MaximumROC, -1, used});
+        save.groups.add(pass.entry(static_cast<int>(i)));
         progress.advance(50, 10, ++done, count);
     }
-    save.groups.add(ProgramsRecord{});
+    save.groups.add(ProgramsRecord{Bulk{pass.programs()}});
 }
 
 void gatherChapters(RecordGroups &groups, const std::vector<recorder::ChapterCondition> &chapters,
@@ -178,7 +176,7 @@ bool writeLayout(const QString &path, SaveKind kind, const SaveContext &context,
     if (kind != SaveKind::Backup && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return false;
     markSettings(save.used, context.settings);
-    gatherVariables(save, context.catalogue.live, progress);
+    gatherVariables(save, context, progress);
     gatherSettings(save.groups, context.settings, progress);
     platform::replaceFile(path, assembleLayout(save.groups, context.stamp));
     progress.setValue(100);

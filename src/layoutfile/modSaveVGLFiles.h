@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control_surface.h"
+#include "platform/locale.h"
 #include "platform/progress.h"
 #include "platform/prompts.h"
 #include "platform/screen.h"
@@ -19,6 +20,7 @@ struct SaveContext
     platform::Progress &progress;
     const platform::Stamp &stamp;
     platform::Screen screen;
+    platform::NumberLocale locale{}; // in which equations were typed
 };
 
 enum class SaveKind {

@@ -1,5 +1,6 @@
 #include "layoutfile/record_codec.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -54,7 +55,13 @@ private:
 
 // A special icon's stated size: its fields and twice its Y plane.
 constexpr qint32 IconFields = 10;
-constexpr qsizetype iconYPlane(qint32 stated) { return (stated - IconFields) / 2; }
+constexpr qsizetype iconYPlane(qsizetype stated) { return (stated - IconFields) / 2; }
+// Behind Y stand U and V, a quarter of it each; the inverse serves planes whose Y is no multiple of four too.
+constexpr qsizetype iconPlanes(qsizetype y) { return y + 2 * (y / 4); }
+constexpr qsizetype iconYPlaneOf(qsizetype planes)
+{
+    return planes / 6 * 4 + std::min<qsizetype>(planes % 6, 3);
+}
 
 class FieldReader
 {
@@ -94,11 +101,7 @@ private:
         field.text = m_in.get(N).toByteArray();
     }
     void get(Bulk &bulk) { bulk.bytes = m_in.get(m_size).toByteArray(); }
-    void get(IconPlanes &planes)
-    {
-        const qsizetype y = iconYPlane(m_size);
-        planes.bytes = m_in.get(y + y / 2).toByteArray();
-    }
+    void get(IconPlanes &planes) { planes.bytes = m_in.get(iconPlanes(iconYPlane(m_size))).toByteArray(); }
 
     ByteReader &m_in;
     qint32 m_size;
@@ -150,8 +153,7 @@ qint32 statedSize(const RecordBody &body, qsizetype payloadSize)
     constexpr qint32 CustomDialStatedSize = 83;
     if (const auto *icon = std::get_if<SpecialIconRecord>(&body)) {
         // Twice the Y plane where one and a half times is stored: deliberate.
-        const qsizetype y = icon->planes.bytes.size() * 2 / 3;
-        return static_cast<qint32>(IconFields + 2 * y);
+        return static_cast<qint32>(IconFields + 2 * iconYPlaneOf(icon->planes.bytes.size()));
     }
     if (std::holds_alternative<CustomDialRecord>(body))
         return CustomDialStatedSize;

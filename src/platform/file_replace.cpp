@@ -47,8 +47,9 @@ void flushFile(QFile &file)
 bool renamedOver(const QString &path, const QByteArray &bytes, QString &reason)
 {
     QSaveFile file(path);
+    // commit() passes over a flush that failed, so it is asked for by itself.
     const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     if (!written)
         reason = file.errorString();
     return written;

@@ -26,6 +26,7 @@ struct Folders
     QString defaultLayoutFile() const { return inUserData("MORVELDefault.VGL"); }
     QString pictureFolder() const { return inUserData("ImgTemp/"); } // copies of pictures that users chose
     QString seeds() const { return program + QStringLiteral("defaults/"); }
+    QString shippedFaces() const { return program + QStringLiteral("fonts/"); }
     QString inUserData(const char *name) const { return GetAppDataFolder() + QLatin1String(name); }
 };
 

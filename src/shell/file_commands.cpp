@@ -11,6 +11,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace shell {
 
@@ -30,7 +31,8 @@ enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
 layoutfile::SaveContext saveContext(ProgramState &state, surface::frmInterface &design,
                                     platform::Prompts &prompts, platform::Progress &progress)
 {
-    return {design, state.catalogue, state.settings, prompts, progress, state.stamp, state.screen};
+    return {design,   state.catalogue, state.settings, prompts,
+            progress, state.stamp,     state.screen,   state.locale};
 }
 
 // The newest backup has no number; the two before it are 2 and 3.
@@ -60,21 +62,27 @@ void FileCommands::mnuNew()
         clearDesign();
 }
 
-// Nobody loses a design to a cancelled dialog: what is cleared was backed up.
-void FileCommands::clearDesign()
+// What is cleared was backed up: nobody loses a design to a cancelled dialog. A backup that fails is
+// reported, and the design stays.
+bool FileCommands::clearDesign()
 {
-    platform::reportFailures(m_prompts, [this] { backUpDesign(); });
-    m_design.mnuNew_Click();
+    const bool backedUp = platform::reportFailures(m_prompts, [this] { backUpDesign(); });
+    if (backedUp)
+        m_design.mnuNew_Click();
+    return backedUp;
 }
 
 void FileCommands::backUpDesign()
 {
     if (m_design.controls().isEmpty())
         return;
-    rotateBackups(m_state.folders);
+    const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("backup"));
+    const QString written = folder.filePath(QStringLiteral("MORVELBackup.VGL"));
     platform::NoProgress silent;
-    layoutfile::SaveVGL(m_state.folders.inUserData("MORVELBackup.VGL"), SaveKind::Backup,
-                        saveContext(m_state, m_design, m_prompts, silent));
+    layoutfile::SaveVGL(written, SaveKind::Backup, saveContext(m_state, m_design, m_prompts, silent));
+    const QByteArray backup = platform::readFile(written);
+    rotateBackups(m_state.folders); // only now: a backup that fails must not cost an older one
+    platform::replaceFile(m_state.folders.inUserData("MORVELBackup.VGL"), backup);
 }
 
 void FileCommands::mnuLoadConfig()
@@ -93,9 +101,8 @@ void FileCommands::mnuLoadConfig()
     const int chosen = option.value_or(Abort);
     if (chosen == SaveAndClearFirst)
         mnuSaveConfig();
-    if (chosen == ClearFirst || chosen == SaveAndClearFirst)
-        clearDesign();
-    if (chosen != Abort)
+    const bool clears = chosen == ClearFirst || chosen == SaveAndClearFirst;
+    if (chosen != Abort && (!clears || clearDesign()))
         LoadProfile();
 }
 
@@ -117,7 +124,7 @@ void FileCommands::load(const QString &path)
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
         const layoutfile::LoadContext context{m_design, m_state.catalogue, m_state.settings, m_prompts,
-                                              busy,     m_state.folders};
+                                              busy,     m_state.folders,   m_state.locale};
         if (layoutfile::LoadVGL(path, context))
             m_design.setCaption(QFileInfo(path).completeBaseName());
     });
@@ -169,17 +176,19 @@ void FileCommands::mnuSaveConfig()
 // The chosen path only ever receives a whole file.
 bool FileCommands::save(const QString &path)
 {
-    const QString temporary = m_state.folders.temporary + QFileInfo(path).fileName();
-    QFile::remove(temporary);
-    const bool done = platform::reportFailures(m_prompts, [&] {
+    bool written = false;
+    platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
+        const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("save"));
+        const QString temporary = folder.filePath(QFileInfo(path).fileName());
         const auto result = layoutfile::SaveVGL(temporary, SaveKind::Command,
                                                 saveContext(m_state, m_design, m_prompts, busy));
-        if (result == SaveResult::Written)
-            platform::replaceFile(path, platform::readFile(temporary));
+        if (result != SaveResult::Written)
+            return;
+        platform::replaceFile(path, platform::readFile(temporary));
+        written = true;
     });
-    const bool written = QFile::remove(temporary);
-    return done && written;
+    return written;
 }
 
 void FileCommands::saveWorkspace()

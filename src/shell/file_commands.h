@@ -26,7 +26,7 @@ public:
 
 private:
     void LoadProfile();
-    void clearDesign();
+    bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
     bool passesComplexityGate();
     double CalculateComplexity() const;

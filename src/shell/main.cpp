@@ -15,6 +15,7 @@ int main(int argc, char **argv)
     if (!instance.isFirst())
         return shell::AlreadyRunning;
 
+    platform::registerShippedFaces(folders.shippedFaces());
     platform::applyAppearance(application);
     platform::QtPrompts prompts;
     shell::StartUp start(

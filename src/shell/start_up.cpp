@@ -6,6 +6,7 @@
 #include "platform/settings_keys.h"
 #include "shell/frm_start_splash.h"
 #include "variables/definition_file.h"
+#include "variables/expression/compiler.h"
 
 #include <QApplication>
 #include <QDir>
@@ -34,7 +35,7 @@ bool StartUp::run()
     makeFolders();
     const QString ownIcon = m_state.folders.program + QStringLiteral("User.ico");
     QApplication::setWindowIcon(QIcon(FileExists(ownIcon) ? ownIcon : QStringLiteral(":/icon.png")));
-    if (!loadVariables() || !loadMessages())
+    if (!loadVariables() || !loadMessages() || !checkExpressions())
         return false;
     showWindows();
     chooseFirstLayout();
@@ -90,6 +91,17 @@ bool StartUp::loadMessages()
     });
     m_state.startMessages = m_state.settings.MessageTable;
     return true;
+}
+
+bool StartUp::checkExpressions()
+{
+    constexpr int OldestLayer = 3;
+    if (variables::expression::expressionLayerVersion() >= OldestLayer)
+        return true;
+    m_prompts.message(
+        Icon::Critical, platform::ProductTitle,
+        QStringLiteral("System can't find required maths parser DLL,please uninstall and re-install"));
+    return false;
 }
 
 void StartUp::showWindows()

@@ -33,6 +33,7 @@ private:
     void makeFolders();
     bool loadVariables();
     bool loadMessages();
+    bool checkExpressions();
     void missingFile(const QString &name);
     void showWindows();
     void chooseFirstLayout();

@@ -106,7 +106,8 @@ void Panel::follow(const QPoint &globalPosition)
         if (m_edges & Qt::BottomEdge)
             rect.setBottom(std::max(rect.bottom() + shift.y(), rect.top() + SmallestPanel.height()));
     }
-    setGeometry(pulledIntoView(rect, parentWidget()->size()));
+    const QRect area(QPoint(), parentWidget()->size());
+    setGeometry(m_edges ? rect.intersected(area) : pulledIntoView(rect, area.size()));
     emit arranged();
 }
 

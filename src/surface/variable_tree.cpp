@@ -85,7 +85,8 @@ QSet<QString> expandedKeys(const QTreeWidget &tree)
 } // namespace
 
 VariableTree::VariableTree(const VariableTreeContext &context)
-    : m_context(context), m_search(new QLineEdit), m_tree(new Tree(controls::VariableMime, &draggedVariable))
+    : m_context(context), m_editors(context.catalogue, context.prompts, context.locale),
+      m_search(new QLineEdit), m_tree(new Tree(controls::VariableMime, &draggedVariable))
 {
     m_tree->setObjectName(QStringLiteral("VarTree"));
     m_tree->setAccessibleName(QStringLiteral("Variables"));
@@ -214,6 +215,8 @@ bool VariableTree::editRecord(const QString &role, int index)
         return editName(record, m_context.prompts);
     if (role == QLatin1String("SMOOTHING"))
         return editSmoothing(record, m_context.prompts, mark);
+    if (role == QLatin1String("TRANSFORMTYPE"))
+        return m_editors.editTransformation(index, window());
     return false;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/locale.h"
 #include "platform/prompts.h"
 #include "variables/catalogue.h"
+#include "variables/editors/variable_editors.h"
 
 #include <QLineEdit>
 #include <QSet>
@@ -45,6 +46,7 @@ private:
     void openBranches(const QSet<QString> &keys);
 
     VariableTreeContext m_context;
+    variables::VariableEditors m_editors;
     QLineEdit *m_search;
     QTreeWidget *m_tree;              // VarTree
     QSet<QString> m_openBeforeSearch; // branches to come back to when the search box is empty again

@@ -92,6 +92,13 @@ void SetupVariables(Catalogue &catalogue)
         catalogue.live[LastIndex].Enabled = catalogue.live[LastIndex].Available = false;
 }
 
+QString displayName(const VariableRecord &record, const UnitTable &units)
+{
+    return bracketed(record.BaseName, record.UseCustomTrans
+                                          ? record.CustomUnits
+                                          : units[findUnit(units, record.ApplyTransformation)].Uniit);
+}
+
 int findByName(const VariableTable &table, const QString &name, NameField field)
 {
     const QString wanted = name.section(QLatin1Char('['), 0, 0).trimmed().toUpper();

@@ -86,6 +86,9 @@ bool isPermitted(int index);
 // Normalises `live`: the flags, the never-smoothed variables, the display names, the sentinel.
 void SetupVariables(Catalogue &catalogue);
 
+// BaseName [unit]: the display name of one record.
+QString displayName(const VariableRecord &record, const UnitTable &units);
+
 enum class NameField { BaseName, PhysicalName };
 
 // The slot whose name is `name`, cut at its first "[", without regard to case and blanks at the ends;

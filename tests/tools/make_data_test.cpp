@@ -57,6 +57,8 @@ TEST(CatalogueBuilder, namesTheLineOfEachFaultyUnit)
         {"kn | kn | value$1$0$0 | Three coefficients", "\"$\""},
         {"kn | kn | value$1$0x | Stray letter", "\"0x\""},
         {"kn | kn |  | No conversion", "missing"},
+        {"kn | kn | x/ | Half an equation", "does not compile"},
+        {"kn | kn | value$0$0 | Always 0", "does not compile"},
         {"kn | \xCE\xBA | value$1$0 | Greek label", "code page"},
         {"kn | \xB0 | value$1$0 | Not encoded", "UTF-8"},
     };
@@ -96,6 +98,16 @@ TEST(CatalogueBuilder, namesTheLineOfEachFaultyVariable)
         make_data::buildCatalogue(units, rows, problems);
         expectProblem(problems, "variables.txt:3: ", fault.what);
     }
+}
+
+TEST(CatalogueBuilder, equationsHaveToCompile)
+{
+    Problems problems;
+    const TextTable rows = make_data::parseTable(
+        QStringLiteral("variables.txt"),
+        "[4 User defined variables]\n6001 | SUM | Sum | 0 | 9 | | | Text | 2*var_2 | m\n", problems);
+    make_data::buildCatalogue({}, rows, problems);
+    expectProblem(problems, "variables.txt:2: ", "does not compile");
 }
 
 TEST(MessageBuilder, namesTheLineOfEachFaultyMessage)

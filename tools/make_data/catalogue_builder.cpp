@@ -1,5 +1,8 @@
 #include "make_data/catalogue_builder.h"
 
+#include "variables/expression/compiler.h"
+#include "variables/units.h"
+
 #include <QHash>
 
 namespace make_data {
@@ -40,18 +43,17 @@ QString lookUpKey(const QString &name) { return name.section(QLatin1Char('['), 0
 
 void checkConversion(RowReader &row, const QString &conversion)
 {
+    if (conversion.isEmpty())
+        return row.complain(QStringLiteral("the conversion is missing"));
     const QStringList parts = conversion.split(QLatin1Char('$'));
-    if (parts.size() == 1) {
-        if (conversion.isEmpty())
-            row.complain(QStringLiteral("the conversion is missing"));
-        return;
-    }
-    if (parts.size() != 3 && parts.size() != 5) {
-        row.complain(QStringLiteral("a conversion has two or four \"$\", or none"));
-        return;
-    }
+    if (parts.size() != 1 && parts.size() != 3 && parts.size() != 5)
+        return row.complain(QStringLiteral("a conversion has two or four \"$\", or none"));
     for (qsizetype i = 1; i < parts.size(); ++i)
         row.number(parts[i]);
+    // Whether it compiles does not depend on the variable that shows the unit.
+    const bool needsProgram = !variables::readConversion(conversion).isIdentity;
+    if (needsProgram && variables::conversionProgram(conversion, 1, {}).isEmpty())
+        row.complain(QStringLiteral("the conversion does not compile"));
 }
 
 variables::UnitTable buildUnits(const TextTable &table, Problems &problems)
@@ -126,6 +128,8 @@ private:
         if (inUserGroup()) {
             record.UseCustomTrans = true;
             record.CustomTransformation = row.text(8);
+            if (QByteArray program; !variables::expression::compile(row.text(8), program, index, {}))
+                row.complain(QStringLiteral("the equation does not compile"));
             record.CustomUnits = row.text(9);
         }
         return record;

@@ -1,7 +1,9 @@
 #include "platform/desktop/appearance.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -52,6 +54,13 @@ void applyAppearance(QApplication &application, Theme theme)
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
     application.setFont(QFont(ownFace, 9));
+}
+
+void registerShippedFaces(const QString &folder)
+{
+    const QDir faces(folder);
+    for (const QString &file : faces.entryList({QStringLiteral("*.ttf")}, QDir::Files))
+        QFontDatabase::addApplicationFont(faces.filePath(file));
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
 class QApplication;
+class QString;
 
 namespace platform {
 
@@ -8,5 +9,9 @@ namespace platform {
 // that are not installed.
 enum class Theme { Light, Dark };
 void applyAppearance(QApplication &application, Theme theme = Theme::Light);
+
+// Makes the faces that come with the program known to all windows, installed or not. Faces that are missing
+// in the folder are passed over.
+void registerShippedFaces(const QString &folder);
 
 } // namespace platform

@@ -1,0 +1,95 @@
+#include "bench_support.h"
+
+#include "platform/file_replace.h"
+#include "shell/seed_user_data.h"
+#include "variables/definition_file.h"
+
+#include <QApplication>
+#include <QDir>
+
+#include <algorithm>
+
+namespace bench {
+
+void YesPrompts::message(platform::Icon, const QString &, const QString &text)
+{
+    qFatal("the program says: %s", qPrintable(text));
+}
+
+void choosePlatform()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
+        qputenv("QT_LOGGING_RULES", "default.warning=false");
+}
+
+platform::Folders seededFolders(const QTemporaryDir &root)
+{
+    const auto folder = [&root](const char *name) {
+        QDir(root.path()).mkpath(QLatin1String(name));
+        return root.filePath(QLatin1String(name)) + QLatin1Char('/');
+    };
+    platform::Folders folders;
+    folders.program = QStringLiteral(MORVEL_PROGRAM_DIR "/");
+    folders.applicationData = folder("data");
+    folders.temporary = folder("temporary");
+    folders.cache = folder("cache");
+    shell::seedUserData(folders);
+    return folders;
+}
+
+Program::Program()
+{
+    m_state.folders = seededFolders(m_root);
+    m_state.stamp = platform::systemStamp();
+    variables::loadDefinitions(platform::readFile(m_state.folders.variablesFile()), m_state.catalogue);
+    recorder::readMessageTable(platform::readFile(m_state.folders.MessagesFile()),
+                               m_state.settings.MessageTable);
+    m_state.startMessages = m_state.settings.MessageTable;
+    m_window = std::make_unique<shell::frmMain>(m_state, m_prompts);
+    design().load();
+    m_window->refreshFromState();
+    m_window->resize(1440, 900);
+    m_window->show();
+    m_window->activateWindow();
+    QApplication::processEvents();
+}
+
+void Program::addControls(int count)
+{
+    constexpr int Columns = 20;
+    constexpr QPoint Step(30 * 15, 54 * 15); // twips
+    for (int i = 0; i < count; ++i) {
+        const QPointF place(i % Columns * Step.x(), i / Columns * Step.y());
+        design().addControl(i % 2 == 0 ? controls::ControlType::Gauge : controls::ControlType::BarGraph,
+                            place);
+    }
+    QApplication::processEvents();
+}
+
+double Times::median() const
+{
+    std::vector<double> sorted = m_seconds;
+    const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+    std::nth_element(sorted.begin(), middle, sorted.end());
+    return *middle;
+}
+
+double Times::best() const { return *std::min_element(m_seconds.begin(), m_seconds.end()); }
+
+void stateLimit(benchmark::State &state, const Times &own, double milliseconds)
+{
+    state.counters["best_ms"] = own.best() * 1e3;
+    state.counters["median_ms"] = own.median() * 1e3;
+    state.counters["limit_ms"] = milliseconds;
+    state.SetLabel(own.median() * 1e3 <= milliseconds ? "within the limit" : "OVER THE LIMIT");
+}
+
+void statePeer(benchmark::State &state, const Times &own, const Times &peer)
+{
+    state.counters["peer_ms"] = peer.median() * 1e3;
+    state.counters["ratio"] = own.median() / peer.median();
+}
+
+} // namespace bench

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "shell/frm_main.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <memory>
+#include <vector>
+
+namespace bench {
+
+// Says yes to everything and saves under one path.
+class YesPrompts final : public platform::Prompts
+{
+public:
+    explicit YesPrompts(const QString &savePath) : m_savePath(savePath) {}
+
+    void message(platform::Icon, const QString &, const QString &text) override;
+    bool ask(platform::Icon, const QString &, const QString &) override { return true; }
+    std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return 0; }
+    QString input(const QString &, const QString &, const QString &) override { return {}; }
+    QString openFile(const platform::FileRequest &) override { return {}; }
+    QString saveFile(const platform::FileRequest &) override { return m_savePath; }
+    std::optional<QRgb> colour(QRgb) override { return {}; }
+    std::optional<QFont> font(const QFont &) override { return {}; }
+
+private:
+    QString m_savePath;
+};
+
+// Off-screen unless the environment names another platform, and without what that platform has to remark.
+void choosePlatform();
+
+// Folders in `root` that hold a new user's data, as the launcher leaves it.
+platform::Folders seededFolders(const QTemporaryDir &root);
+
+// The program as it stands after a first start, its window shown.
+class Program
+{
+public:
+    Program();
+
+    surface::frmInterface &design() { return m_window->design(); }
+    shell::FileCommands &files() { return m_window->files(); }
+    // Where its Save command writes.
+    QString savePath() const { return m_root.filePath(QStringLiteral("SAVED.VGL")); }
+
+    // Gauges and bar graphs in turn, all over the canvas.
+    void addControls(int count);
+
+private:
+    QTemporaryDir m_root;
+    YesPrompts m_prompts{savePath()};
+    shell::ProgramState m_state;
+    std::unique_ptr<shell::frmMain> m_window;
+};
+
+// What one task took each time.
+class Times
+{
+public:
+    template <typename Task>
+    double measure(Task task)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        task();
+        m_seconds.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        return m_seconds.back();
+    }
+    // Seconds. The best one is what the task takes when the machine has nothing else to do.
+    double median() const;
+    double best() const;
+
+private:
+    std::vector<double> m_seconds;
+};
+
+// Puts the limit beside the benchmark's time; the label says whether the median keeps it.
+void stateLimit(benchmark::State &state, const Times &own, double milliseconds);
+
+// Puts the peer's median and the ratio to it beside the benchmark's time.
+void statePeer(benchmark::State &state, const Times &own, const Times &peer);
+
+} // namespace bench

@@ -1,0 +1,140 @@
+// One step of a drag with 200 controls on the canvas: a movement of the mouse and the repaint that follows.
+// Limit: 4 ms. The peer drags a bare widget among as many of the same sizes over a picture of the same size.
+
+#include "bench_support.h"
+#include "surface/canvas.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+using bench::Program;
+using bench::Times;
+using controls::ControlType;
+
+constexpr int Controls = 200;
+constexpr double LimitMs = 4;
+constexpr QPoint Grip(30, 12); // within the dragged widget
+
+// A way to and fro over the canvas in steps of 8 and 6 pixels.
+QPoint wayPoint(int step)
+{
+    constexpr int Steps = 70;
+    const int there = step % (2 * Steps);
+    const int at = there < Steps ? there : 2 * Steps - there;
+    return {8 * at, 6 * at};
+}
+
+void sendMouse(QWidget &widget, QEvent::Type type, QPoint canvasPoint)
+{
+    const QPoint global = widget.parentWidget()->mapToGlobal(canvasPoint);
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, widget.mapFromGlobal(global), global, button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void dragTo(QWidget &widget, QPoint place)
+{
+    sendMouse(widget, QEvent::MouseMove, place + Grip);
+    QApplication::processEvents();
+}
+
+class PaintCounter final : public QObject
+{
+public:
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+class BareWidget final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override { m_grip = event->position().toPoint(); }
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        move(mapToParent(event->position().toPoint()) - m_grip);
+    }
+    void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(rect(), Qt::darkBlue); }
+
+private:
+    QPoint m_grip;
+};
+
+class BareCanvas final : public QWidget
+{
+public:
+    // A bare widget for each control of `model`.
+    BareCanvas(const QPixmap &picture, const QList<controls::OverlayControl *> &model) : m_picture(picture)
+    {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setFixedSize(picture.size());
+        for (const QWidget *control : model) {
+            auto *widget = new BareWidget(this);
+            widget->setAttribute(Qt::WA_OpaquePaintEvent);
+            widget->setGeometry(control->geometry());
+        }
+        show();
+        QApplication::processEvents();
+    }
+
+    QWidget &widget(qsizetype index) { return *qobject_cast<QWidget *>(children()[index]); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter(this).drawPixmap(event->rect(), m_picture, event->rect());
+    }
+
+private:
+    QPixmap m_picture;
+};
+
+void dragStep(benchmark::State &state, ControlType family)
+{
+    Program program;
+    program.addControls(Controls);
+    const auto &all = program.design().controls();
+    const auto *canvas = program.design().findChild<surface::Canvas *>();
+    BareCanvas bare(canvas->backdrop(), all);
+    const qsizetype dragged = all[0]->family().type == family ? 0 : 1;
+    QWidget &own = *all[dragged];
+    QWidget &peer = bare.widget(dragged);
+    PaintCounter counter;
+    own.installEventFilter(&counter);
+    for (QWidget *widget : {&own, &peer}) {
+        widget->setFocus();
+        widget->raise();
+        sendMouse(*widget, QEvent::MouseButtonPress, widget->pos() + Grip);
+        dragTo(*widget, widget->pos() + QPoint(20, 20)); // out of the dead zone
+    }
+
+    Times ownTimes;
+    Times peerTimes;
+    int step = 0;
+    counter.paints = 0;
+    for (auto _ : state) {
+        const QPoint place = wayPoint(++step);
+        state.SetIterationTime(ownTimes.measure([&] { dragTo(own, place); }));
+        peerTimes.measure([&] { dragTo(peer, place); });
+    }
+    if (counter.paints < step)
+        state.SkipWithError("steps were not painted");
+    bench::stateLimit(state, ownTimes, LimitMs);
+    bench::statePeer(state, ownTimes, peerTimes);
+}
+
+BENCHMARK_CAPTURE(dragStep, gauge, ControlType::Gauge)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(dragStep, barGraph, ControlType::BarGraph)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,56 @@
+#include "graphics/dialogs/font_preview.h"
+
+#include "graphics/font_name.h"
+#include "graphics/modDrawFont.h"
+
+#include <QFontDatabase>
+
+#include <algorithm>
+
+namespace graphics {
+
+namespace {
+
+constexpr int Margin = 8;
+constexpr int LineGap = 4;
+constexpr quint32 White = 0x00FFFFFF;
+
+const QStringList SampleLines = {
+    QStringLiteral("AaBbCc 0123456789"), QStringLiteral("Speed 123.4 km/h (01:02.3)"),
+    QStringLiteral("\u00c4\u00d6\u00dc \u00e9\u00e8\u00ea \u00e7\u00e5\u00e6 ?!%#@&")};
+
+} // namespace
+
+QImage fontPreview(const TextFont &font)
+{
+    int width = 0;
+    for (const QString &line : SampleLines)
+        width = std::max(width, font.penBehind(line));
+    const int step = font.lineHeight() + LineGap;
+    const int height = step * static_cast<int>(SampleLines.size()) - LineGap;
+    QImage picture(width + 2 * Margin, height + 2 * Margin, QImage::Format_RGB32);
+    picture.fill(PreviewGround);
+    TextLook look;
+    look.position = {Margin, Margin};
+    look.colour = White;
+    for (const QString &line : SampleLines) {
+        drawText(font, line, look, picture);
+        look.position.ry() += step;
+    }
+    return picture;
+}
+
+QStringList offeredFaces()
+{
+    QStringList faces = {DefaultFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")};
+    for (const QString &face : QFontDatabase::families()) {
+        if (QFontDatabase::isSmoothlyScalable(face) && !QFontDatabase::isPrivateFamily(face))
+            faces.append(face);
+    }
+    faces.removeDuplicates();
+    std::sort(faces.begin(), faces.end(),
+              [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+    return faces;
+}
+
+} // namespace graphics

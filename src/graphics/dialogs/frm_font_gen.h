@@ -1,0 +1,52 @@
+#pragma once
+
+#include "graphics/font_store.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace graphics {
+
+// The window that makes font files: face, size and style, how the result looks, and how far the work is. It
+// can also be the progress display of a font that somebody else makes.
+class frmFontGen final : public QDialog, public platform::Progress
+{
+    Q_OBJECT
+
+public:
+    frmFontGen(FontStore &fonts, platform::Prompts &prompts, QWidget *parent);
+
+    FontRequest request() const;
+    void setRequest(const FontRequest &request);
+
+    void begin(const QString &status) override;
+    void setValue(int percent) override;
+    void end() override {}
+
+private:
+    QWidget *buildChoice();
+    QWidget *buildPreview();
+    QWidget *buildButtons();
+    QCheckBox *addStyle(QLayout &row, const char *name, const QString &caption);
+    void generate();
+    void refreshPreview();
+    void showPreview(const QImage &picture, const QString &textInstead);
+
+    FontStore &m_fonts;
+    platform::Prompts &m_prompts;
+    QComboBox *m_face;
+    QComboBox *m_size;
+    QCheckBox *m_bold = nullptr;
+    QCheckBox *m_italic = nullptr;
+    QCheckBox *m_strikethrough = nullptr;
+    QCheckBox *m_underline = nullptr;
+    QLabel *m_preview;
+    QLabel *m_status;
+    QProgressBar *m_bar;
+};
+
+} // namespace graphics

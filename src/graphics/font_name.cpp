@@ -1,0 +1,94 @@
+#include "graphics/font_name.h"
+
+#include "platform/folders.h"
+
+#include <algorithm>
+
+namespace graphics {
+
+namespace {
+
+const QString Suffix = QStringLiteral(".qlg");
+const QString StyleLetters = QStringLiteral("BISU");
+constexpr int LargestSize = 32767; // what a property for points holds
+
+QString safeFace(const QString &face)
+{
+    return platform::nameWithin({}, face).isEmpty() ? DefaultFace : face;
+}
+
+QString styleText(const FontStyle &style)
+{
+    const bool set[] = {style.bold, style.italic, style.strikethrough, style.underline};
+    QString text;
+    for (qsizetype i = 0; i < StyleLetters.size(); ++i) {
+        if (set[i])
+            text += StyleLetters[i];
+    }
+    return text;
+}
+
+bool isStyleText(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return StyleLetters.contains(c); });
+}
+
+FontStyle styleOf(const QString &text)
+{
+    return {text.contains(QLatin1Char('B')), text.contains(QLatin1Char('I')), text.contains(QLatin1Char('S')),
+            text.contains(QLatin1Char('U'))};
+}
+
+// Takes the suffix off, or what the field's end has left of it.
+QString withoutSuffix(const QString &name)
+{
+    for (qsizetype length = Suffix.size(); length > 0; --length) {
+        if (name.endsWith(QStringView(Suffix).first(length), Qt::CaseInsensitive))
+            return name.chopped(length);
+    }
+    return name;
+}
+
+// Takes the part behind the last blank off `text`, if there is a blank.
+QString takeLastPart(QString &text)
+{
+    const qsizetype blank = text.lastIndexOf(QLatin1Char(' '));
+    const QString part = text.mid(blank + 1);
+    text.truncate(qMax<qsizetype>(blank, 0));
+    return part;
+}
+
+} // namespace
+
+QString fontFileName(const FontRequest &request)
+{
+    return QStringLiteral("%1 %2 %3%4")
+        .arg(safeFace(request.face), styleText(request.style), QString::number(request.size), Suffix);
+}
+
+QString extendedFontFileName(const FontRequest &request)
+{
+    return QStringLiteral("Ext_") + fontFileName(request);
+}
+
+FontRequest splitFontFileName(const QString &name)
+{
+    FontRequest request;
+    const QString whole = withoutSuffix(name.section(QChar(0), 0, 0));
+    request.face = whole;
+    const int size = takeLastPart(request.face).toInt();
+    if (size < 1 || size > LargestSize) {
+        request.face = safeFace(whole.trimmed());
+        return request;
+    }
+    request.size = size;
+    QString face = request.face;
+    if (const QString style = takeLastPart(face); isStyleText(style)) {
+        request.style = styleOf(style);
+        request.face = face;
+    }
+    request.face = safeFace(request.face.trimmed());
+    return request;
+}
+
+} // namespace graphics

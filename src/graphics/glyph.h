@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <vector>
+
+namespace graphics {
+
+// The raster of one character, in pixels of the picture.
+struct Glyph
+{
+    int width = 0;
+    int height = 0;
+    int top = 0;                  // rows between the top of the line and the first row of the glyph
+    std::vector<quint8> coverage; // width x height, top row first: 0 nothing, 255 full ink
+
+    bool hasInk() const { return width > 0 && height > 0; }
+    bool operator==(const Glyph &) const = default;
+};
+
+// What one font file holds.
+struct RasterFont
+{
+    int lineHeight = 0;
+    std::vector<Glyph> glyphs; // in the order of the file's list
+
+    bool operator==(const RasterFont &) const = default;
+};
+
+} // namespace graphics

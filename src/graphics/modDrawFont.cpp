@@ -1,0 +1,109 @@
+#include "graphics/modDrawFont.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace graphics {
+
+namespace {
+
+constexpr int RightEdge = 720; // of the picture, to where a line is filled
+constexpr quint32 Full = 255;
+
+// The colour in the order of the surface's pixels, and its strength.
+struct Ink
+{
+    quint32 red, green, blue, opacity;
+
+    Ink(quint32 packed, quint8 strength)
+        : red(packed & 0xFF), green((packed >> 8) & 0xFF), blue((packed >> 16) & 0xFF), opacity(strength)
+    {
+    }
+};
+
+// (1 - a) * below + a * ink for a = share / (255 * 255). The divisor is odd, so there are no exact halves.
+inline quint32 mixed(quint32 below, quint32 ink, quint32 share)
+{
+    constexpr quint32 Divisor = Full * Full;
+    return (below * (Divisor - share) + ink * share + Divisor / 2) / Divisor;
+}
+
+inline quint32 mixedPixel(quint32 below, const Ink &ink, quint32 share)
+{
+    return (below & 0xFF000000) | mixed((below >> 16) & 0xFF, ink.red, share) << 16 |
+           mixed((below >> 8) & 0xFF, ink.green, share) << 8 | mixed(below & 0xFF, ink.blue, share);
+}
+
+void mixRow(const quint8 *coverage, quint32 *pixels, int length, const Ink &ink)
+{
+    const quint32 solid = ink.red << 16 | ink.green << 8 | ink.blue;
+    for (int x = 0; x < length; ++x) {
+        const quint32 share = coverage[x] * ink.opacity;
+        if (share == Full * Full)
+            pixels[x] = (pixels[x] & 0xFF000000) | solid;
+        else if (share != 0)
+            pixels[x] = mixedPixel(pixels[x], ink, share);
+    }
+}
+
+// The pixels of a surface; detached once, not for every row.
+struct Pixels
+{
+    explicit Pixels(QImage &image)
+        : bits(image.bits()), stride(image.bytesPerLine()), width(image.width()), height(image.height())
+    {
+    }
+    quint32 *row(int y) const { return reinterpret_cast<quint32 *>(bits + y * stride); }
+
+    uchar *bits;
+    qsizetype stride;
+    int width;
+    int height;
+};
+
+void drawGlyph(const Glyph &glyph, int left, int top, const Ink &ink, const Pixels &surface)
+{
+    const int firstColumn = std::max(0, -left);
+    const int length = std::min(glyph.width, surface.width - left) - firstColumn;
+    const int lastRow = std::min(glyph.height, surface.height - top);
+    if (length <= 0)
+        return;
+    for (int row = std::max(0, -top); row < lastRow; ++row) {
+        const quint8 *coverage = glyph.coverage.data() + row * glyph.width + firstColumn;
+        mixRow(coverage, surface.row(top + row) + left + firstColumn, length, ink);
+    }
+}
+
+void fillLine(const QImage &background, const QRect &line, QImage &surface)
+{
+    const QRect area = line & surface.rect() & background.rect();
+    if (area.isEmpty())
+        return;
+    const QImage source = background.convertToFormat(surface.format());
+    const auto bytes = static_cast<std::size_t>(area.width()) * sizeof(quint32);
+    const qsizetype start = area.left() * static_cast<qsizetype>(sizeof(quint32));
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        std::memcpy(surface.scanLine(y) + start, source.constScanLine(y) + start, bytes);
+}
+
+} // namespace
+
+TextExtent drawText(const TextFont &font, const QString &text, const TextLook &look, QImage &surface)
+{
+    if (surface.depth() != 32)
+        surface.convertTo(QImage::Format_RGB32);
+    const int top = look.position.y();
+    int pen = look.position.x();
+    if (look.background)
+        fillLine(*look.background, QRect(pen, top, std::max(RightEdge - pen, 0), font.lineHeight()), surface);
+    const Ink ink(look.colour, look.opacity);
+    const Pixels pixels(surface);
+    for (const QChar character : text) {
+        if (const Glyph *glyph = font.glyph(character.unicode()))
+            drawGlyph(*glyph, pen, top + glyph->top, ink, pixels);
+        pen += font.advance(character.unicode());
+    }
+    return {pen, font.lineHeight()};
+}
+
+} // namespace graphics

@@ -1,0 +1,104 @@
+#include "graphics/picture_loader.h"
+
+#include "graphics/bmp_check.h"
+#include "graphics/scan_lines.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <vector>
+
+namespace graphics {
+
+namespace {
+
+constexpr char PngSignature[] = "\x89PNG\r\n\x1A\n";
+constexpr char JpegSignature[] = "\xFF\xD8\xFF";
+constexpr char JpegEnd[] = "\xFF\xD9";
+
+// Uncompressed pixels of the largest picture, and room for headers.
+constexpr qint64 MaxFileSize = qint64{MaxPictureSide} * MaxPictureSide * 4 + 0x10000;
+
+// The name of the decoder; empty for what is not taken.
+QByteArray formatOf(QByteArrayView bytes)
+{
+    if (looksLikeBmp(bytes))
+        return "bmp";
+    if (bytes.startsWith(PngSignature))
+        return "png";
+    return bytes.startsWith(JpegSignature) ? "jpeg" : "";
+}
+
+bool hasEnd(const QByteArray &format, QByteArrayView bytes)
+{
+    // A .png without an end is refused by its decoder, a .jpg would be filled with grey.
+    return format != "jpeg" || bytes.lastIndexOf(QByteArrayView(JpegEnd)) >= 0;
+}
+
+PictureFault checkBeforeDecoding(const QImageReader &reader, QByteArrayView bytes, int maxSide)
+{
+    if (reader.format() == "bmp")
+        return checkBmp(bytes, maxSide);
+    const QSize size = reader.size();
+    if (size.isEmpty())
+        return PictureFault::NotAPicture;
+    if (size.width() > maxSide || size.height() > maxSide)
+        return PictureFault::TooLarge;
+    return hasEnd(reader.format(), bytes) ? PictureFault::None : PictureFault::Cut;
+}
+
+LoadedPicture refused(PictureFault fault) { return {{}, fault}; }
+
+} // namespace
+
+LoadedPicture readPicture(QByteArrayView bytes, int maxSide)
+{
+    if (bytes.isEmpty())
+        return refused(PictureFault::Empty);
+    const QByteArray format = formatOf(bytes);
+    if (format.isEmpty())
+        return refused(PictureFault::NotAPicture);
+    QByteArray content = QByteArray::fromRawData(bytes.data(), bytes.size());
+    QBuffer buffer(&content);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
+    if (const auto fault = checkBeforeDecoding(reader, bytes, maxSide); fault != PictureFault::None)
+        return refused(fault);
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        return refused(PictureFault::Cut);
+    return {picture.convertToFormat(QImage::Format_RGB32), PictureFault::None};
+}
+
+LoadedPicture loadPicture(const QString &path)
+{
+    QFile file(path);
+    // Pipes and devices would wait, or never end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return refused(PictureFault::Unreadable);
+    if (file.size() > MaxFileSize)
+        return refused(PictureFault::TooLarge);
+    return readPicture(file.readAll());
+}
+
+QImage sampled(const QImage &picture, QSize size)
+{
+    if (picture.isNull() || size.isEmpty())
+        return {};
+    const QImage source = withPixels(picture);
+    QImage result(size, source.format());
+    std::vector<int> columns(static_cast<std::size_t>(size.width()));
+    for (int x = 0; x < size.width(); ++x)
+        columns[static_cast<std::size_t>(x)] = static_cast<int>(qint64{x} * source.width() / size.width());
+    for (int y = 0; y < result.height(); ++y) {
+        const QRgb *from = pixelsOf(source, static_cast<int>(qint64{y} * source.height() / size.height()));
+        std::transform(columns.begin(), columns.end(), pixelsOf(result, y),
+                       [from](int column) { return from[column]; });
+    }
+    return result;
+}
+
+} // namespace graphics

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "layoutfile/record_codec.h"
+#include "platform/locale.h"
+#include "variables/catalogue.h"
+
+namespace layoutfile {
+
+// Brings the catalogue in line with a layout: smoothing and limits of every stored variable; where one has a
+// program, the allowed unit whose conversion makes the same bytes, else the program as an equation. A program
+// that lies outside the stored bytes or cannot be turned into text leaves the variable's definition as it is.
+// Both tables are normalised and the same afterwards.
+void foldVariables(const std::vector<LayoutRecord> &records, variables::Catalogue &catalogue,
+                   const platform::NumberLocale &locale);
+
+} // namespace layoutfile

@@ -1,0 +1,109 @@
+#include "variables/editors/frm_curve_fit.h"
+
+#include "platform/guards.h"
+#include "variables/editors/dialog_parts.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace variables {
+
+namespace {
+
+constexpr int GridRows = 30;
+constexpr int CurveSteps = 201;
+constexpr int GridWidth = 260; // pixels
+
+QRectF rangeOf(const QList<QPointF> &points)
+{
+    if (points.isEmpty())
+        return {0, 0, 1, 1};
+    const auto [left, right] = std::minmax_element(
+        points.begin(), points.end(), [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); });
+    const auto [bottom, top] = std::minmax_element(
+        points.begin(), points.end(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
+    return {left->x(), bottom->y(), right->x() - left->x(), top->y() - bottom->y()};
+}
+
+} // namespace
+
+frmCurveFit::frmCurveFit(const platform::NumberLocale &locale, QWidget *parent)
+    : QDialog(parent),
+      m_grid(new PointGrid(GridRows, {QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y")},
+                           locale.decimalSeparator)),
+      m_chart(new Chart(QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y"))),
+      m_equation(new QLabel)
+{
+    setWindowTitle(QStringLiteral("Generate an equation from a table"));
+    m_grid->setObjectName(QStringLiteral("grdInput"));
+    m_grid->setAccessibleName(QStringLiteral("Table of inputs and outputs"));
+    m_grid->setFixedWidth(GridWidth);
+    m_chart->setObjectName(QStringLiteral("chtPolyFit"));
+    m_chart->setAccessibleName(QStringLiteral("Chart of table and curve"));
+    m_chart->setMinimumSize(480, 360);
+    m_equation->setObjectName(QStringLiteral("lblEquationLabel"));
+    m_equation->setTextFormat(Qt::PlainText);
+    m_equation->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto *tableCaption = new QLabel(QStringLiteral("&Table"));
+    tableCaption->setBuddy(m_grid);
+    auto *left = new QVBoxLayout;
+    left->addWidget(tableCaption);
+    left->addWidget(m_grid);
+    auto *top = new QHBoxLayout;
+    top->addLayout(left);
+    top->addWidget(m_chart, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(top, 1);
+    layout->addWidget(m_equation);
+    const DialogButtons buttons = addButtons(*this, "cmdOk", "cmdCancel");
+    m_accept = buttons.accept;
+    connect(m_accept, &QPushButton::clicked, this, [this] {
+        m_grid->commit();
+        if (m_fit)
+            accept();
+    });
+    connect(m_grid, &PointGrid::changed, this, &frmCurveFit::Recalculate);
+    Recalculate();
+    m_grid->setFocus();
+}
+
+std::optional<Coefficients> frmCurveFit::run()
+{
+    if (exec() != Accepted)
+        return std::nullopt;
+    return m_fit->coefficients;
+}
+
+void frmCurveFit::Recalculate()
+{
+    QList<QPointF> points;
+    QString text;
+    m_fit.reset();
+    platform::skipFailures([&] {
+        points = fitPoints(m_grid->cells());
+        const int degree = fitDegree(points.size());
+        if (const auto complaint = fitComplaint(points.size(), degree)) {
+            text = *complaint;
+            return;
+        }
+        m_fit = fitCurve(points);
+        text = fitText(*m_fit);
+    });
+    m_equation->setText(text);
+    m_accept->setEnabled(m_fit.has_value());
+    DrawGraph(points, m_fit);
+}
+
+void frmCurveFit::DrawGraph(const QList<QPointF> &points, const std::optional<CurveFit> &fit)
+{
+    const QRectF range = rangeOf(points);
+    QList<QPointF> curve;
+    if (fit)
+        curve = curveSamples(fit->coefficients, range.left(), range.right(), CurveSteps);
+    m_chart->draw(points, curve, range);
+}
+
+} // namespace variables

@@ -1,0 +1,47 @@
+#include "variables/editors/variable_editors.h"
+
+#include "variables/editors/frm_calculus_setup.h"
+#include "variables/editors/frm_filter_design.h"
+#include "variables/editors/frm_variable_transformation.h"
+
+namespace variables {
+
+VariableRecord *VariableEditors::recordAt(int index)
+{
+    const auto slot = static_cast<std::size_t>(index);
+    return index > 0 && slot < m_catalogue.staging.size() ? &m_catalogue.staging[slot] : nullptr;
+}
+
+bool VariableEditors::editTransformation(int index, QWidget *parent)
+{
+    if (!recordAt(index))
+        return false;
+    return frmVariableTransformation(index, m_catalogue, m_generated, m_prompts, m_locale, parent).run();
+}
+
+bool VariableEditors::editFilter(int index, QWidget *parent)
+{
+    VariableRecord *record = recordAt(index);
+    if (!record)
+        return false;
+    const auto filter = frmFilterDesign(record->BaseName, filterOf(*record), m_locale, parent).run();
+    if (!filter)
+        return false;
+    const VariableRecord before = *record;
+    storeFilter(*filter, *record);
+    return *record != before;
+}
+
+bool VariableEditors::editCalculus(int index, QWidget *parent)
+{
+    VariableRecord *record = recordAt(index);
+    if (!record)
+        return false;
+    const auto mode = FrmCalculusSetup(record->calculus, parent).run();
+    if (!mode || *mode == record->calculus)
+        return false;
+    record->calculus = *mode;
+    return true;
+}
+
+} // namespace variables

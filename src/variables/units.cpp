@@ -1,0 +1,123 @@
+#include "variables/units.h"
+
+#include "common/rounding.h"
+#include "variables/expression/compiler.h"
+#include "variables/expression/string_building.h"
+#include "variables/number_parser.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace variables {
+
+namespace {
+
+constexpr int EquationDigits = 3;
+constexpr double Negligible = 1e-30;
+constexpr qsizetype LineParts = 3;
+constexpr qsizetype CubicParts = 5;
+
+QString plainText(double value) { return QString::number(value, 'f', QLocale::FloatingPointShortest); }
+
+QString shortened(double magnitude, int digits)
+{
+    const int exponent = static_cast<int>(std::floor(std::log10(magnitude)));
+    const double scale = std::pow(10.0, digits - 1);
+    if (exponent == -1)
+        return plainText(common::roundHalfEven(magnitude * scale * 10) / (scale * 10));
+    if (exponent >= 0 && exponent <= digits)
+        return plainText(common::roundHalfEven(magnitude * scale) / scale);
+    const double mantissa = common::roundHalfEven(magnitude * std::pow(10.0, digits - 1 - exponent)) / scale;
+    return plainText(mantissa) + QLatin1Char('e') + QString::number(exponent);
+}
+
+// The sign between two terms; a positive first term has none.
+QString joint(const QString &before, double coefficient)
+{
+    if (coefficient < 0)
+        return QStringLiteral(" - ");
+    return before.isEmpty() ? QString() : QStringLiteral(" + ");
+}
+
+// A term of a lower power: `power` alone where the coefficient is 1, else number and `factor`.
+void appendTerm(QString &text, double coefficient, const QString &power, const QString &factor)
+{
+    if (coefficient == 0)
+        return;
+    if (coefficient == 1)
+        text += (text.isEmpty() ? QStringLiteral(" ") : QStringLiteral(" + ")) + power;
+    else
+        text += joint(text, coefficient) + numberText(std::fabs(coefficient), EquationDigits) + factor;
+}
+
+} // namespace
+
+QString numberText(double value, int digits)
+{
+    if (std::fabs(value) <= Negligible)
+        return QStringLiteral("0");
+    const QString plain = plainText(value);
+    if (plain.size() <= digits || !std::isfinite(value))
+        return plain;
+    const QString text = shortened(std::fabs(value), digits);
+    return value < 0 ? QLatin1Char('-') + text : text;
+}
+
+QString polynomialText(const Coefficients &coefficients)
+{
+    const auto &[c3, c2, c1, c0] = coefficients;
+    QString text;
+    if (c3 == 1)
+        text = QStringLiteral("x^3");
+    else if (c3 != 0)
+        text = numberText(c3, EquationDigits) + QStringLiteral("*x^3");
+    appendTerm(text, c2, QStringLiteral("x^2"), QStringLiteral("x^2")); // without "*": deliberate
+    appendTerm(text, c1, QStringLiteral("x"), QStringLiteral("*x"));
+    if (c0 != 0)
+        text += joint(text, c0) + numberText(std::fabs(c0), EquationDigits);
+    return text;
+}
+
+QString polynomialText(const Coefficients &coefficients, int variable)
+{
+    const QString name = QStringLiteral("var_") + QString::fromStdString(expression::indexText(variable));
+    return polynomialText(coefficients).replace(QLatin1Char('x'), name);
+}
+
+Conversion readConversion(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char('$'));
+    Conversion conversion;
+    if (parts.size() == 1) {
+        conversion.isEquation = true;
+        conversion.equation = text;
+    } else if (parts.size() == LineParts) {
+        conversion.coefficients = {0, 0, parseNumber(parts[1]), parseNumber(parts[2])};
+        conversion.isIdentity = conversion.coefficients == Coefficients{0, 0, 1, 0};
+    } else if (parts.size() == CubicParts) {
+        conversion.coefficients = {parseNumber(parts[1]), parseNumber(parts[2]), parseNumber(parts[3]),
+                                   parseNumber(parts[4])};
+    }
+    return conversion;
+}
+
+QString conversionInForce(const VariableRecord &variable, const UnitTable &units)
+{
+    if (!variable.AllowTransformations.contains(variable.ApplyTransformation))
+        return {};
+    const std::size_t row = findUnit(units, variable.ApplyTransformation);
+    return row < units.size() ? units[row].Conversion : QString();
+}
+
+QByteArray conversionProgram(const QString &conversion, int variable, const platform::NumberLocale &locale)
+{
+    const Conversion read = readConversion(conversion);
+    QByteArray program;
+    if (!read.isIdentity)
+        expression::compile(read.isEquation ? read.equation : polynomialText(read.coefficients, variable),
+                            program, variable, locale);
+    return program;
+}
+
+} // namespace variables

@@ -1,0 +1,54 @@
+#include "common/number_text.h"
+#include "common/rounding.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace common;
+
+constexpr double Infinite = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+TEST(LeadingNumber, takesTheLongestPrefixAndIgnoresTheRest)
+{
+    for (const char *text : {"", "abc", "-", "+", "0x10", "infinite", "-nan", "1e-400", ", 5"})
+        EXPECT_EQ(leadingNumber(text), 0) << text;
+    for (const char *text : {"12.5", "  12.5px", "+12.5", "12.5.3", "12.5,3", "125e-1", "12.5e"})
+        EXPECT_EQ(leadingNumber(text), 12.5) << text;
+    EXPECT_EQ(leadingNumber("-.5"), -0.5);
+    EXPECT_EQ(leadingNumber("-5."), -5);
+    EXPECT_EQ(leadingNumber("1e400"), Infinite); // to be refused or clamped, never 0
+}
+
+TEST(ShortestText, switchesToExponentsAndUsesTheDecimalMark)
+{
+    const std::pair<float, const char *> cases[] = {
+        {0.5F, "0,5"},   {-0.0F, "0"},        {1.0F / 3, "0,33333334"}, {9999999.0F, "9999999"},
+        {1e7F, "1E+07"}, {0.0001F, "0,0001"}, {-2.5e-5F, "-2,5E-05"},   {16777216.0F, "1,6777216E+07"}};
+    for (const auto &[value, expected] : cases)
+        EXPECT_EQ(shortestText(value, ",").toStdString(), expected);
+}
+
+TEST(Rounding, halvesGoToTheEvenNeighbourAndOverflowThrowsOrIsClamped)
+{
+    EXPECT_EQ(toInteger<int>(10.5), 10);
+    EXPECT_EQ(toInteger<int>(11.5), 12);
+    EXPECT_EQ(toInteger<quint8>(255.49), 255);
+    EXPECT_EQ(toInteger<quint8>(-0.5), 0);
+    EXPECT_EQ(toInteger<qint16>(-32768.5), -32768);
+    for (const double tooFar : {255.5, -0.51, Infinite, -Infinite, NotANumber})
+        EXPECT_THROW(toInteger<quint8>(tooFar), RunTimeError) << tooFar;
+    EXPECT_THROW(toInteger<qint32>(2147483647.5), RunTimeError);
+    for (const double tooFar : {32767.5, Infinite})
+        EXPECT_EQ(toIntegerClamped<qint16>(tooFar), 32767);
+    EXPECT_EQ(toIntegerClamped<qint16>(-Infinite), -32768);
+    EXPECT_EQ(toIntegerClamped<qint16>(NotANumber), 0);
+    EXPECT_EQ(toIntegerClamped<qint16>(2.5), 2);
+    EXPECT_EQ(wholeDivide(7.6, 2), 4); // the operands are rounded, the quotient is cut
+    EXPECT_EQ(wholeDivide(6.5, 2), 3);
+    EXPECT_EQ(wholeDivide(-7, 2), -3);
+    EXPECT_THROW(wholeDivide(10, 0.5), RunTimeError);
+}
+
+} // namespace

@@ -1,0 +1,269 @@
+#include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/gauge/gauge_dialog.h"
+#include "support/design_window.h"
+
+namespace {
+
+using controls::BarGraph;
+using controls::BarGraphDialog;
+using controls::Box;
+using controls::ColourSwatch;
+using controls::Gauge;
+using controls::GaugeDialog;
+using test::DesignWindow;
+
+QLineEdit &box(QDialog &dialog, const QString &name) { return *dialog.findChild<QLineEdit *>("txt" + name); }
+QComboBox &list(QDialog &dialog, const char *name) { return *dialog.findChild<QComboBox *>(name); }
+
+// What the text boxes show, by name: "Max=160 Min=0".
+QString shown(QDialog &dialog)
+{
+    QStringList texts;
+    for (const QLineEdit *field : dialog.findChildren<QLineEdit *>())
+        texts.append(field->objectName().mid(3) + '=' + field->text());
+    texts.sort();
+    return texts.join(' ');
+}
+
+// Types texts that are written in the same way.
+void type(QDialog &dialog, const QString &texts)
+{
+    for (const QString &text : texts.split(' ', Qt::SkipEmptyParts)) {
+        QLineEdit &field = box(dialog, text.section('=', 0, 0));
+        field.selectAll();
+        QTest::keyClicks(&field, text.section('=', 1));
+    }
+}
+
+void press(QDialog &dialog, const char *button)
+{
+    QTest::mouseClick(dialog.findChild<QAbstractButton *>(button), Qt::LeftButton);
+}
+
+template <typename Dialog, typename Control>
+struct Properties : testing::Test
+{
+    // A dialog in which these texts were typed and the button was pressed.
+    std::unique_ptr<Dialog> pressed(const char *button, const QString &texts, int barType = 0)
+    {
+        auto dialog = std::make_unique<Dialog>(control);
+        dialog->show();
+        if (barType == 1)
+            list(*dialog, "cmbBarType").setCurrentIndex(1);
+        type(*dialog, texts);
+        press(*dialog, button);
+        return dialog;
+    }
+
+    // An empty message is the general one. Nothing may be written.
+    void expectRefusals(const char *button, std::initializer_list<std::pair<const char *, QString>> refusals)
+    {
+        const QStringList before = control.Serialise();
+        const Box place = control.box();
+        for (const auto &[texts, message] : refusals) {
+            SCOPED_TRACE(texts);
+            w.world.prompts.expectMessage(message);
+            EXPECT_TRUE(pressed(button, texts)->isVisible());
+            EXPECT_EQ(w.world.prompts.shown().back().icon,
+                      message.isNull() ? platform::Icon::Critical : platform::Icon::Information);
+            EXPECT_EQ(control.Serialise(), before);
+            EXPECT_EQ(control.box(), place);
+        }
+    }
+
+    DesignWindow w;
+    Control &control;
+
+protected:
+    explicit Properties(Control &(DesignWindow::*add)(int, int)) : control((w.*add)(100, 200)) {}
+};
+
+struct GaugeProperties : Properties<GaugeDialog, Gauge>
+{
+    GaugeProperties() : Properties(&DesignWindow::addGauge) { w.world.state.locale.decimalSeparator = ","; }
+};
+
+struct BarProperties : Properties<BarGraphDialog, BarGraph>
+{
+    BarProperties() : Properties(&DesignWindow::addBar) {}
+};
+
+TEST_F(GaugeProperties, AreShownAndAllWrittenByApply)
+{
+    control.write("newVarID", 3);
+    control.write("newMin", 0.5F);
+    GaugeDialog dialog(control);
+    dialog.show();
+    EXPECT_EQ(list(dialog, "cmbVariable").currentText(), "Engine speed []");
+    EXPECT_EQ(shown(dialog), "CenterX=170 CenterY=270 ColourVarMax=0 ColourVarMin=0 DefaultVal=0 Max=160 "
+                             "MaxAngle=120 Min=0,5 MinAngle=-120 PointerLen=65 PointerWidth=4");
+    list(dialog, "cmbVariable").setCurrentText("Speed []");
+    list(dialog, "cmbColourVariable").setCurrentText("Time stamp []");
+    type(dialog, "CenterX=300 CenterY=210 PointerLen=80 PointerWidth=7 MinAngle=-90 MaxAngle=95 Min=-2,5 "
+                 "Max=12.25 DefaultVal=3 ColourVarMin=10 ColourVarMax=2x0a");
+    press(dialog, "cmdAdd");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(control.Serialise().join(' '), "2550 2550 2 300 210 80 7 0 -90 95 -2,5 12,25 3 10 10 20");
+    EXPECT_EQ(control.box(), (Box{3225, 1875, 2550, 2550}));
+}
+
+TEST_F(GaugeProperties, ARefusedApplyWritesNothing)
+{
+    expectRefusals("cmdAdd", {{"CenterX=1 Min=7 Max=7", "Can't use same value for minimum and maximum "},
+                              {"CenterX=1 Min=8 Max=7", "Invalid Min and Max value "},
+                              {"CenterX=1 PointerLen=300 ColourVarMax=1", {}},
+                              {"CenterX=1 PointerWidth=-1", {}},
+                              {"CenterX=1 MaxAngle=32768", {}},
+                              {"CenterX=40000 Min=3", {}}});
+}
+
+TEST_F(GaugeProperties, CancelAndAnUntouchedApplyLeaveThemAsTheyAre)
+{
+    control.write("newVarID", 10);
+    control.write("newColourVariable", 2);
+    const QStringList before = control.Serialise();
+    EXPECT_FALSE(pressed("cmdExit", "CenterX=5 PointerLen=9")->isVisible());
+    EXPECT_EQ(control.Serialise(), before);
+    pressed("cmdAdd", {});
+    EXPECT_EQ(control.Serialise(), before);
+    EXPECT_EQ(control.pos(), QPoint(100, 200));
+}
+
+TEST_F(GaugeProperties, ANumberWithAnExponentCanBeEditedKeyByKey)
+{
+    control.write("newMax", 1e8F);
+    GaugeDialog dialog(control);
+    dialog.show();
+    EXPECT_EQ(box(dialog, "Max").text(), "1E+08");
+    QTest::keyClick(&box(dialog, "Max"), Qt::Key_Backspace);
+    QTest::keyClicks(&box(dialog, "Max"), "x7");
+    EXPECT_EQ(box(dialog, "Max").text(), "1E+07");
+}
+
+TEST_F(GaugeProperties, AColourVariableTakesThePlaceOfTheColour)
+{
+    GaugeDialog dialog(control);
+    dialog.show();
+    auto &swatch = *dialog.findChild<ColourSwatch *>("picForeColour");
+    const auto expectFixedColour = [&](bool fixed) {
+        const auto widget = [&](const char *name) { return dialog.findChild<QWidget *>(name); };
+        EXPECT_EQ(swatch.isEnabled() && widget("cmdResetForeColour")->isEnabled(), fixed);
+        EXPECT_EQ(widget("lblColour")->isVisible(), fixed);
+        EXPECT_NE(widget("lblColourMin")->isVisible() && widget("lblColourMax")->isVisible(), fixed);
+        EXPECT_NE(box(dialog, "ColourVarMin").isEnabled() && box(dialog, "ColourVarMax").isEnabled(), fixed);
+    };
+    expectFixedColour(true);
+    for (const auto &answer : {std::optional<QRgb>(qRgb(0x11, 0x22, 0x33)), std::optional<QRgb>()}) {
+        w.world.prompts.expectColour(answer);
+        press(dialog, "picForeColour");
+        EXPECT_EQ(swatch.colour(), 0x332211u);
+    }
+    EXPECT_EQ(swatch.grab().toImage().pixelColor(20, 12), QColor(0x11, 0x22, 0x33));
+    press(dialog, "cmdResetForeColour");
+    EXPECT_EQ(swatch.colour(), 255u);
+    QTest::keyClick(&list(dialog, "cmbColourVariable"), Qt::Key_Down);
+    expectFixedColour(false);
+    EXPECT_EQ(swatch.colour(), 0u);
+    QTest::keyClick(&list(dialog, "cmbColourVariable"), Qt::Key_Up);
+    expectFixedColour(true);
+    press(dialog, "cmdAdd");
+    EXPECT_EQ(control.get().curColourVariable, 0);
+}
+
+TEST_F(BarProperties, AreShownForTheChosenTypeAndAllWrittenByApply)
+{
+    control.write("newAlfa", 153);
+    BarGraphDialog dialog(control);
+    dialog.show();
+    const QString before = "Alfa=60 BarWidth=%1 ColourVarMax=0 ColourVarMin=0 DefaultVal=0 EndX=%2 EndY=%3 "
+                           "Max=100 Min=0 StartX=105 StartY=205";
+    EXPECT_EQ(shown(dialog), before.arg(20).arg(225).arg(205));
+    QTest::keyClick(&list(dialog, "cmbBarType"), Qt::Key_Down);
+    EXPECT_EQ(shown(dialog), before.arg(120).arg(105).arg(225));
+    type(dialog, "StartX=10 StartY=20 EndY=220 BarWidth=30 Min=-1.5 Max=2 DefaultVal=1 Alfa=50");
+    w.world.prompts.expectColour(qRgb(0, 0, 255));
+    press(dialog, "picForeColour");
+    press(dialog, "cmdApply");
+    EXPECT_EQ(control.Serialise().join(' '), "600 3150 2 30 16711680 -1.5 2 1 1 128 0 0 0");
+    EXPECT_EQ(control.box(), (Box{75, 225, 600, 3150}));
+}
+
+TEST_F(BarProperties, ARefusedApplyWritesNothing)
+{
+    const QString outside = "Default value should be between Min and Max value";
+    expectRefusals("cmdApply",
+                   {{"Min=7 Max=7 DefaultVal=9 Alfa=101", "Can't use same value for minimum and maximum "},
+                    {"DefaultVal=100.5 Alfa=101", outside},
+                    {"DefaultVal=-1", outside},
+                    {"Min=100 Max=0 DefaultVal=150", outside},
+                    {"Min=100 Max=0 DefaultVal=-1", outside},
+                    {"StartX=1 Alfa=101", "Invalid Alpha Value"},
+                    {"StartX=1 Alfa=-1", "Invalid Alpha Value"},
+                    {"Max=9 BarWidth=256", {}},
+                    {"Max=9 StartX=2300 EndX=2400", {}}});
+}
+
+TEST_F(BarProperties, ApplyPlacesAndSizesTheBar)
+{
+    const struct
+    {
+        const char *texts;
+        int barType;
+        Box box;
+    } cases[] = {
+        {"Min=100 Max=0 DefaultVal=50", 0, {1500, 3000, 1950, 450}}, // reversed
+        {"DefaultVal=100", 0, {1500, 3000, 1950, 450}},              // an end belongs to the range
+        {"EndX=305", 0, {1500, 3000, 3150, 450}},
+        {"StartX=90 EndX=20", 0, {1275, 3000, 3150, 450}}, // the end before the start keeps the length
+        {"StartX=700 EndX=800", 0, {9150, 3000, 1650, 450}},
+        {"StartY=570", 0, {9150, 8190, 1650, 450}},
+        {"StartY=100 EndY=150 BarWidth=40", 1, {9150, 1425, 750, 900}},
+    };
+    for (const auto &c : cases) {
+        EXPECT_FALSE(pressed("cmdApply", c.texts, c.barType)->isVisible());
+        EXPECT_EQ(control.box(), c.box) << c.texts;
+        EXPECT_EQ(control.get().curLeft, c.box.Left + 75) << c.texts;
+    }
+}
+
+TEST_F(BarProperties, AnUntouchedApplyKeepsOpacityAndAPlaceBetweenTwoPixels)
+{
+    control.write("newVarID", 3);
+    control.write("newAlfa", 100); // 39 percent would come back as 99
+    control.moveTo(1520, 2960);
+    control.updatePosition();
+    const QStringList before = control.Serialise();
+    pressed("cmdApply", {});
+    EXPECT_EQ(control.Serialise(), before);
+    EXPECT_EQ(control.box(), (Box{1520, 2960, 1950, 450}));
+}
+
+TEST(Dialogs, TabReachesEveryFieldInTheOrderInWhichTheyStand)
+{
+    DesignWindow w;
+    GaugeDialog gauge(w.addGauge(100, 200));
+    BarGraphDialog bar(w.addBar(100, 200));
+    for (QDialog *dialog : QList<QDialog *>{&gauge, &bar}) {
+        dialog->show();
+        dialog->activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); }));
+        QSet<QWidget *> unreached;
+        for (QWidget *field : dialog->findChildren<QWidget *>()) {
+            if (field->isEnabled() && field->isVisible() && field->focusPolicy() & Qt::TabFocus)
+                unreached.insert(field);
+        }
+        for (QPoint last; !unreached.isEmpty();) {
+            QWidget *field = QApplication::focusWidget();
+            ASSERT_TRUE(unreached.remove(field)) << field->objectName().toStdString() << " comes twice";
+            const QPoint place = field->mapTo(dialog, field->rect().center());
+            const bool sameRow = qAbs(place.y() - last.y()) < 4;
+            EXPECT_TRUE(sameRow ? place.x() > last.x() : place.y() > last.y())
+                << field->objectName().toStdString();
+            last = place;
+            QTest::keyClick(field, Qt::Key_Tab);
+        }
+        dialog->hide();
+    }
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+// What dialogs refuse, what the load estimate makes of a layout, and the questions that follow.
+
+#include "common/run_time_error.h"
+#include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/complexity.h"
+#include "controls/gauge/gauge_dialog.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace controls;
+
+const QString Fine;
+
+// Refusals are seen at the dialogs; here is what lies just inside.
+TEST(DialogEntries, areTakenUpToTheirLimits)
+{
+    GaugeForm gauge;
+    gauge.pointerLength = "999"; // tested when it is written
+    gauge.min = "1";
+    gauge.max = "1.5";
+    EXPECT_EQ(validate(gauge), std::nullopt);
+    gauge.max = "1,5"; // the plain reading ends at the comma
+    EXPECT_EQ(validate(gauge), "Can't use same value for minimum and maximum ");
+    const std::tuple<const char *, const char *, const char *, const char *> bars[] = {
+        {"0", "100", "0", "0"},
+        {"0", "100", "100", "100"},
+        {"100", "0", "50", "50"},
+        {"100", "0", "100", "50"}};
+    for (const auto &[min, max, value, alpha] : bars) {
+        BarGraphForm bar;
+        bar.min = min;
+        bar.max = max;
+        bar.defaultVal = value;
+        bar.alfa = alpha;
+        EXPECT_EQ(validate(bar), std::nullopt) << min << ' ' << max << ' ' << value << ' ' << alpha;
+        bar.alfa = "100.5";
+        EXPECT_EQ(validate(bar), "Invalid Alpha Value");
+        bar.defaultVal = "100.5"; // told before the opacity
+        EXPECT_EQ(validate(bar), "Default value should be between Min and Max value");
+    }
+}
+
+TEST(LoadEstimate, termsOfTheKinds)
+{
+    using namespace complexity;
+    const double terms[] = {videoSource(1),
+                            videoSource(4),
+                            gauge(4, 50),
+                            barGraph(750, 150, 20, 15),
+                            bitmap(1650, 900, 0, 15, 15),
+                            bitmap(1650, 900, 0, 10, 15),
+                            bitmap(1650, 900, 2, 15, 15),
+                            digitalDisplay(12, 6),
+                            textTag(9, 11),
+                            trackMap(100, 50, false),
+                            trackMap(100, 50, true)};
+    const double expected[] = {1.25, 0.65, 0.124, 0.0134, 0.09, 0.135, 0, 0.0864, 0.2079, 0.49, 0.775};
+    for (std::size_t i = 0; i < std::size(terms); ++i)
+        EXPECT_NEAR(terms[i], expected[i], 1e-9) << i;
+    EXPECT_THROW(videoSource(0), common::RunTimeError);
+}
+
+TEST(LoadEstimate, asksOverFifteenAndMoreUrgentlyOverTwenty)
+{
+    const QString question =
+        "The designed layout file has %1high complexity and this %2 result in high CPU load on "
+        "the hardware device.\nDo you want to continue?";
+    const QString high = question.arg("", "may");
+    const QString extreme = question.arg("extremely ", "will");
+    const std::pair<double, QString> cases[] = {{0, Fine},    {14.5, Fine},     {15.49, Fine}, {15.5, high},
+                                                {20.5, high}, {20.51, extreme}, {250, extreme}};
+    for (const auto &[load, asked] : cases)
+        EXPECT_EQ(overloadQuestion(shownLoad(load)).value_or(Fine), asked) << load;
+}
+
+} // namespace

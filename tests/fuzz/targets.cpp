@@ -1,0 +1,68 @@
+#include "fuzz/targets.h"
+
+#include "layoutfile/layout_file.h"
+#include "layoutfile/modCRC.h"
+#include "layoutfile/settings_from_records.h"
+#include "variables/definition_file.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace fuzz {
+
+namespace {
+
+using layoutfile::LayoutRecord;
+
+// Without a good CRC nothing behind the first check would ever be reached.
+QByteArray withGoodCrc(QByteArrayView bytes)
+{
+    QByteArray file = bytes.toByteArray();
+    const qsizetype length = file.size() - 4;
+    if (length < 1)
+        return file;
+    const quint32 crc = layoutfile::modCRC(QByteArrayView(file).first(length));
+    std::memcpy(file.data() + length, &crc, sizeof crc);
+    return file;
+}
+
+// What was read can be written, and reads back the same.
+bool settles(const LayoutRecord &record)
+{
+    const QByteArray payload = layoutfile::encodePayload(record.body);
+    const qint32 stated = layoutfile::statedSize(record.body, payload.size());
+    common::ByteReader reader(payload);
+    const auto again = layoutfile::decodePayload(static_cast<qint16>(record.type()), stated, reader);
+    return again && reader.remaining() == 0 && layoutfile::encodePayload(*again) == payload;
+}
+
+} // namespace
+
+bool layout(QByteArrayView bytes)
+{
+    const bool refused = layoutfile::IsValidVGL(bytes) || layoutfile::extractThumbnail(bytes).isEmpty();
+    const QByteArray file = withGoodCrc(bytes);
+    const bool accepted = layoutfile::IsValidVGL(file) == (file.size() > 4);
+    const bool thumbnailFits = layoutfile::extractThumbnail(file).size() <= file.size();
+    const std::vector<LayoutRecord> records = layoutfile::parseLayout(file);
+    recorder::RecorderSettings settings;
+    layoutfile::settingsFromRecords(records, settings);
+    const bool gearsFit = settings.GearTable.size() >= 1 && settings.GearTable.size() <= 7;
+    return refused && accepted && thumbnailFits && gearsFit &&
+           std::all_of(records.begin(), records.end(), &settles);
+}
+
+bool definitions(QByteArrayView bytes)
+{
+    static variables::Catalogue catalogue; // 8001 rows are not made anew for every input
+    const auto units = catalogue.units.size();
+    const bool loaded =
+        variables::loadDefinitions(bytes.toByteArray(), catalogue) == variables::DefinitionStatus::Loaded;
+    if (!loaded)
+        return catalogue.units.size() == units && catalogue.live.size() == variables::LastIndex + 1;
+    const QByteArray saved = variables::saveDefinitions(catalogue);
+    return variables::loadDefinitions(saved, catalogue) == variables::DefinitionStatus::Loaded &&
+           variables::saveDefinitions(catalogue) == saved;
+}
+
+} // namespace fuzz

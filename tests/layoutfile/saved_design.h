@@ -1,0 +1,59 @@
+#pragma once
+
+#include "layoutfile/layout_bytes.h"
+#include "layoutfile/modLoadVGLFiles.h"
+#include "layoutfile/modSaveVGLFiles.h"
+#include "platform/file_replace.h"
+#include "support/design_window.h"
+
+namespace test {
+
+inline QString pathIn(DesignWindow &d, const char *name)
+{
+    return d.world.root.filePath(QLatin1String(name));
+}
+
+inline layoutfile::SaveResult save(DesignWindow &d, const QString &path, controls::ControlSurface &surface,
+                                   layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
+{
+    shell::ProgramState &state = d.world.state;
+    platform::NoProgress progress;
+    return layoutfile::SaveVGL(
+        path, kind,
+        {surface, state.catalogue, state.settings, d.world.prompts, progress, state.stamp, state.screen});
+}
+
+inline QByteArray savedDesign(DesignWindow &d)
+{
+    const QString path = pathIn(d, "saved.VGL");
+    EXPECT_EQ(save(d, path, d.design()), layoutfile::SaveResult::Written);
+    return platform::readFile(path);
+}
+
+inline void loadDesign(DesignWindow &d, const QByteArray &file)
+{
+    const QString path = pathIn(d, "loaded.VGL");
+    platform::replaceFile(path, file);
+    d.window.files().load(path);
+}
+
+template <typename Record>
+std::vector<Record> recordsOf(const QByteArray &file)
+{
+    std::vector<Record> found;
+    for (const layoutfile::LayoutRecord &record : layoutfile::parseLayout(file)) {
+        if (const auto *body = std::get_if<Record>(&record.body))
+            found.push_back(*body);
+    }
+    return found;
+}
+
+template <typename Control, typename Change>
+void change(Control &control, Change &&apply)
+{
+    auto values = control.get();
+    apply(values);
+    control.set(values);
+}
+
+} // namespace test

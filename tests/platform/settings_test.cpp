@@ -1,0 +1,71 @@
+#include "common/run_time_error.h"
+#include "platform/file_replace.h"
+#include "platform/settings_keys.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+
+class Settings : public testing::Test
+{
+protected:
+    SettingsFile fileOf(const QByteArray &text)
+    {
+        replaceFile(path, text);
+        return SettingsFile(path);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("QLM6ConfigTool.cfg");
+};
+
+TEST_F(Settings, numbersAreReadAndPulledIntoTheirBounds)
+{
+    const std::tuple<NumberKey, const char *, int> cases[] = {
+        {keys::Library.top, "893", 854}, // the smaller value is deliberate
+        {keys::Library.top, "894", 894},
+        {keys::Library.top, "12895", 12894},
+        {keys::Library.top, "rubbish", 854},
+        {keys::Library.height, "649", 650},
+        {keys::Library.height, "12317", 12316},
+        {keys::Functions.width, "649", 650},
+        {keys::Design.height, "433", 434},
+        {keys::Design.height, "12475", 12474},
+        {keys::Design.left, "-5", -5},
+        {keys::GridSize, "rubbish", 0},
+        {keys::GridSize, "\" 120 twips\"", 120},
+        {keys::GridSize, "99999", 32767},
+        {keys::Library.width, "1234567891234", 123456789}, // nine characters fit the buffer
+        {keys::Library.width, "1e99", 2147483647},
+        {keys::VideoType, "", 0},
+    };
+    for (const auto &[key, text, expected] : cases) {
+        const SettingsFile file = fileOf(QByteArray("[") + key.section + "]\n" + key.key + '=' + text);
+        EXPECT_EQ(key.read(file), expected) << key.section << ' ' << key.key << ' ' << text;
+    }
+    EXPECT_EQ(keys::VideoType.read(fileOf("")), 1); // a new user's standard
+}
+
+TEST_F(Settings, savedValuesAreThereAtTheNextStart)
+{
+    SettingsFile file = fileOf("[VISIBLE]\n2=0\nmine=kept\n[design]\nheight=500");
+    keys::VideoType.write(file, 0);
+    keys::Library.top.write(file, -1);
+    keys::PalPicture.write(file, QString(120, 'p'));
+    file.save();
+    const SettingsFile next(path);
+    EXPECT_EQ(keys::VideoType.read(next), 0);
+    EXPECT_EQ(keys::Library.top.read(next), 854);
+    EXPECT_EQ(keys::PalPicture.read(next).size(), 99);
+    EXPECT_EQ(keys::Visible[2].read(next), 0);
+    EXPECT_EQ(next.read("VISIBLE", "mine", {}, 10), "kept");
+    EXPECT_TRUE(keys::Design.stored(next));
+    EXPECT_FALSE(keys::Functions.stored(next));
+    EXPECT_THROW(SettingsFile(folder.filePath("gone/x.cfg")).save(), common::RunTimeError);
+}
+
+} // namespace

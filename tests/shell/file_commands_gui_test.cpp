@@ -1,0 +1,123 @@
+#include "support/design_window.h"
+
+#include <QDir>
+
+namespace {
+
+using test::DesignWindow;
+
+const QString Clear = "Do you want to clear design area ?";
+const QString Overload =
+    "The designed layout file has extremely high complexity and this will result in high CPU "
+    "load on the hardware device.\nDo you want to continue?";
+const QString LongName = "File name should be maximum of 8 characters, Do you want to continue?";
+const QString RecorderName = "Note that the file must be called DEFAULT.VGL and saved to the root \n"
+                             "directory of a CF card to be recognised by the MORVEL\n\n"
+                             "Do you want to continue ?";
+
+struct FileCommands : testing::Test
+{
+    QString path(const QString &name) { return w.world.root.filePath(name); }
+    // How many controls a layout file holds.
+    int count(const QString &file)
+    {
+        DesignWindow other;
+        other.window.files().load(file);
+        return static_cast<int>(other.design().controls().size());
+    }
+
+    DesignWindow w;
+    test::ScriptedPrompts &prompts = w.world.prompts;
+};
+
+TEST_F(FileCommands, NewClearsTheDesignAndItsSettingsAfterAQuestion)
+{
+    w.world.state.settings.CurrentBitRate = 9;
+    w.run("mnuI");
+    w.run("mnuNTSC");
+    w.design().setCaption("RACE");
+    w.addBar(100, 100);
+    prompts.expectQuestion(Clear, false);
+    w.run("mnuNew");
+    EXPECT_EQ(w.design().controls().size(), 1);
+    EXPECT_EQ(w.text("lblBitRate"), "Bit Rate 9 Mbps");
+    EXPECT_TRUE(w.action("mnuI").isChecked());
+
+    prompts.expectQuestion(Clear, true);
+    w.run("mnuNew");
+    EXPECT_TRUE(w.design().controls().isEmpty());
+    EXPECT_EQ(w.design().caption(), "Untitled");
+    EXPECT_EQ(w.text("lblBitRate"), "Bit Rate 6 Mbps");
+    EXPECT_TRUE(w.action("mnuIPB").isChecked() && !w.action("mnuI").isChecked());
+    EXPECT_TRUE(w.action("mnuNTSC").isChecked());
+    EXPECT_EQ(count(w.world.state.folders.inUserData("MORVELBackup.VGL")), 1);
+}
+
+TEST_F(FileCommands, LoadAsksWhatBecomesOfTheDesign)
+{
+    test::writeLayout(path("TWO.VGL"), 2);
+    const struct
+    {
+        std::optional<int> option;
+        bool saves, loads;
+        int controls;
+    } cases[] = {
+        {0, false, true, 2},  {1, true, true, 2},    {2, false, true, 3},
+        {3, false, false, 1}, {{}, false, false, 1},
+    };
+    for (const auto &c : cases) {
+        w.design().mnuNew_Click();
+        w.addBar(300, 300);
+        prompts.expectChoice(c.option);
+        if (c.saves) {
+            prompts.expectSaveFile(path("KEEP.VGL"));
+            prompts.expectQuestion(RecorderName, true);
+        }
+        if (c.loads)
+            prompts.expectOpenFile(path("TWO.VGL"));
+        w.run("mnuLoadConfig");
+        EXPECT_EQ(w.design().controls().size(), c.controls);
+        EXPECT_EQ(w.design().caption(), c.loads ? "TWO" : "Untitled");
+        EXPECT_TRUE(w.window.isEnabled());
+    }
+    EXPECT_FALSE(prompts.lastFileRequest().preview(path("TWO.VGL")).isNull());
+    EXPECT_EQ(count(path("KEEP.VGL")), 1);
+}
+
+TEST_F(FileCommands, SaveAsksInItsOrderAndARefusalWritesNothing)
+{
+    const struct
+    {
+        const char *name;
+        QList<std::pair<QString, bool>> questions; // no text stands for the file dialog
+        bool written;
+    } cases[] = {
+        {"LAYOUT.VGL", {{Overload, false}}, false},
+        {"LAYOUT.VGL", {{Overload, true}, {{}, false}}, false},
+        {"NINECHARS.VGL", {{Overload, true}, {{}, true}, {LongName, false}}, false},
+        {"NINECHARS.VGL", {{Overload, true}, {{}, true}, {LongName, true}, {RecorderName, false}}, false},
+        {"EIGHTCHA.VGL", {{Overload, true}, {{}, true}, {RecorderName, true}}, true},
+        {"NINECHARS.VGL", {{Overload, true}, {{}, true}, {LongName, true}, {RecorderName, true}}, true},
+    };
+    w.addBar(300, 100);
+    controls::Gauge &gauge = w.addGauge(100, 100);
+    gauge.write("newPointerWidth", 255);
+    gauge.write("newPointerLength", 255);
+    for (const auto &c : cases) {
+        for (const auto &[question, answer] : c.questions) {
+            if (question.isNull())
+                prompts.expectSaveFile(answer ? path(c.name) : QString());
+            else
+                prompts.expectQuestion(question, answer);
+        }
+        const QString before = w.design().caption();
+        w.run("mnuSaveConfig");
+        EXPECT_EQ(QFile::exists(path(c.name)), c.written) << c.name;
+        EXPECT_EQ(w.design().caption(), c.written ? QFileInfo(c.name).baseName() : before);
+    }
+    EXPECT_EQ(prompts.lastFileRequest().fileName, "DEFAULT.VGL");
+    EXPECT_EQ(count(path("NINECHARS.VGL")), 2);
+    EXPECT_TRUE(QDir(w.world.state.folders.temporary).isEmpty());
+}
+
+} // namespace

@@ -1,0 +1,165 @@
+#include "platform/file_replace.h"
+#include "shell/start_up.h"
+#include "support/design_window.h"
+#include "surface/panel_area.h"
+#include "variables/definition_file.h"
+
+#include <QToolButton>
+
+namespace {
+
+using controls::ControlType;
+using surface::PanelId;
+namespace keys = platform::keys;
+
+const QString LastQuestion = "Do you want to load last layout ?";
+const QString DefaultQuestion = "Do you want to load default layout ?";
+
+// A user's folders with all that the program needs, and starts of the program over them.
+struct Start : testing::Test
+{
+    Start()
+    {
+        platform::replaceFile(folders.variablesFile(), variables::saveDefinitions(world.state.catalogue));
+        platform::replaceFile(folders.MessagesFile(),
+                              recorder::writeMessageTable(world.state.settings.MessageTable));
+    }
+    bool start(const QStringList &arguments = {})
+    {
+        program.emplace(shell::StartUpInput{folders, {}, world.state.stamp, arguments}, world.prompts);
+        return program->run();
+    }
+    void restart()
+    {
+        EXPECT_TRUE(program->window()->close());
+        EXPECT_TRUE(start());
+    }
+    surface::frmInterface &design() { return program->window()->design(); }
+    surface::Panel &panel(PanelId id) { return design().panels().panel(id); }
+    QAction &action(const char *name)
+    {
+        return *program->window()->findChild<QAction *>(QLatin1String(name));
+    }
+
+    test::World world;
+    const platform::Folders folders = world.state.folders;
+    std::optional<shell::StartUp> program;
+};
+
+TEST_F(Start, EndsWithAMessageWhenAFileIsMissing)
+{
+    const std::pair<QString, QString> files[] = {{folders.MessagesFile(), folders.MessagesFile()},
+                                                 {folders.variablesFile(), "QLM6ConfigToolVars.cfg"}};
+    for (const auto &[path, named] : files) {
+        QFile::remove(path);
+        world.prompts.expectMessage(
+            "An important system file cannot be found, please uninstall and re-install\n" + named);
+        EXPECT_FALSE(start());
+        EXPECT_EQ(program->window(), nullptr);
+        EXPECT_EQ(world.prompts.shown().back().title, "File not found");
+        EXPECT_EQ(world.prompts.shown().back().icon, platform::Icon::Critical);
+    }
+}
+
+TEST_F(Start, GoesOnWithADamagedCatalogue)
+{
+    platform::replaceFile(folders.variablesFile(), "no catalogue at all");
+    world.prompts.expectMessage("The variable file appears to be corrupted, cannot continue operation");
+    EXPECT_TRUE(start());
+    EXPECT_TRUE(program->window()->isVisible() && program->window()->isEnabled());
+}
+
+TEST_F(Start, ChoosesTheFirstLayout)
+{
+    const QString named = folders.inUserData("NAMED.VGL");
+    test::writeLayout(named, 3);
+    using Questions = QList<std::pair<QString, bool>>;
+    const struct
+    {
+        QStringList arguments;
+        bool haveWorkspace, haveDefault;
+        Questions questions;
+        int controls;
+    } cases[] = {
+        {{}, false, false, {}, 0},
+        {{}, true, true, {{LastQuestion, true}}, 1},
+        {{}, true, true, {{LastQuestion, false}, {DefaultQuestion, true}}, 2},
+        {{}, false, true, {{DefaultQuestion, false}}, 0},
+        {{"/t", "pal", "/F" + named}, true, true, {}, 3},
+        {{"/F" + named + "x.VGL"}, true, false, {{LastQuestion, true}}, 1}, // missing
+        {{named}, true, false, {{LastQuestion, false}}, 0},                 // without its letter
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.arguments.join(' ').toStdString());
+        QFile::remove(folders.workspaceFile());
+        QFile::remove(folders.defaultLayoutFile());
+        if (c.haveWorkspace)
+            test::writeLayout(folders.workspaceFile(), 1);
+        if (c.haveDefault)
+            test::writeLayout(folders.defaultLayoutFile(), 2);
+        for (const auto &[question, answer] : c.questions)
+            world.prompts.expectQuestion(question, answer);
+        ASSERT_TRUE(start(c.arguments));
+        EXPECT_EQ(design().controls().size(), c.controls);
+    }
+}
+
+TEST_F(Start, AStandardFromTheCommandLineStaysForTheNextRun)
+{
+    EXPECT_TRUE(start({"/T", "PAL", "/Tntsc", "/Tsecam"}));
+    EXPECT_EQ(program->window()->findChild<surface::Canvas *>()->height(), 480);
+    restart();
+    EXPECT_EQ(keys::VideoType.read(platform::SettingsFile(folders.ConfigFile())), 0);
+    EXPECT_TRUE(action("mnuNTSC").isChecked());
+}
+
+TEST_F(Start, FindsDesignAndPanelsAsTheLastRunLeftThem)
+{
+    EXPECT_TRUE(start());
+    design().addControl(ControlType::BarGraph, {4500, 3000});
+    surface::Panel &moved = panel(PanelId::Functions);
+    const int left = moved.x();
+    test::drag(moved, {moved.width() - 2, 200}, {{300, 0}}); // an edge that is pulled out of the window
+    EXPECT_EQ(moved.x(), left);
+    test::drag(moved, {1, 200}, {{-60, 0}});
+    EXPECT_EQ(moved.x(), left - 60);
+    test::drag(moved, {60, 10}, {{-150, 40}});
+    const QRect place = moved.geometry();
+    world.prompts.expectQuestion(LastQuestion, true);
+    restart();
+    ASSERT_EQ(design().controls().size(), 1);
+    EXPECT_EQ(design().controls()[0]->pos(), QPoint(300, 200));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel(PanelId::Functions).geometry() == place; }));
+}
+
+TEST_F(Start, AClosedPanelStaysClosedUntilTheViewMenuBringsItBack)
+{
+    EXPECT_TRUE(start());
+    EXPECT_TRUE(action("mnuPanelFunctions").isChecked());
+    QTest::mouseClick(panel(PanelId::Functions).findChild<QToolButton *>(), Qt::LeftButton);
+    restart();
+    EXPECT_FALSE(panel(PanelId::Functions).isVisible() || action("mnuPanelFunctions").isChecked());
+    EXPECT_TRUE(panel(PanelId::Library).isVisible() && action("mnuPanelLibrary").isChecked());
+    action("mnuPanelFunctions").trigger();
+    restart();
+    EXPECT_TRUE(panel(PanelId::Functions).isVisible() && action("mnuPanelFunctions").isChecked());
+}
+
+TEST_F(Start, PanelsThatWereStoredOutOfSightArePulledIntoView)
+{
+    platform::SettingsFile file(folders.ConfigFile());
+    for (const auto &[key, twips] :
+         {std::pair(keys::Functions.left, 90000), std::pair(keys::Functions.top, 90000),
+          std::pair(keys::Functions.width, 3000), std::pair(keys::Library.left, -9000),
+          std::pair(keys::Library.width, 1), std::pair(keys::Design.width, 200000)})
+        key.write(file, twips);
+    file.save();
+    EXPECT_TRUE(start());
+    for (const PanelId id : {PanelId::Functions, PanelId::Library, PanelId::Design}) {
+        EXPECT_TRUE(design().panels().rect().contains(panel(id).geometry()));
+        EXPECT_GT(panel(id).width(), 50);
+    }
+    EXPECT_EQ(panel(PanelId::Functions).width(), 200);
+}
+
+} // namespace

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "controls/bar_graph/bar_graph.h"
+#include "controls/gauge/gauge.h"
+#include "platform/settings_keys.h"
+#include "shell/frm_main.h"
+#include "support/test_world.h"
+#include "surface/canvas.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QToolBar>
+#include <QtTest/QtTest>
+
+#include <gtest/gtest.h>
+
+namespace test {
+
+inline const QColor PalGround(0, 128, 0);
+inline const QColor NtscGround(0, 0, 160);
+
+// A main window over a world of its own, on plain backgrounds. A spacing of 0 means neither dots nor
+// snapping.
+struct DesignWindow
+{
+    explicit DesignWindow(int gridSpacing = 0)
+    {
+        const platform::Folders &folders = world.state.folders;
+        writeGround(folders.inUserData("PALVIDEOBackImg.bmp"), 576, PalGround);
+        writeGround(folders.inUserData("NTSCVIDEOBackImg.bmp"), 480, NtscGround);
+        platform::SettingsFile settings(folders.ConfigFile());
+        platform::keys::GridSize.write(settings, gridSpacing);
+        settings.save();
+        window.design().load();
+        window.refreshFromState();
+        window.resize(1400, 900);
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    surface::frmInterface &design() { return window.design(); }
+    QWidget &canvas() { return *window.findChild<surface::Canvas *>(); }
+    QString text(const char *label) { return window.findChild<QLabel *>(QLatin1String(label))->text(); }
+    QAction &action(const char *name)
+    {
+        auto *found = window.findChild<QAction *>(QLatin1String(name));
+        for (QAction *menu : window.menuBar()->actions())
+            found = found ? found : menu->menu()->findChild<QAction *>(QLatin1String(name));
+        return *found;
+    }
+    void run(const char *name) { action(name).trigger(); }
+    void pressToolButton(const char *name)
+    {
+        auto *toolbar = window.findChild<QToolBar *>();
+        QTest::mouseClick(toolbar->widgetForAction(&action(name)), Qt::LeftButton);
+    }
+
+    // New controls with their corner at this canvas pixel.
+    controls::Gauge &addGauge(int x, int y)
+    {
+        return add<controls::Gauge>(controls::ControlType::Gauge, x, y);
+    }
+    controls::BarGraph &addBar(int x, int y)
+    {
+        return add<controls::BarGraph>(controls::ControlType::BarGraph, x, y);
+    }
+
+    World world;
+    shell::frmMain window{world.state, world.prompts};
+
+private:
+    static void writeGround(const QString &path, int height, const QColor &colour)
+    {
+        QImage ground(720, height, QImage::Format_RGB32);
+        ground.fill(colour);
+        ground.save(path);
+    }
+    template <typename Control>
+    Control &add(controls::ControlType type, int x, int y)
+    {
+        design().addControl(type, QPointF(x * 15, y * 15));
+        return static_cast<Control &>(*design().controls().last());
+    }
+};
+
+// A layout file with this many bar graphs.
+inline void writeLayout(const QString &path, int bars)
+{
+    DesignWindow w;
+    for (int i = 0; i < bars; ++i)
+        w.addBar(10 * i, 40 * i);
+    w.window.files().saveWorkspace();
+    EXPECT_TRUE(QFile::copy(w.world.state.folders.workspaceFile(), path));
+}
+
+// Presses `from` (pixels within the widget), goes through the points of `way` (pixels from the press) and
+// releases at the last one.
+inline void drag(QWidget &widget, QPoint from, const QList<QPoint> &way)
+{
+    const QPoint press = widget.mapToGlobal(from);
+    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+    for (const QPoint &step : way)
+        QTest::mouseMove(&widget, widget.mapFromGlobal(press + step));
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, widget.mapFromGlobal(press + way.last()));
+}
+
+inline void click(QWidget &widget, QPoint at, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::mouseClick(&widget, Qt::LeftButton, modifiers, at);
+}
+
+// Drags data over the widget and lets it go there when the widget takes it.
+inline void drop(QWidget &target, QPoint at, const QString &format, const QByteArray &data)
+{
+    QMimeData carried;
+    carried.setData(format, data);
+    QDragEnterEvent enter(at, Qt::CopyAction, &carried, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    QDropEvent letGo(at, Qt::CopyAction, &carried, Qt::LeftButton, {});
+    if (enter.isAccepted())
+        QApplication::sendEvent(&target, &letGo);
+}
+
+// Runs the open popup menu's entry of this name.
+inline void choose(const QString &name)
+{
+    QWidget *popup = QApplication::activePopupWidget();
+    ASSERT_NE(popup, nullptr);
+    auto *own = popup->findChild<QAction *>(name);
+    popup->close();
+    (own ? own : QApplication::activeWindow()->findChild<QAction *>(name))->trigger();
+}
+
+inline qint32 whole(const controls::OverlayControl &control, const char *reader)
+{
+    return std::get<qint32>(control.read(reader));
+}
+
+} // namespace test
+
+inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
+inline void PrintTo(const QColor &colour, std::ostream *out) { *out << colour.name().toStdString(); }
+
+namespace controls {
+
+inline void PrintTo(const Box &box, std::ostream *out)
+{
+    *out << "{" << box.Left << ", " << box.Top << ", " << box.Width << ", " << box.Height << "}";
+}
+
+} // namespace controls

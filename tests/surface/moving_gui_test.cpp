@@ -1,0 +1,132 @@
+#include "support/design_window.h"
+
+namespace {
+
+using controls::BarGraph;
+using controls::Gauge;
+using controls::OverlayControl;
+using test::DesignWindow;
+
+constexpr QPoint Middle(65, 15); // of a new bar graph
+
+// The bar's corner stands at 1500, 3000.
+TEST(Moving, ADragFollowsThePointerByTheRulesOfTheCanvas)
+{
+    const struct
+    {
+        const char *name;
+        int gridSpacing;
+        QList<QPoint> way;
+        QPoint corner; // twips
+        const char *shown;
+    } cases[] = {
+        {"four pixels are jitter", 0, {{4, 4}}, {1500, 3000}, ""},
+        {"so are five", 0, {{5, -5}}, {1500, 3000}, ""},
+        {"six move", 0, {{6, 0}}, {1590, 3000}, "Pos (x, y) : 106, 200"},
+        {"once out every step counts", 0, {{0, 6}, {2, 1}}, {1530, 3015}, "Pos (x, y) : 102, 201"},
+        {"short of the next line", 150, {{9, 0}}, {1500, 3000}, "Pos (x, y) : 100, 200"},
+        {"on the next line", 150, {{9, 0}, {10, 0}}, {1650, 3000}, "Pos (x, y) : 110, 200"},
+        {"backwards is down too", 150, {{-6, 0}}, {1350, 3000}, "Pos (x, y) : 90, 200"},
+        {"right and bottom edge", 80, {{2000, 2000}}, {8850, 8190}, "Pos (x, y) : 590, 546"},
+        {"left and top edge", 80, {{-2000, -2000}}, {0, 0}, "Pos (x, y) : 0, 0"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        DesignWindow w(c.gridSpacing);
+        BarGraph &bar = w.addBar(100, 200);
+        test::drag(bar, Middle, c.way);
+        EXPECT_EQ(QPointF(bar.box().Left, bar.box().Top), c.corner);
+        EXPECT_EQ(QPoint(bar.get().curLeft, bar.get().curTop), c.corner + QPoint(75, 75));
+        EXPECT_EQ(w.text("lblPosition"), c.shown);
+    }
+}
+
+// A menu or a box that opened in between may have taken the release.
+TEST(Moving, ADragLastsUntilTheButtonIsReleasedOrFoundReleased)
+{
+    DesignWindow w;
+    BarGraph &bar = w.addBar(100, 200);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, Middle);
+    QTest::mouseMove(&bar, Middle + QPoint(30, 40));
+    EXPECT_EQ(bar.pos(), QPoint(130, 240));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, Middle);
+    test::drag(bar, Middle, {{4, 4}}); // the next press begins with jitter again
+    EXPECT_EQ(bar.pos(), QPoint(130, 240));
+
+    QTest::mousePress(&bar, Qt::LeftButton, {}, Middle);
+    const QPoint at = Middle + QPoint(20, 0);
+    QMouseEvent move(QEvent::MouseMove, at, bar.mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&bar, &move);
+    EXPECT_EQ(bar.pos(), QPoint(130, 240));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, Middle);
+}
+
+// Neither a nudge nor an Apply may make the control jump.
+void expectSteadyPlace(DesignWindow &w, OverlayControl &control)
+{
+    const QPoint place = control.pos();
+    if (auto *gauge = qobject_cast<Gauge *>(&control)) {
+        const int inset = 5 + gauge->get().curPointerLength;
+        EXPECT_EQ(QPoint(gauge->get().curCenterX, gauge->get().curCenterY), place + QPoint(inset, inset));
+    }
+    control.AssignProperties();
+    EXPECT_EQ(control.pos(), place);
+    QTest::keyClick(&control, Qt::Key_Right);
+    QTest::keyClick(&control, Qt::Key_Down);
+    EXPECT_EQ(control.pos(), place + QPoint(1, 1));
+    control.setFocus();
+    w.pressToolButton("cmdUp");
+    w.pressToolButton("cmdLeft");
+    EXPECT_EQ(control.pos(), place);
+}
+
+// On the grid of 80 twips places are no whole pixels.
+TEST(Moving, ThePositionPropertiesNameTheSamePlaceOnEveryPath)
+{
+    DesignWindow w(80);
+    for (OverlayControl *control : QList<OverlayControl *>{&w.addGauge(250, 430), &w.addBar(101, 540)}) {
+        const auto corner = [&] { return QPoint(control->width() - 2, control->height() - 2); };
+        const std::pair<const char *, std::function<void()>> paths[] = {
+            {"added", [] {}},
+            {"dragged",
+             [&] {
+                 test::drag(*control, {20, 15}, {{31, -17}, {44, -23}});
+             }},
+            {"resized",
+             [&] {
+                 test::drag(*control, corner(), {{25, 20}, {37, 24}});
+             }},
+            {"resized at the top left",
+             [&] {
+                 test::drag(*control, {2, 2}, {{-25, -20}, {-31, -7}});
+             }},
+            {"dragged to the edge",
+             [&] {
+                 test::drag(*control, {20, 15}, {{0, 900}});
+             }},
+            {"NTSC", [&] { w.run("mnuNTSC"); }},
+            {"PAL", [&] { w.run("mnuPAL"); }},
+        };
+        for (const auto &[name, go] : paths) {
+            SCOPED_TRACE(name);
+            go();
+            expectSteadyPlace(w, *control);
+        }
+    }
+}
+
+TEST(Moving, ANarrowerStandardPullsControlsInForGood)
+{
+    DesignWindow w;
+    const QList<OverlayControl *> controls{&w.addGauge(0, 430), &w.addBar(300, 540), &w.addBar(300, 450)};
+    for (const auto &[command, height] : {std::pair("mnuNTSC", 480), std::pair("mnuPAL", 576)}) {
+        w.run(command);
+        EXPECT_EQ(w.canvas().height(), height);
+        EXPECT_TRUE(w.action(command).isChecked());
+        EXPECT_EQ(controls[0]->pos(), QPoint(0, 340));
+        EXPECT_EQ(controls[1]->pos(), QPoint(300, 450));
+        EXPECT_EQ(controls[2]->pos(), QPoint(300, 450)); // ended exactly at the edge
+    }
+}
+
+} // namespace

@@ -1,0 +1,60 @@
+#include "support/design_window.h"
+
+namespace {
+
+using controls::Box;
+using controls::OverlayControl;
+using test::DesignWindow;
+
+enum Kind { Gauge, Bar, UprightBar };
+
+// The corner stands at 4500, 1500; a new gauge is 140 pixels square, a new bar graph 130 by 30.
+TEST(Resizing, AGripTakesTheBoxAsFarAsItsKindAllows)
+{
+    const struct
+    {
+        const char *name;
+        Kind kind;
+        int gridSpacing;
+        QPoint from, way; // pixels within the control, pixels from there
+        Box box;
+        int size; // pointer length or bar width
+    } cases[] = {
+        {"square by the height", Gauge, 0, {137, 137}, {63, 23}, {4500, 1500, 2400, 2400}, 75},
+        {"upper left", Gauge, 0, {2, 2}, {-20, -10}, {4380, 1380, 2220, 2220}, 69},
+        {"upper right", Gauge, 0, {137, 2}, {5, -10}, {4500, 1380, 2220, 2220}, 69},
+        {"smallest", Gauge, 0, {137, 137}, {-130, -130}, {4500, 1500, 180, 180}, 1},
+        {"to the edge of the canvas", Gauge, 0, {137, 137}, {2000, 2000}, {4500, 1500, 6300, 6300}, 205},
+        {"on the grid", Gauge, 150, {137, 137}, {22, 22}, {4500, 1500, 2250, 2250}, 70},
+        {"no grip in the middle", Gauge, 0, {70, 2}, {10, 0}, {4650, 1500, 2100, 2100}, 65},
+        {"nor at the side", Gauge, 0, {2, 70}, {0, 10}, {4500, 1650, 2100, 2100}, 65},
+        {"thicker", Bar, 0, {65, 27}, {0, 23}, {4500, 1500, 1950, 750}, 40},
+        {"thicker upwards", Bar, 0, {65, 2}, {0, -12}, {4500, 1350, 1950, 600}, 30},
+        {"too long to the right", Bar, 0, {127, 15}, {273, 0}, {4500, 1500, 3975, 450}, 20},
+        {"too long to the left", Bar, 0, {2, 15}, {-200, 0}, {2475, 1500, 3975, 450}, 20},
+        {"smallest", Bar, 0, {127, 27}, {-200, -200}, {4500, 1500, 180, 180}, 2},
+        {"short of a grid line", Bar, 150, {127, 15}, {22, 0}, {4500, 1500, 2100, 450}, 20},
+        {"left edge on the grid", Bar, 150, {2, 15}, {-19, 0}, {4200, 1500, 2250, 450}, 20},
+        {"too long downwards", UprightBar, 0, {65, 27}, {0, 370}, {4500, 1500, 1950, 3975}, 120},
+        {"wider", UprightBar, 0, {127, 15}, {103, 0}, {4500, 1500, 3450, 450}, 220},
+        {"a click on a grip", Gauge, 80, {137, 137}, {}, {4500, 1500, 2100, 2100}, 65},
+        {"a click on a grip", Bar, 80, {127, 27}, {}, {4500, 1500, 1950, 450}, 20},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        DesignWindow w(c.gridSpacing);
+        auto &control =
+            c.kind == Gauge ? static_cast<OverlayControl &>(w.addGauge(300, 100)) : w.addBar(300, 100);
+        if (c.kind == UprightBar)
+            control.write("newBarType", 1);
+        if (c.way.isNull())
+            test::click(control, c.from);
+        else
+            test::drag(control, c.from, {c.way / 2, c.way});
+        EXPECT_EQ(control.box(), c.box);
+        EXPECT_EQ(test::whole(control, c.kind == Gauge ? "curPointerLength" : "curBarWidth"), c.size);
+        EXPECT_EQ(control.size(), QSizeF(c.box.Width / 15, c.box.Height / 15).toSize());
+    }
+}
+
+} // namespace

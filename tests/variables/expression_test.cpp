@@ -1,0 +1,180 @@
+#include "fuzz/targets.h"
+#include "variables/expression/compiler.h"
+#include "variables/expression/evaluator.h"
+#include "variables/expression/string_building.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace {
+
+using namespace variables::expression;
+
+constexpr int Owner = 42;
+const platform::NumberLocale Plain;
+const platform::NumberLocale Comma{",", ";"};
+
+QByteArray program(const QString &equation, const platform::NumberLocale &locale = Plain)
+{
+    QByteArray bytes;
+    return compile(equation, bytes, Owner, locale) ? bytes : QByteArray();
+}
+
+TEST(StringBuilding, makesTextReadyForTheParser)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"x+1", " var_0042+1 "},
+        {"2*Max(x,u)", " 2*max(var_0042,var_0042) "},
+        {"EXP(3x)+Sum(u,2u) xor X", " exp(3var_0042)+sum(var_0042,2var_0042) xor var_0042 "},
+        {"car_10+CAR_9", " 00+0 "},
+        {"CdA*Roll+Mass", " 0*0+0 "},
+        {"Temp+Press+Humid", " temp+press+humid "},
+        {"1.5,2", " 1.5,2 "},
+    };
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(StringBuilding(text, Owner, Plain), expected);
+    EXPECT_EQ(StringBuilding("Max(1,5;0.5)", Owner, Comma), " max(1.5,0.5) ");
+    EXPECT_EQ(StringBuilding(QString::fromUtf8("1\u066B5\u060Cé"), 7,
+                             {QString(QChar(0x66B)), QString(QChar(0x60C))}),
+              " 1.5,? ");
+}
+
+TEST(Compiler, writesTheBytesOfTheRecorder)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"x+1", "01122900 02140000803F 0106 0119"},
+        {"2*Max(x,u)", "011400000040 02122900 03122900 0215021B 0108 0119"},
+        {"-x", "01122900 01150117 0119"},
+        {"-2.5*x", "011400002040 01150117 02122900 0108 0119"},
+        {"-2^2", "011400000000 021400000040 031400000040 020A 0107 0119"},
+        {"1-(-(x+1))", "01140000803F 021400000000 03122900 04140000803F 0306 0207 0107 0119"},
+        {"3var_0012^2", "011400004040 02120B00 031400000040 020A 0108 0119"},
+        {"IF(x>1,\r\n VAR_8000, 5e-1)", "01122900 02140000803F 0105 02123F1F 03140000003F 01150316 0119"},
+        {"CAR_10", "011400000000 0119"},
+    };
+    for (const auto &[equation, bytes] : cases)
+        EXPECT_EQ(program(equation).toHex(), QByteArray::fromHex(bytes).toHex()) << equation;
+    EXPECT_EQ(program("1,5*max(x;2)", Comma).toHex(), program("1.5*max(x,2)").toHex());
+    EXPECT_NE(program("1.5*max(x,2)"), QByteArray());
+}
+
+// What an equation is worth where x is 3 and var_0012 is -2.
+TEST(Compiler, followsTheHabitsOfSpreadsheets)
+{
+    const std::pair<const char *, double> cases[] = {
+        {"2+3*4", 14},         {"7-2-1", 4},          {"8/4/2", 1},
+        {"2^3^2", 64},         {"-2^2", -4},          {"2^-1", 0.5},
+        {"2^-x^2", 1.0 / 512}, {"-x^2*2", -18},       {"--x", 3},
+        {"2*-x-+1", -7},       {"2x^2", 18},          {"6/2x", 1},
+        {"2^2x", 64},          {"-2var_0012^2", -8},  {"5e-2*1E+2+.5+5.", 10.5},
+        {"1+2<4", 1},          {"3<2==0", 1},         {"x=3", 1},
+        {"x<>3", 0},           {"x!=3", 0},           {"x>=4", 0},
+        {"1 Or 2 And 4", 1},   {"(1 or 2) and 4", 0}, {"5 xor 3 or 8", 14},
+        {"x and 1<2", 1},      {"2.6 and 3", 3},      {"1 / 0", 0},
+    };
+    std::vector<float> values(Owner + 1);
+    values[Owner] = 3;
+    values[12] = -2;
+    for (const auto &[equation, expected] : cases) {
+        const RunResult result = Standard(program(equation), values);
+        EXPECT_EQ(result.status, RunStatus::Ended) << equation;
+        EXPECT_FLOAT_EQ(result.value, static_cast<float>(expected)) << equation;
+    }
+}
+
+TEST(Evaluator, knowsEveryFunction)
+{
+    const std::pair<const char *, double> cases[] = {
+        {"sin(1)", 0.8414709848},
+        {"cos(1)", 0.5403023059},
+        {"tan(1)", 1.5574077247},
+        {"asin(0.5)", 0.523598776},
+        {"asin(-2)", -1.570796327},
+        {"acos(0.5)", 1.047197551},
+        {"acos(1)", 3.1415927},
+        {"atan(1)", 0.785398163},
+        {"sinh(1)", 1.175201194},
+        {"cosh(1)", 1.543080635},
+        {"tanh(1)", 0.761594156},
+        {"asinh(1)", 0.881373587},
+        {"acosh(2)", 1.316957897},
+        {"atanh(0.5)", 0.549306144},
+        {"log2(8)", 3},
+        {"log10(1000)", 3},
+        {"log10(0)", 0},
+        {"ln(10)", 2.302585093},
+        {"ln(-1)", 0},
+        {"exp(1)", 2.718281828},
+        {"sqrt(9)", 3},
+        {"sign(-2)", -1},
+        {"sign(0)", 0},
+        {"round(2.5)", 2},
+        {"round(-3.5)", -4},
+        {"abs(-2)", 2},
+        {"int(-3.2)", -4},
+        {"if(1,5,7)", 5},
+        {"if(2,5,7)", 7},
+        {"sum(1,2,3,4)", 10},
+        {"avg(1,2,6)", 3},
+        {"min(3,1,2)", 1},
+        {"max(3,1,4,2)", 4},
+    };
+    for (const auto &[equation, expected] : cases)
+        EXPECT_FLOAT_EQ(Standard(program(equation)).value, static_cast<float>(expected)) << equation;
+}
+
+TEST(Compiler, refusesWhatIsNoEquation)
+{
+    for (const char *equation :
+         {"",          " ",        "()",       "1+",      "*2",          "1 2",     "2 x",
+          "2(3)",      "3sin(x)",  "(1",       "1)",      "1..2",        "1e",      "x u",
+          "1,2",       "#",        "\xC3\xA9", "temp",    "sqr(2)",      "sin",     "sin()",
+          "sin(1,2)",  "max(1)",   "sum()",    "if(1,2)", "if(1,2,3,4)", "max(1,)", "var_12",
+          "var_00123", "var_0000", "var_8001", "Var_",    "1e39",        "1and2",   "x!3"})
+        EXPECT_TRUE(program(equation).isEmpty()) << equation;
+    EXPECT_TRUE(program(QString("1+2") + QChar(0)).isEmpty());
+    // What the run with all variables 0 cannot finish.
+    for (const char *equation :
+         {"sqrt(x-1)", "exp(100)", "1e38*10", "0^-1", "(-8)^(1/3)", "atanh(1)", "3e9 and 1"})
+        EXPECT_TRUE(program(equation).isEmpty()) << equation;
+}
+
+TEST(Compiler, refusesWhatOutgrowsItsLimits)
+{
+    const auto sum = [](const QString &term, int terms) { return term + ('+' + term).repeated(terms - 1); };
+    EXPECT_EQ(program(sum("x", 42)).size(), 252); // 252 words
+    EXPECT_TRUE(program(sum("x", 43)).isEmpty());
+    EXPECT_EQ(program(sum("1", 32)).size(), 256); // bytes are the narrower limit here
+    EXPECT_TRUE(program(sum("1", 33)).isEmpty());
+    EXPECT_EQ(program(QString(62, '-') + 'x').size(), 4 + 62 * 4 + 2);
+    EXPECT_TRUE(program(QString(63, '-') + 'x').isEmpty());
+    for (const char *part : {"-", "(", "sin(", "1+(", "2^-", "max(1,", "3var_0001^"})
+        EXPECT_TRUE(program(QString(part).repeated(100'000)).isEmpty()) << part;
+    EXPECT_EQ(program(QString(150, '(') + 'x' + QString(150, ')')), program("x"));
+}
+
+TEST(Compiler, leavesTheBytesAloneWhenItFails)
+{
+    QByteArray bytes("kept");
+    EXPECT_FALSE(compile("1+", bytes, Owner, Plain));
+    EXPECT_EQ(bytes, "kept");
+    EXPECT_FALSE(compile("x", bytes, 0, Plain));
+    EXPECT_FALSE(compile("x", bytes, 8001, Plain));
+    EXPECT_GE(expressionLayerVersion(), 3);
+}
+
+TEST(Corpus, equationsAndProgramsKeepTheirPromises)
+{
+    const QDir corpus(QStringLiteral(FUZZ_CORPUS "/fuzz_expression"));
+    const QStringList names = corpus.entryList(QDir::Files);
+    EXPECT_FALSE(names.isEmpty());
+    for (const QString &name : names) {
+        QFile file(corpus.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(fuzz::expression(file.readAll())) << name.toStdString();
+    }
+}
+
+} // namespace

@@ -1,0 +1,157 @@
+#include "variables/filter_design.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <numbers>
+
+namespace {
+
+using namespace variables;
+using enum FilterModel;
+using enum FilterType;
+
+constexpr double Pi = std::numbers::pi;
+
+double chebyshevPolynomial(int n, double x)
+{
+    return std::fabs(x) <= 1 ? std::cos(n * std::acos(x)) : std::cosh(n * std::acosh(std::fabs(x)));
+}
+
+// The frequency in units of the corner, once bent to the endless axis of an analogue filter.
+double bentFrequency(const FilterSettings &filter, double hertz)
+{
+    const auto bent = [](double f) { return std::tan(Pi * f / FilterSampleRate); };
+    switch (filter.type) {
+    case LowPass:
+        return bent(hertz) / bent(filter.upper);
+    case HighPass:
+        return bent(filter.lower) / bent(hertz);
+    case BandPass:
+        return (bent(hertz) * bent(hertz) - bent(filter.lower) * bent(filter.upper)) /
+               (bent(hertz) * (bent(filter.upper) - bent(filter.lower)));
+    }
+    return 0;
+}
+
+// The closed forms of the analogue magnitudes.
+double amplitude(const FilterSettings &filter, double hertz)
+{
+    const double x = bentFrequency(filter, hertz);
+    const int n = static_cast<int>(filter.order) / (filter.type == BandPass ? 2 : 1);
+    if (filter.model == Butterworth)
+        return 1 / std::sqrt(1 + std::pow(x, 2 * n));
+    const double ripple = std::pow(10, filter.ripple / 10) - 1;
+    return 1 / std::sqrt(1 + ripple * std::pow(chebyshevPolynomial(n, x), 2));
+}
+
+TEST(AdvancedFiltering, meetsTheClosedForms)
+{
+    const FilterSettings cases[] = {
+        {Butterworth, LowPass, -1, 10, 0, 2},   {Butterworth, LowPass, -1, 5, 0, 10},
+        {Butterworth, LowPass, -1, 45, 0, 6},   {Butterworth, LowPass, -1, 10, 0, 3},
+        {Butterworth, HighPass, 12, -1, 0, 4},  {Butterworth, HighPass, 40, -1, 0, 10},
+        {Butterworth, BandPass, 10, 20, 0, 2},  {Butterworth, BandPass, 10, 20, 0, 6},
+        {Butterworth, BandPass, 8, 30, 0, 8},   {Chebyshev, LowPass, -1, 20, 0.5, 2},
+        {Chebyshev, LowPass, -1, 20, 3, 8},     {Chebyshev, LowPass, -1, 20, 3, 5},
+        {Chebyshev, HighPass, 15, -1, 0.01, 6}, {Chebyshev, BandPass, 10, 15, 1, 4},
+        {Chebyshev, BandPass, 10, 40, 1, 10},   {Butterworth, BandPass, 1, 49, 0, 2}, // both poles real
+        {Chebyshev, BandPass, 5, 45, 0.2, 6},
+    };
+    for (const FilterSettings &filter : cases) {
+        SCOPED_TRACE(testing::Message()
+                     << static_cast<int>(filter.model) << " " << static_cast<int>(filter.type) << " "
+                     << filter.lower << " " << filter.upper << " " << filter.order);
+        const FilterResponse response = AdvancedFiltering(filter);
+        FilterResponse expected{};
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            expected[i] = amplitude(filter, i == 0     ? 5e-7
+                                            : i == 100 ? 50 - 5e-7
+                                                       : static_cast<double>(i) / 2);
+        const double largest = *std::max_element(expected.begin(), expected.end());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            EXPECT_NEAR(response[i], expected[i] / largest, 2e-6) << "at step " << i;
+        EXPECT_EQ(*std::max_element(response.begin(), response.end()), 1.0);
+        for (const auto &pole : designFilter(filter, FilterNyquist).poles)
+            EXPECT_LT(std::abs(pole), 1);
+    }
+}
+
+// A second-order Butterworth low pass at a quarter of the sample rate is known by heart.
+TEST(FilterPolynomials, areThoseOfTheHalfBandFilter)
+{
+    const FilterPolynomials half =
+        filterPolynomials(designFilter({Butterworth, LowPass, -1, 25, 0, 2}, FilterNyquist));
+    const std::vector<double> numerator{1, 2, 1};
+    const std::vector<double> denominator{1, 0, 3 - 2 * std::numbers::sqrt2};
+    for (std::size_t k = 0; k < 3; ++k) {
+        EXPECT_NEAR(half.numerator[k], numerator[k], 1e-8);
+        EXPECT_NEAR(half.denominator[k], denominator[k], 1e-8);
+    }
+}
+
+// What users can type without a message, and the recorder's poles then lie on the unit circle or at its
+// centre.
+TEST(AdvancedFiltering, staysFiniteAtTheEndsOfTheRange)
+{
+    for (const FilterModel model : {Butterworth, Chebyshev}) {
+        for (const FilterSettings &filter : {FilterSettings{model, LowPass, -1, 50, 1, 10},
+                                             {model, HighPass, 50, -1, 1, 10},
+                                             {model, BandPass, 25, 25, 1, 6},
+                                             {model, BandPass, 30, 10, 1, 8}}) {
+            for (const double value : AdvancedFiltering(filter))
+                EXPECT_TRUE(value >= 0 && value <= 1) << value;
+        }
+    }
+}
+
+TEST(FilterRules, bringWhatWasTypedWithinBounds)
+{
+    struct Case
+    {
+        int type;
+        const char *lower, *upper, *ripple, *order;
+        FilterSettings expected;
+    };
+    const Case cases[] = {
+        {0, "", "10", "1", "7", {Chebyshev, LowPass, 1, 10, 1, 8}},
+        {0, "", "10", "1", "1", {Chebyshev, LowPass, 1, 10, 1, 2}},
+        {0, "", "10", "1", "30", {Chebyshev, LowPass, 1, 10, 1, 10}},
+        {0, "", "10", "1", "5", {Chebyshev, LowPass, 1, 10, 1, 4}}, // half of it, 2.5, goes to the even 2
+        {0, "", "3", "1", "6", {Chebyshev, LowPass, 1, 3, 1, 2}},
+        {0, "2", "10", "1", "6", {Chebyshev, LowPass, 2, 10, 1, 6}}, // the lower one is not in use
+        {1, "4,9", "60", "0", "6", {Chebyshev, HighPass, 4.9, 50, 0.01, 2}},
+        {1, "60", "1", "9", "6", {Chebyshev, HighPass, 50, 1, 3, 6}},
+        {2, "4", "20", "0.5", "6", {Chebyshev, BandPass, 4, 20, 0.5, 2}},
+        {2, "5", "20", "0.5", "6", {Chebyshev, BandPass, 5, 20, 0.5, 6}},
+        {2, "0e999", "9e999", "x", "", {Chebyshev, BandPass, 1, 50, 0.01, 2}},
+    };
+    for (const Case &typed : cases) {
+        const FilterSettings filter = filterWithinBounds(
+            filterEntered({2, typed.type, typed.lower, typed.upper, typed.ripple, typed.order}));
+        EXPECT_EQ(filter, typed.expected) << typed.lower << " " << typed.upper << " " << typed.order;
+    }
+}
+
+TEST(FilterRecord, tellsTheTypeByTheFrequencyThatIsNotUsed)
+{
+    struct Case
+    {
+        FilterSettings filter;
+        qint32 design;
+        float low, high;
+    };
+    for (const Case &stored : {Case{{Butterworth, LowPass, 7, 20, 1, 4}, 4, -1, 20},
+                               Case{{Chebyshev, HighPass, 7, 20, 1, 4}, 5, 7, -1},
+                               Case{{None, BandPass, 7, 20, 1, 4}, 0, 7, 20}}) {
+        VariableRecord record;
+        storeFilter(stored.filter, record);
+        EXPECT_EQ(record.FilterDesign, stored.design);
+        EXPECT_EQ(record.FilterLowVal, stored.low);
+        EXPECT_EQ(record.FilterHighVal, stored.high);
+        EXPECT_EQ(record.FilterOrder, 4);
+        EXPECT_EQ(filterOf(record).model, stored.filter.model);
+        EXPECT_EQ(filterOf(record).type, stored.filter.type);
+    }
+}
+
+} // namespace

@@ -1,0 +1,39 @@
+#include "variables/number_parser.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace variables;
+
+TEST(NumberParser, readsBothDecimalMarksWhateverTheLocale)
+{
+    for (const char *text :
+         {"1,5", "1.5", "  1.5E0 ", "+1.5", "1.500", "1.5.9", "1.5E", "1.5Exyz", "15E-1", ".15e+1 km"})
+        EXPECT_DOUBLE_EQ(parseNumber(text), 1.5) << text;
+    for (const char *text : {"", "   ", "-", "km", "E5", "0.0"})
+        EXPECT_EQ(parseNumber(text), 0) << text;
+    const std::pair<const char *, double> cases[] = {
+        {"-0.05", -0.05},
+        {"0.001", 0.001},
+        {"10,0500", 10.05},
+        {"-,25", -0.25},
+        {"- 7.", -7},
+        {"1 000", 1000},
+        {"100000000000000000000000000000000000000099999", 1e39}}; // forty characters count
+    for (const auto &[text, expected] : cases)
+        EXPECT_DOUBLE_EQ(parseNumber(text), expected) << text;
+}
+
+TEST(NumberParser, fieldsTakeOnlyWhatNumbersAreMadeOf)
+{
+    for (const char key : {'0', '9', '.', ',', '-', '\b', '\r'})
+        EXPECT_TRUE(isNumericKey(QLatin1Char(key), ".")) << int{key};
+    for (const char key : {'e', 'E', '+', ' ', '\n', '\'', '/', '\0'})
+        EXPECT_FALSE(isNumericKey(QLatin1Char(key), ".")) << int{key};
+    const QChar arabicMark(0x066B);
+    EXPECT_FALSE(isNumericKey(arabicMark, ","));
+    EXPECT_TRUE(isNumericKey(arabicMark, QString(arabicMark)));
+}
+
+} // namespace

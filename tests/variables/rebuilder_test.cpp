@@ -1,0 +1,178 @@
+#include "variables/expression/compiler.h"
+#include "variables/expression/evaluator.h"
+#include "variables/expression/rebuilder.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace {
+
+using namespace variables::expression;
+
+constexpr int Owner = 42;
+const platform::NumberLocale Plain;
+const platform::NumberLocale Comma{",", ";"};
+
+QString rebuilt(const QByteArray &program, int variable = Owner, const platform::NumberLocale &locale = Plain)
+{
+    QString text("left over");
+    const bool done = rebuildEquation(program, variable, locale, text);
+    return done ? text : text.isEmpty() ? QString("failed") : QString("failed with a text");
+}
+
+TEST(Rebuilder, writesEquationsAsUsersTypeThem)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"x*2", "u * 2"},
+        {"-(x+1)", "0 - (u + 1)"},
+        {"-var_0007^2", "0 - (VAR_0007 ^ 2)"},
+        {"-5", "(-5)"},
+        {"1e10<=x and 0.00005!=2", "(1E+10 <= u) And (5E-05 != 2)"},
+        {"x*sin(x+1)-max(u,1.5,2x)", "(u * (Sin(u + 1))) - (Max(u,1.5,2 * u))"},
+        {"if(x>1,asinh(x),atan(-x))", "IF(u > 1,ASinh(u),Atan((-u)))"},
+    };
+    QByteArray program;
+    for (const auto &[equation, text] : cases) {
+        ASSERT_TRUE(compile(equation, program, Owner, Plain)) << equation;
+        EXPECT_EQ(rebuilt(program), text);
+    }
+    ASSERT_TRUE(compile("max(x,1.5)", program, Owner, Plain));
+    EXPECT_EQ(rebuilt(program, 41), "Max(VAR_0042,1.5)");
+    EXPECT_EQ(rebuilt(program, Owner, Comma), "Max(u;1,5)");
+}
+
+TEST(ByteProgram, anyBytesAreSafe)
+{
+    const struct
+    {
+        const char *hex;
+        RunStatus status;
+        const char *text;
+    } cases[] = {
+        {"", RunStatus::Invalid, "failed"},
+        {"01", RunStatus::Invalid, "failed"},
+        {"01140000", RunStatus::Invalid, "failed"}, // cut off
+        {"01122900", RunStatus::Invalid, "failed"}, // no end
+        {"0119", RunStatus::Ended, ""},
+        {"FF0E FF18 01122900 FF19", RunStatus::Ended, "u"},
+        {"010F 0119", RunStatus::Invalid, "failed"},
+        {"0113 0119", RunStatus::Invalid, "failed"},
+        {"0116 0119", RunStatus::Invalid, "failed"},
+        {"011A 0119", RunStatus::Invalid, "failed"},
+        {"01FF 0119", RunStatus::Invalid, "failed"},
+        {"63122900 0119", RunStatus::Ended, ""},
+        {"64122900 0119", RunStatus::Invalid, "failed"},
+        {"6306 0119", RunStatus::Invalid, "failed"},
+        {"01123F1F 0119", RunStatus::Ended, "VAR_8000"},
+        {"0112401F 0119", RunStatus::Invalid, "VAR_8001"},
+        {"01122900 011500FF 0119", RunStatus::Ended, "u"}, // a call without arguments does nothing
+        {"01150116 0119", RunStatus::Invalid, "failed"},
+        {"01150201 0119", RunStatus::Invalid, "failed"},
+        {"01150100 0119", RunStatus::Invalid, "failed"},
+        {"0115011C 0119", RunStatus::Invalid, "failed"},
+        {"6215031B 0119", RunStatus::Invalid, "failed"},
+        {"0115FF18 0119", RunStatus::Invalid, "failed"}, // more arguments than slots
+        {"62150216 0119", RunStatus::Invalid, "failed"}, // reads three slots all the same
+        {"01150216 0119", RunStatus::Ended, "IF(,,)"},
+        {"01140000807F 02140000803F 0106 0119", RunStatus::RunTimeError, "INF + 1"},
+    };
+    for (const auto &test : cases) {
+        const QByteArray program = QByteArray::fromHex(test.hex);
+        EXPECT_EQ(Standard(program).status, test.status) << test.hex;
+        EXPECT_EQ(rebuilt(program), test.text) << test.hex;
+    }
+}
+
+TEST(Rebuilder, textIsBounded)
+{
+    // Each slot, from the top down, becomes the sum of itself and all above: the text doubles each time.
+    QByteArray program;
+    for (int slot = 60; slot > 0; --slot)
+        program.append(static_cast<char>(slot))
+            .append('\x15')
+            .append(static_cast<char>(62 - slot))
+            .append('\x18');
+    program.append("\x01\x19");
+    EXPECT_EQ(Standard(program).status, RunStatus::Ended);
+    EXPECT_EQ(rebuilt(program), "failed");
+    // The lowest twelve make 55 * 2^11 - 1 characters, the lowest eleven 56 * 2^10 - 1.
+    EXPECT_EQ(rebuilt(program.sliced(4 * 48)), "failed");
+    EXPECT_EQ(rebuilt(program.sliced(4 * 49)).size(), 57'343);
+}
+
+// Random equations in all the ways that the grammar allows to write them.
+class EquationMaker
+{
+public:
+    explicit EquationMaker(unsigned seed) : m_random(seed) {}
+
+    QString expression(int depth)
+    {
+        switch (pick(depth > 0 ? 8 : 3)) {
+        case 0:
+            return number();
+        case 1:
+            return pick(3) == 0 ? number() + variable() : variable();
+        case 2:
+            return oneOf({"-", "- ", "+", "--"}) + (pick(2) ? variable() : "(" + expression(depth - 1) + ")");
+        case 3:
+            return call(depth - 1);
+        case 4:
+            return "( " + expression(depth - 1) + ")";
+        default:
+            return expression(depth - 1) + " " +
+                   oneOf({"<=", ">=", "!=", "==", "<", ">", "+", "-", "*", "/", "^", "And", "or", "XOR", "+",
+                          "*", "=", "<>"}) +
+                   " " + expression(depth - 1);
+        }
+    }
+
+private:
+    unsigned pick(unsigned count) { return static_cast<unsigned>(m_random()) % count; }
+    QString oneOf(std::initializer_list<const char *> texts)
+    {
+        return *(texts.begin() + pick(unsigned(texts.size())));
+    }
+    QString variable() { return oneOf({"x", "u", "var_0001", "VAR_0042", "var_4711", "Var_8000"}); }
+    QString number()
+    {
+        const float mantissa = static_cast<float>(pick(100'000)) / static_cast<float>(1 + pick(999));
+        return pick(2) ? QString::number(pick(10))
+                       : QString::number(std::ldexp(mantissa, static_cast<int>(pick(240)) - 160), 'g', 9);
+    }
+    QString call(int depth)
+    {
+        if (pick(3) == 0)
+            return "if(" + expression(depth) + "," + expression(depth) + "," + expression(depth) + ")";
+        QString text = oneOf({"sin(", "Cos(", "atan(", "ln(", "tanh (", "round(", "abs(", "sign(", "exp("});
+        if (pick(2)) {
+            text = oneOf({"sum(", "Avg(", "MIN(", "max("});
+            for (unsigned more = 1 + pick(3); more > 0; --more)
+                text += expression(depth) + ",";
+        }
+        return text + expression(depth) + ")";
+    }
+
+    std::mt19937 m_random;
+};
+
+TEST(Rebuilder, whatItWritesCompilesToTheSameBytes)
+{
+    EquationMaker maker(20);
+    int compiled = 0;
+    for (int i = 0; i < 20'000; ++i) {
+        const QString equation = maker.expression(4);
+        QByteArray program, again;
+        if (!compile(equation, program, Owner, Plain))
+            continue;
+        ++compiled;
+        const bool comma = i % 2 == 0;
+        const QString text = rebuilt(program, i % 3 ? Owner : 1, comma ? Comma : Plain);
+        ASSERT_TRUE(compile(text, again, i % 3 ? Owner : 1, comma ? Comma : Plain))
+            << qPrintable(equation) << " became " << qPrintable(text);
+        ASSERT_EQ(again.toHex(), program.toHex()) << qPrintable(equation) << " became " << qPrintable(text);
+    }
+    EXPECT_GT(compiled, 5'000);
+}
+
+} // namespace
