@@ -53,6 +53,7 @@ public:
     QByteArrayView get(qsizetype size);
 
     qsizetype remaining() const { return m_bytes.size() - m_position; }
+    QByteArrayView rest() const { return m_bytes.sliced(m_position); }
     bool failed() const { return m_failed; }
 
 private:

@@ -2,6 +2,8 @@
 
 #include "common/run_time_error.h"
 
+#include <QtGlobal>
+
 #include <cmath>
 #include <concepts>
 #include <limits>
@@ -15,9 +17,9 @@ inline double roundHalfEven(double value) { return std::nearbyint(value); }
 template <std::integral T>
 T toInteger(double value)
 {
+    static_assert(sizeof(T) <= 4, "the bounds of larger types are no exact doubles");
     const double rounded = roundHalfEven(value);
-    // The upper test is written so that NaN fails it and so that 2^31 and the like are not rounded into
-    // range.
+    // Written so that NaN fails both tests.
     if (!(rounded >= static_cast<double>(std::numeric_limits<T>::min())) ||
         !(rounded <= static_cast<double>(std::numeric_limits<T>::max())))
         throw RunTimeError(QStringLiteral("Overflow"));
@@ -45,7 +47,7 @@ inline int wholeDivide(double dividend, double divisor)
     const int whole = toInteger<int>(divisor);
     if (whole == 0)
         throw RunTimeError(QStringLiteral("Division by zero"));
-    return toInteger<int>(dividend) / whole;
+    return static_cast<int>(qint64{toInteger<int>(dividend)} / whole);
 }
 
 } // namespace common

@@ -62,7 +62,7 @@ double numberOf(const PropertyValue &value)
 
 float toSingle(double value)
 {
-    if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max()))
+    if (!(std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
         throw RunTimeError(QStringLiteral("Overflow"));
     return static_cast<float>(value);
 }

@@ -12,14 +12,6 @@ namespace {
 constexpr int LargestMeasure = 254;
 constexpr int LargestByte = 255;
 
-// The bytes of a row within a plane of coverage values.
-template <typename Values>
-auto rowOf(Values &coverage, int width, int row)
-{
-    return std::span(coverage).subspan(static_cast<std::size_t>(row) * static_cast<std::size_t>(width),
-                                       static_cast<std::size_t>(width));
-}
-
 struct CodedGlyphs
 {
     std::vector<qint32> offsets;    // of each glyph, within the data
@@ -33,7 +25,7 @@ bool encodeGlyph(const Glyph &glyph, CodedGlyphs &coded)
     coded.offsets.push_back(static_cast<qint32>(coded.data.size()));
     for (int row = 0; row < glyph.height; ++row) {
         const std::size_t start = coded.data.size();
-        encodeRow(rowOf(glyph.coverage, glyph.width, row), coded.data);
+        encodeRow(glyph.row(row), coded.data);
         const std::size_t length = coded.data.size() - start;
         if (length > LargestByte)
             return false;
@@ -49,9 +41,12 @@ void put(common::ByteWriter &file, const std::vector<quint8> &bytes)
 
 bool decodeGlyph(QByteArrayView data, qsizetype offset, Glyph &glyph)
 {
-    glyph.coverage.resize(static_cast<std::size_t>(glyph.width * glyph.height));
+    const int leastCodedRow = std::min(glyph.width, 2); // nothing is allocated that the data cannot fill
+    if (offset < 0 || data.size() - offset < qsizetype(glyph.height) * leastCodedRow)
+        return false;
+    glyph.coverage.resize(glyph.pixelCount());
     for (int row = 0; row < glyph.height; ++row) {
-        if (!decodeRow(data, offset, rowOf(glyph.coverage, glyph.width, row)))
+        if (!decodeRow(data, offset, glyph.row(row)))
             return false;
     }
     return true;
@@ -111,7 +106,7 @@ std::optional<RasterFont> readFontFile(QByteArrayView bytes, int glyphCount)
     if (file.failed() || file.remaining() != 0 || rowCount != rows)
         return std::nullopt;
     for (std::size_t i = 0; i < count; ++i) {
-        if (offsets[i] < 0 || !decodeGlyph(data, offsets[i], font.glyphs[i]))
+        if (!decodeGlyph(data, offsets[i], font.glyphs[i]))
             return std::nullopt;
     }
     return font;

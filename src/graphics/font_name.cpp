@@ -53,7 +53,7 @@ QString withoutSuffix(const QString &name)
 QString takeLastPart(QString &text)
 {
     const qsizetype blank = text.lastIndexOf(QLatin1Char(' '));
-    const QString part = text.mid(blank + 1);
+    QString part = text.mid(blank + 1);
     text.truncate(qMax<qsizetype>(blank, 0));
     return part;
 }

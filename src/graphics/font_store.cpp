@@ -9,7 +9,7 @@ namespace graphics {
 
 namespace {
 
-constexpr qsizetype LargestCache = 32 * 1024 * 1024; // bytes of decoded glyphs
+constexpr qsizetype LargestCache = 32LL * 1024 * 1024; // bytes of decoded glyphs
 
 } // namespace
 
@@ -61,7 +61,7 @@ std::shared_ptr<const TextFont> FontStore::open(const FontRequest &request)
     if (!font)
         throw common::RunTimeError(QStringLiteral("%1: not a font file").arg(standard));
     const qsizetype cost = font->bytes();
-    const auto shared = std::make_shared<const TextFont>(*std::move(font));
+    auto shared = std::make_shared<const TextFont>(*std::move(font));
     m_cache.insert(standard, new Entry{entry.standard, entry.extended, shared}, cost);
     return shared;
 }

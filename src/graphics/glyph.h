@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <span>
 #include <vector>
 
 namespace graphics {
@@ -15,7 +16,17 @@ struct Glyph
     std::vector<quint8> coverage; // width x height, top row first: 0 nothing, 255 full ink
 
     bool hasInk() const { return width > 0 && height > 0; }
+    std::size_t pixelCount() const
+    {
+        return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    }
+    std::span<const quint8> row(int y) const { return std::span(coverage).subspan(start(y), length()); }
+    std::span<quint8> row(int y) { return std::span(coverage).subspan(start(y), length()); }
     bool operator==(const Glyph &) const = default;
+
+private:
+    std::size_t length() const { return static_cast<std::size_t>(width); }
+    std::size_t start(int y) const { return static_cast<std::size_t>(y) * length(); }
 };
 
 // What one font file holds.

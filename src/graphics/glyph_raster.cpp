@@ -30,8 +30,8 @@ quint8 blockMean(int sum)
 void addRow(const quint8 *row, int length, std::vector<int> &sums)
 {
     const int whole = length / Enlargement;
-    for (int block = 0; block < whole; ++block) {
-        const quint8 *sample = row + block * Enlargement;
+    const quint8 *sample = row;
+    for (int block = 0; block < whole; ++block, sample += Enlargement) {
         sums[static_cast<std::size_t>(block)] += sample[0] + sample[1] + sample[2] + sample[3];
     }
     for (int x = whole * Enlargement; x < length; ++x)
@@ -77,7 +77,7 @@ Glyph DrawAAFont(const InputText &surface, const InkBox &box)
     glyph.width = reduced(box.width);
     glyph.height = reduced(box.height);
     glyph.top = reduced(surface.top + box.top);
-    glyph.coverage.reserve(static_cast<std::size_t>(glyph.width * glyph.height));
+    glyph.coverage.reserve(glyph.pixelCount());
     std::vector<int> sums(static_cast<std::size_t>(glyph.width));
     for (int y = 0; y < glyph.height; ++y) {
         std::fill(sums.begin(), sums.end(), 0);

@@ -69,8 +69,7 @@ void drawGlyph(const Glyph &glyph, int left, int top, const Ink &ink, const Pixe
     if (length <= 0)
         return;
     for (int row = std::max(0, -top); row < lastRow; ++row) {
-        const quint8 *coverage = glyph.coverage.data() + row * glyph.width + firstColumn;
-        mixRow(coverage, surface.row(top + row) + left + firstColumn, length, ink);
+        mixRow(glyph.row(row).data() + firstColumn, surface.row(top + row) + left + firstColumn, length, ink);
     }
 }
 

@@ -25,9 +25,9 @@ QString unitLine(const VariableRecord &record, const QString &unit)
     }
 }
 
-QString orNoneSet(const QString &caption, float value, const QString &unit, const QString &decimalMark)
+QString orNoneSet(const QString &caption, bool isSet, const QString &value)
 {
-    return caption + (value > 0 ? shortestText(value, decimalMark) + unit : QStringLiteral("None Set"));
+    return caption + (isSet ? value : QStringLiteral("None Set"));
 }
 
 const QString &unitLabel(const VariableRecord &record, const variables::UnitTable &units)
@@ -57,10 +57,11 @@ QString variableText(const VariableRecord &record)
 std::vector<VariableDetail> variableDetails(const VariableRecord &record, int index,
                                             const variables::UnitTable &units, const QString &decimalMark)
 {
-    const QString roc =
-        orNoneSet(QStringLiteral("Maximum rate of change: "), record.MaximumROC, {}, decimalMark);
-    const QString smoothing = orNoneSet(QStringLiteral("Smoothed over: "), record.SmoothingTime,
-                                        QStringLiteral(" seconds"), decimalMark);
+    const QString roc = orNoneSet(QStringLiteral("Maximum rate of change: "), record.MaximumROC > 0,
+                                  shortestText(record.MaximumROC, decimalMark));
+    const QString smoothing =
+        orNoneSet(QStringLiteral("Smoothed over: "), record.SmoothingTime != 0,
+                  shortestText(record.SmoothingTime, decimalMark) + QStringLiteral(" seconds"));
     std::vector<VariableDetail> details;
     if (index < FirstWithoutOptions && index != FirstRecord) {
         details.push_back({"AVAILABLETYPE",

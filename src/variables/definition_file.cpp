@@ -3,6 +3,8 @@
 #include "common/bytes.h"
 #include "common/code_page.h"
 
+#include <algorithm>
+
 namespace variables {
 
 namespace {
@@ -71,9 +73,25 @@ public:
         const auto length = m_reader.get<quint16>();
         text = length == 0 ? QString() : common::fromCodePage(m_reader.get(length));
     }
+    // Neighbours often allow the same long list of units; they then share one.
     void operator()(QStringList &list)
     {
-        list.clear();
+        const QByteArrayView rest = m_reader.rest();
+        if (!m_lastList.isEmpty() && rest.startsWith(m_lastList)) {
+            m_reader.get(m_lastList.size());
+            list = m_shared;
+            return;
+        }
+        readList(list);
+        m_lastList = rest.first(rest.size() - m_reader.remaining());
+        m_shared = list;
+    }
+
+    bool wellFormed() const { return m_wellFormed && !m_reader.failed(); }
+
+private:
+    void readList(QStringList &list)
+    {
         const auto dimensions = m_reader.get<quint16>();
         if (dimensions == 0)
             return;
@@ -91,11 +109,10 @@ public:
         }
     }
 
-    bool wellFormed() const { return m_wellFormed && !m_reader.failed(); }
-
-private:
     common::ByteReader &m_reader;
     bool m_wellFormed = true;
+    QByteArrayView m_lastList;
+    QStringList m_shared;
 };
 
 class FieldWriter
@@ -145,19 +162,60 @@ bool readUnits(common::ByteReader &reader, FieldReader &field, UnitTable &units)
     return true;
 }
 
-// A file of fewer rows leaves the other slots empty; one of more rows is refused.
-bool readVariables(common::ByteReader &reader, FieldReader &field, VariableTable &table)
+// A record and how many slots in a row hold it: thousands of slots are empty.
+struct Run
+{
+    VariableRecord record;
+    qint32 slotCount = 1;
+};
+
+// A row that repeats the bytes of the one before is not read again. More rows than slots are refused.
+bool readVariables(common::ByteReader &reader, FieldReader &field, std::vector<Run> &runs)
 {
     const auto bound = reader.get<qint32>();
     if (reader.failed() || bound < 0 || bound > LastIndex || bound >= reader.remaining() / SmallestVariable)
         return false;
-    table.resize(LastIndex + 1);
+    QByteArrayView row;
     for (qint32 i = 0; i <= bound; ++i) {
-        visitVariable(table[static_cast<std::size_t>(i)], field);
+        const QByteArrayView rest = reader.rest();
+        if (!row.isEmpty() && rest.startsWith(row)) {
+            reader.get(row.size());
+            ++runs.back().slotCount;
+            continue;
+        }
+        visitVariable(runs.emplace_back().record, field);
         if (!field.wellFormed())
             return false;
+        row = rest.first(rest.size() - reader.remaining());
     }
     return true;
+}
+
+// A file of fewer rows leaves the other slots empty.
+void fillTable(std::vector<Run> runs, VariableTable &table)
+{
+    table.resize(LastIndex + 1);
+    auto slot = table.begin();
+    for (Run &run : runs) {
+        slot = std::fill_n(slot, run.slotCount - 1, run.record);
+        *slot++ = std::move(run.record);
+    }
+    std::fill(slot, table.end(), VariableRecord());
+}
+
+// A record that repeats the one before takes its bytes.
+void writeVariables(common::ByteWriter &writer, FieldWriter &field, const VariableTable &table)
+{
+    QByteArray row;
+    for (auto record = table.begin(); record != table.end(); ++record) {
+        if (record != table.begin() && *record == *std::prev(record)) {
+            writer.put(QByteArrayView(row));
+            continue;
+        }
+        const qsizetype begin = writer.size();
+        visitVariable(*record, field);
+        row = writer.bytes().sliced(begin);
+    }
 }
 
 } // namespace
@@ -167,13 +225,13 @@ DefinitionStatus loadDefinitions(const QByteArray &bytes, Catalogue &catalogue)
     common::ByteReader reader(bytes);
     FieldReader field(reader);
     UnitTable units;
-    VariableTable table;
-    const bool complete = readUnits(reader, field, units) && readVariables(reader, field, table) &&
+    std::vector<Run> runs;
+    const bool complete = readUnits(reader, field, units) && readVariables(reader, field, runs) &&
                           reader.get<qint32>() == Trailer && !reader.failed();
     if (!complete)
         return DefinitionStatus::Corrupted;
     catalogue.units = std::move(units);
-    catalogue.live = std::move(table);
+    fillTable(std::move(runs), catalogue.live);
     SetupVariables(catalogue);
     return DefinitionStatus::Loaded;
 }
@@ -187,8 +245,7 @@ QByteArray saveDefinitions(const Catalogue &catalogue)
     for (const UnitRecord &unit : catalogue.units)
         visitUnit(unit, field);
     writer.put(static_cast<qint32>(catalogue.live.size()) - 1);
-    for (const VariableRecord &record : catalogue.live)
-        visitVariable(record, field);
+    writeVariables(writer, field, catalogue.live);
     writer.put(Trailer);
     return writer.bytes();
 }

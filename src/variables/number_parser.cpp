@@ -59,6 +59,8 @@ double parseNumber(const QString &text)
                                  }).split(QLatin1Char('.'));
     const double fraction = mantissa.size() > 1 ? fractionValue(mantissa[1]) : 0.0;
     const double value = (common::leadingNumber(mantissa[0]) + fraction) * multiplier;
+    if (std::isnan(value))
+        return 0.0; // nothing times a multiplier past all bounds
     return negative ? -value : value;
 }
 

@@ -3,6 +3,7 @@
 #include "reference.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace {
 
@@ -59,6 +60,12 @@ struct Stored
     QSize picture;
     QSize planes;
 };
+
+void PrintTo(const Stored &sizes, std::ostream *out)
+{
+    *out << sizes.picture.width() << 'x' << sizes.picture.height() << " as " << sizes.planes.width() << 'x'
+         << sizes.planes.height();
+}
 
 class StoredSizes : public testing::TestWithParam<Stored>
 {

@@ -9,8 +9,8 @@
 
 namespace test {
 
-// Prompts that answer from a script. A prompt that was not expected, or an answer that nobody asked for, fails
-// the test.
+// Prompts that answer from a script. A prompt that was not expected, or an answer that nobody asked for,
+// fails the test.
 class ScriptedPrompts final : public platform::Prompts
 {
 public:
@@ -25,11 +25,17 @@ public:
 
     void expectMessage(const QString &text) { m_script.push_back({Kind::Message, text, {}}); }
     void expectQuestion(const QString &text, bool yes) { m_script.push_back({Kind::Question, text, yes}); }
-    void expectChoice(std::optional<int> option) { m_script.push_back({Kind::Choice, {}, option.value_or(-1)}); }
+    void expectChoice(std::optional<int> option)
+    {
+        m_script.push_back({Kind::Choice, {}, option.value_or(-1)});
+    }
     void expectInput(const QString &answer) { m_script.push_back({Kind::Input, {}, answer}); }
     void expectOpenFile(const QString &path) { m_script.push_back({Kind::OpenFile, {}, path}); }
     void expectSaveFile(const QString &path) { m_script.push_back({Kind::SaveFile, {}, path}); }
-    void expectColour(std::optional<QRgb> rgb) { m_script.push_back({Kind::Colour, {}, rgb ? QVariant(*rgb) : QVariant()}); }
+    void expectColour(std::optional<QRgb> rgb)
+    {
+        m_script.push_back({Kind::Colour, {}, rgb ? QVariant(*rgb) : QVariant()});
+    }
 
     // All that was shown so far, in order.
     const std::vector<Shown> &shown() const { return m_shown; }

@@ -19,7 +19,10 @@ World::World()
     state.folders = {folder(root, QStringLiteral("program")), folder(root, QStringLiteral("data")),
                      folder(root, QStringLiteral("temporary")), folder(root, QStringLiteral("cache"))};
     QDir().mkpath(state.folders.GetAppDataFolder());
-    state.stamp = {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, QStringLiteral("driver"), QStringLiteral("pitwall")};
+    state.stamp = {[] {
+                       return QDateTime({2005, 12, 31}, {23, 59});
+                   },
+                   QStringLiteral("driver"), QStringLiteral("pitwall")};
     addVariable(2, QStringLiteral("Speed"));
     addVariable(3, QStringLiteral("Engine speed"));
     addVariable(10, QStringLiteral("Time stamp"));

@@ -1,0 +1,146 @@
+"""The road of one layout, as a user goes it: place, drag, bind, edit, save, quit, come back, save again.
+
+The status is 0 when the work is all in the files, 1 when it is not, 77 when the machine cannot show windows.
+"""
+
+import argparse
+import contextlib
+import datetime
+import os
+import pwd
+import socket
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+from typing import Iterator
+
+from desktop import Desktop, Failure, missing_tools
+from layout_reader import BarGraph, Damage, Gauge, Layout, Record
+from layout_reader import bar_graph, gauge, jpeg_size, read_layout, variable
+from tool import TITLE, Tool, expect
+
+SKIPPED = 77
+ALL_SECONDS = 160
+
+# Twips are 15 to the pixel, the grid's step is 80 of them and goes down to the dot before, the frame is 75 wide.
+BAR_SIZE = (130, 30)
+BAR_DRAG = (302, 361)  # 4530 and 5415 twips, on the grid 4480 and 5360, which is pixel 299 and 357
+BAR_PLACE = (299, 357)
+GAUGE_PLACE = (40, 60)
+GAUGE_SIZE = (140, 140)
+GRIP = (137, 137)  # within the gauge
+GRIP_TARGET = (233, 252)  # on the canvas; the height decides: 3780 twips, on the grid 3760, less 900 above
+GAUGE_RESIZED = (191, 191)  # 2860 twips
+
+SPEED = 2
+ALWAYS_STORED = 10
+RED_YUV = (82, 91, 240)
+
+# 4555, 5435 and 6355 twips of its inner edges, divided without rest.
+EXPECTED_BAR = BarGraph(303, 362, 423, 362, 255, 20, *RED_YUV, 0.0, 100.0, 0.0, 0, 0, 0.0, 0.0)
+# 2860 twips are 190 pixels, half of them less the frame's 5 are 90; so far behind the frame lies the pivot.
+EXPECTED_GAUGE = Gauge(135, 155, 90, 6, *RED_YUV, -90, 90, 20.0, 220.0, 120.0, SPEED, 0, 0.0, 0.0)
+
+
+def design(desktop: Desktop, tool: Tool) -> None:
+    tool.add_by_menu_bar("Bar graph", BAR_SIZE)
+    middle = (BAR_SIZE[0] // 2, BAR_SIZE[1] // 2)
+    target = (middle[0] + BAR_DRAG[0], middle[1] + BAR_DRAG[1])
+    tool.drag_on_canvas(middle, target, "the dragged bar graph", BAR_PLACE, BAR_SIZE)
+
+    tool.add_by_canvas_menu("Analogue Dial", GAUGE_PLACE, GAUGE_SIZE)
+    grip = (GAUGE_PLACE[0] + GRIP[0], GAUGE_PLACE[1] + GRIP[1])
+    tool.drag_on_canvas(grip, GRIP_TARGET, "the resized gauge", GAUGE_PLACE, GAUGE_RESIZED)
+    inside = (GAUGE_PLACE[0] + 50, GAUGE_PLACE[1] + 50)
+    tool.drag_variable("s", inside)
+
+    desktop.click(tool.on_screen(inside))
+    desktop.key("Return")
+    tool.await_dialog("Analogue Dial Properties")
+    desktop.key("alt+n")  # minimum, then maximum and default value
+    for text in ("20", "220", "120"):
+        desktop.type(text)
+        desktop.key("Tab")
+    desktop.key("alt+w")  # pointer width, then the two angles
+    for text in ("6", "-90", "90"):
+        desktop.type(text)
+        desktop.key("Tab")
+    desktop.key("alt+a")
+    tool.await_main_window()
+
+
+def check_layout(layout: Layout, begun: datetime.datetime) -> None:
+    if not begun.replace(second=0, microsecond=0) <= layout.saved <= datetime.datetime.now():
+        raise Failure(f"the file is stamped {layout.saved}")
+    expect("user in the header", layout.user, pwd.getpwuid(os.getuid()).pw_name[:19])
+    expect("computer in the header", layout.computer, socket.gethostname()[:19])
+    expect("bar graphs", [bar_graph(record) for record in layout.of(5)], [EXPECTED_BAR])
+    expect("gauges", [gauge(record) for record in layout.of(6)], [EXPECTED_GAUGE])
+    used = {entry.index for entry in map(variable, layout.of(7)) if entry.used}
+    expect("used variables", used, {SPEED, ALWAYS_STORED})
+    expect("size of the thumbnail", jpeg_size(layout.of(23)[0].payload), (120, 96))
+
+
+def controls_of(layout: Layout) -> list[Record]:
+    return layout.of(5) + layout.of(6)
+
+
+def go(desktop: Desktop, tool: Tool, home: Path) -> None:
+    begun = datetime.datetime.now()
+    tool.start()
+    tool.await_main_window()
+    design(desktop, tool)
+    tool.start_twice()
+
+    first = home / "DEFAULT.VGL"
+    tool.save_as(first)
+    tool.quit()
+    layout = read_layout(first)
+    check_layout(layout, begun)
+
+    tool.start()
+    tool.await_dialog(TITLE)  # load last layout?
+    desktop.key("alt+y")
+    tool.await_main_window()
+    second = home / "AGAIN.VGL"
+    tool.save_as(second)
+    tool.quit()
+    expect("controls after coming back", controls_of(read_layout(second)), controls_of(layout))
+
+
+@contextlib.contextmanager
+def stage(program: Path) -> Iterator[tuple[Desktop, Tool, Path]]:
+    with tempfile.TemporaryDirectory(prefix="road") as folder, contextlib.ExitStack() as ends:
+        screen, home = Path(folder, "screen"), Path(folder, "home")
+        screen.mkdir()
+        home.mkdir()
+        desktop = Desktop(screen, ALL_SECONDS)
+        ends.callback(desktop.close)
+        tool = Tool(desktop, program, home)
+        ends.callback(tool.kill)
+        yield desktop, tool, home
+
+
+def main() -> int:
+    arguments = argparse.ArgumentParser(description=__doc__)
+    arguments.add_argument("program", type=Path, help="the launcher")
+    arguments.add_argument("pictures", type=Path, help="folder for a picture of the screen when something fails")
+    options = arguments.parse_args()
+    if missing_tools():
+        print("skipped: not installed:", *missing_tools())
+        return SKIPPED
+    picture = options.pictures / "road_failed.png"
+    picture.unlink(missing_ok=True)
+    with stage(options.program.resolve()) as (desktop, tool, home):
+        try:
+            go(desktop, tool, home)
+        except (Failure, Damage, subprocess.TimeoutExpired) as failure:
+            desktop.screen.save(picture)
+            print(f"failed: {failure}\nthe screen at that moment: {picture}", file=sys.stderr)
+            return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
