@@ -78,7 +78,7 @@ bool OpenFace::setUp(const FontRequest &request)
                   FT_Select_Charmap(m_face, FT_ENCODING_MS_SYMBOL) == 0;
     m_size = request.size * static_cast<double>(DotsPerInch) / PointsPerInch;
     if (request.style.bold && (m_face->style_flags & FT_STYLE_FLAG_BOLD) == 0)
-        m_widening = common::toInteger<long>(m_size * Unit / StrokeDivisor);
+        m_widening = common::toInteger<int>(m_size * Unit / StrokeDivisor);
     m_isSlanted = request.style.italic && (m_face->style_flags & FT_STYLE_FLAG_ITALIC) == 0;
     const double em = m_face->units_per_EM;
     if (request.style.underline)

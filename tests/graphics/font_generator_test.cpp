@@ -51,7 +51,7 @@ double ink(const ReadFile &file)
 
 bool hasFullRow(const PlainGlyph &glyph, int row)
 {
-    const auto begin = glyph.pixels.begin() + row * glyph.width;
+    const auto begin = glyph.pixels.begin() + static_cast<std::ptrdiff_t>(row) * glyph.width;
     const auto full = std::count(begin, begin + glyph.width, 255);
     return full >= glyph.width - 2; // the ends of the bar may fall between two pixels
 }
@@ -82,7 +82,7 @@ TEST(FontRendering, standsOnOneBaseLineAtAnyScreensSize)
 {
     const ReadFile file = standardOf(font(24));
     const int capital = glyphOf(file, u'H').height;
-    EXPECT_NEAR(capital, 24 * 96 / 72 * 0.69, 1.5); // capitals of this face are 0.69 of its size
+    EXPECT_NEAR(capital, 32 * 0.69, 1.5); // 24 points are 32 pixels; capitals are 0.69 of that
     const int baseLine = glyphOf(file, u'H').top + capital;
     for (const char16_t letter : u"AEFLTXhiklmnrxz1247") {
         if (letter != 0) {

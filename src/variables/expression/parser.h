@@ -8,17 +8,19 @@ namespace variables::expression {
 
 // The grammar of equations, after StringBuilding. Blanks, tabs and line breaks may stand between all parts.
 //
-//   equation   = disjunction
+//   equation    = disjunction
 //   disjunction = conjunction { ("or" | "xor") conjunction }
 //   conjunction = comparison { "and" comparison }
 //   comparison  = sum { ("<=" | ">=" | "!=" | "<>" | "==" | "=" | "<" | ">") sum }
 //   sum         = product { ("+" | "-") product }
 //   product     = signed { ("*" | "/") signed }
 //   signed      = { "-" | "+" } power
-//   power       = value { "^" ( value | signed ) }
-//   value       = number | number variable-power | variable | function | "(" disjunction ")"
+//   power       = value { exponent }
+//   exponent    = "^" signed, where a signed without sign is a value
+//   value       = number | multiple | variable | function | "(" disjunction ")"
+//   multiple    = number variable { exponent }, nothing between number and variable
 //   function    = name "(" disjunction { "," disjunction } ")"
-//   variable    = "var_" and four digits
+//   variable    = "var_" and four digits, 0001 to 8000
 //   number      = digits with an optional "." and an optional exponent: 5, .5, 1.5, 5e-2, 1e+10
 //
 // All operators work from left to right, "^" too. A minus takes the whole power behind it: -2^2 is -4 and

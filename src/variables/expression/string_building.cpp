@@ -55,7 +55,7 @@ void replaceVehicleConstants(std::string &text)
     // "car_10" is taken by "car_1", which comes first: 00.
     static constexpr std::array Names{"car_1", "car_2", "car_3", "car_4", "car_5", "car_6",
                                       "car_7", "car_8", "car_9", "cda",   "roll",  "mass"};
-    if (text.find_first_of("cr") == std::string::npos && text.find('m') == std::string::npos)
+    if (text.find_first_of("crm") == std::string::npos)
         return;
     for (const char *name : Names)
         replaceAll(text, name, "0");
