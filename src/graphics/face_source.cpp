@@ -55,9 +55,8 @@ QByteArray fontFileOf(const QList<Table> &tables)
     return file;
 }
 
-} // namespace
-
-QByteArray installedFace(const QString &face, const FontStyle &style)
+// Not valid when the face is not there: the desktop's own idea of a replacement does not count.
+QRawFont installedFont(const QString &face, const FontStyle &style)
 {
     if (!qGuiApp || !QFontDatabase::hasFamily(face))
         return {};
@@ -65,10 +64,23 @@ QByteArray installedFace(const QString &face, const FontStyle &style)
     font.setBold(style.bold);
     font.setItalic(style.italic);
     font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::NoFontMerging | QFont::ForceOutline));
-    const QRawFont raw = QRawFont::fromFont(font);
+    const QRawFont found = QRawFont::fromFont(font);
+    return found.familyName().compare(face, Qt::CaseInsensitive) == 0 ? found : QRawFont();
+}
+
+} // namespace
+
+bool isInstalled(const QString &face)
+{
+    return isShippedFace(face) || !installedFont(face, {}).fontTable("head").isEmpty();
+}
+
+QByteArray installedFace(const QString &face, const FontStyle &style)
+{
+    const QRawFont font = installedFont(face, style);
     QList<Table> tables;
     for (const char *tag : OutlineTables) {
-        if (const QByteArray bytes = raw.fontTable(tag); !bytes.isEmpty())
+        if (const QByteArray bytes = font.fontTable(tag); !bytes.isEmpty())
             tables.append({tag, bytes});
     }
     return tables.isEmpty() ? QByteArray() : fontFileOf(tables);

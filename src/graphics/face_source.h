@@ -11,6 +11,9 @@ namespace graphics {
 // has no outlines, or there is no desktop to ask.
 QByteArray installedFace(const QString &face, const FontStyle &style);
 
+// Whether a face is drawn as it is: it is installed and has outlines, or it comes with the program.
+bool isInstalled(const QString &face);
+
 // The face that comes with the program and stands in for those that are not installed.
 inline const QString ShippedFace = QStringLiteral("Liberation Sans");
 

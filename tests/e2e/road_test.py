@@ -18,7 +18,7 @@ from typing import Iterator
 from desktop import Desktop, Failure, missing_tools
 from layout_reader import BarGraph, Damage, Gauge, Layout, Record
 from layout_reader import bar_graph, gauge, jpeg_size, read_layout, variable
-from tool import TITLE, Tool, expect
+from tool import Tool, expect
 
 SKIPPED = 77
 ALL_SECONDS = 160
@@ -100,9 +100,7 @@ def go(desktop: Desktop, tool: Tool, home: Path) -> None:
     check_layout(layout, begun)
 
     tool.start()
-    tool.await_dialog(TITLE)  # load last layout?
-    desktop.key("alt+y")
-    tool.await_main_window()
+    tool.load_last_layout()
     second = home / "AGAIN.VGL"
     tool.save_as(second)
     tool.quit()

@@ -170,6 +170,15 @@ class Tool:
         colours = self._desktop.screen.column(column)
         return [y for y, (red, _, blue) in enumerate(colours) if red < 100 and blue > 200]
 
+    def load_last_layout(self) -> None:
+        """Answers the question of a start with yes and waits until there is a gauge's red needle on the canvas."""
+        self.await_dialog(TITLE)
+        self._desktop.wait_for_rest()
+        before = self._desktop.screen.pixels_of(RED)
+        self._desktop.key("alt+y")
+        self._desktop.wait("the last layout", lambda: self._desktop.screen.pixels_of(RED) - before)
+        self.await_main_window()
+
     def save_as(self, path: Path) -> None:
         self._desktop.key("ctrl+s")
         self.await_dialog("Save Layout")

@@ -1,6 +1,7 @@
 #include "graphics/dialogs/frm_font_gen.h"
 
 #include "graphics/dialogs/font_preview.h"
+#include "graphics/face_source.h"
 #include "platform/desktop/busy.h"
 #include "platform/guards.h"
 
@@ -164,14 +165,22 @@ void frmFontGen::generate()
             QStringLiteral("Written: %1 and %2").arg(fontFileName(chosen), extendedFontFileName(chosen)));
         return;
     }
-    m_status->clear();
+    showReady();
+}
+
+void frmFontGen::showReady()
+{
+    const QString face = m_face->currentText();
     m_bar->setValue(0);
+    m_status->setText(
+        isInstalled(face)
+            ? QString()
+            : QStringLiteral("%1 is not installed; %2 stands in for it.").arg(face, ShippedFace));
 }
 
 void frmFontGen::refreshPreview()
 {
-    m_status->clear();
-    m_bar->setValue(0);
+    showReady();
     const FontRequest chosen = request();
     if (!isComplete(chosen)) {
         showPreview({}, QStringLiteral("No size is chosen."));

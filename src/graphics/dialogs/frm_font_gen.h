@@ -33,6 +33,7 @@ private:
     QWidget *buildButtons();
     QCheckBox *addStyle(QLayout &row, const char *name, const QString &caption);
     void generate();
+    void showReady(); // nothing made yet; whether another face stands in
     void refreshPreview();
     void showPreview(const QImage &picture, const QString &textInstead);
 

@@ -39,6 +39,7 @@ Busy::~Busy()
         return;
     m_window->removeEventFilter(this);
     m_window->setEnabled(m_wasEnabled);
+    m_window->activateWindow(); // the progress window had the keyboard
     if (m_focus)
         m_focus->setFocus();
     if (m_closeRequested)
