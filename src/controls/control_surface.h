@@ -20,6 +20,7 @@ public:
     virtual QList<OverlayControl *> controls() const = 0;
     // A fresh control at the family's next free index, hidden; null for a family that cannot be made.
     virtual OverlayControl *loadControl(ControlType family) = 0;
+    // Shows a control that was loaded; refresh() gives the see-through ones their view of the canvas below.
     virtual void showControl(OverlayControl &control) = 0;
     // The overlay as the recorder would draw it, without frames and grid.
     virtual QImage renderPreview() const = 0;

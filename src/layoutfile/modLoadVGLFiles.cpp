@@ -86,9 +86,9 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
 void writeTables(const LoadContext &context)
 {
     platform::reportFailures(context.prompts, [&] {
-        platform::replaceFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
-        platform::replaceFile(context.folders.MessagesFile(),
-                              recorder::writeMessageTable(context.settings.MessageTable));
+        platform::updateFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
+        platform::updateFile(context.folders.MessagesFile(),
+                             recorder::writeMessageTable(context.settings.MessageTable));
     });
 }
 

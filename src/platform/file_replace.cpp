@@ -92,6 +92,15 @@ void replaceFile(const QString &path, const QByteArray &bytes)
     flushFolder(path);
 }
 
+void updateFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    const bool same =
+        file.open(QIODevice::ReadOnly) && file.size() == bytes.size() && file.readAll() == bytes;
+    if (!same)
+        replaceFile(path, bytes);
+}
+
 QByteArray readFile(const QString &path)
 {
     QFile file(path);

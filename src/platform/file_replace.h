@@ -11,6 +11,9 @@ namespace platform {
 // the old file is whole.
 void replaceFile(const QString &path, const QByteArray &bytes);
 
+// The same, but a file that holds these bytes already is left alone.
+void updateFile(const QString &path, const QByteArray &bytes);
+
 // The whole file. Throws RunTimeError when it cannot be read.
 QByteArray readFile(const QString &path);
 

@@ -9,6 +9,7 @@
 #include "surface/variable_tree.h"
 
 #include <QScrollArea>
+#include <QSet>
 #include <QVBoxLayout>
 
 namespace surface {
@@ -95,11 +96,12 @@ void frmInterface::setCaption(const QString &name)
 
 QList<OverlayControl *> frmInterface::bottomToTop() const
 {
+    const QList<OverlayControl *> all = controls();
+    const QSet<const QObject *> ours(all.begin(), all.end()); // without those that wait for their deletion
     QList<OverlayControl *> stacked;
     for (QObject *child : m_canvas->children()) {
-        auto *control = qobject_cast<OverlayControl *>(child);
-        if (control && m_registry.controls().contains(control))
-            stacked.append(control);
+        if (ours.contains(child))
+            stacked.append(static_cast<OverlayControl *>(child));
     }
     return stacked;
 }
@@ -117,7 +119,6 @@ void frmInterface::showControl(OverlayControl &control)
 {
     control.setColour(m_backColour, m_labelColour);
     control.setMode(m_IsPlayMode ? OverlayControl::Mode::Play : OverlayControl::Mode::Design);
-    drawBack(control);
     control.show();
 }
 
@@ -140,6 +141,7 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
     place(control->box().Left, control->box().Top); // the initial properties may have sized it
     control->updatePosition();
     showControl(*control);
+    drawBack(*control);
     control->setFocus();
     m_changed = true;
 }
@@ -215,8 +217,11 @@ QImage frmInterface::captureBelow(const OverlayControl &control)
 
 void frmInterface::RefreshBackground()
 {
-    for (OverlayControl *control : bottomToTop())
-        drawBack(*control);
+    const QList<OverlayControl *> stacked = bottomToTop();
+    for (OverlayControl *control : stacked) {
+        if (control->isSeeThrough())
+            control->setBackImage(pictureBelow(*control, m_canvas->backdrop(), stacked));
+    }
 }
 
 QImage frmInterface::renderPreview() const { return overlayPicture(m_canvas->picture(), bottomToTop()); }
