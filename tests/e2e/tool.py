@@ -13,6 +13,7 @@ TITLE = "MORVEL Configuration Tool"
 MAIN_WINDOW = re.compile(re.escape(TITLE) + r" - Version \d+\.\d+\.\d+")
 ALREADY_RUNNING = 3
 RED = (255, 0, 0)  # frame of the selected control
+LOADED_RED = (255, 1, 3)  # what red becomes on its way through a file's Y, U and V
 DRAG_PICTURE = 28  # side of what hangs at the pointer, pixels right of it and below
 
 # The Add Control menu from top to bottom, whether they can be chosen or not.
@@ -171,12 +172,10 @@ class Tool:
         return [y for y, (red, _, blue) in enumerate(colours) if red < 100 and blue > 200]
 
     def load_last_layout(self) -> None:
-        """Answers the question of a start with yes and waits until there is a gauge's red needle on the canvas."""
+        """Answers the question of a start with yes and waits for a gauge's red needle on the canvas."""
         self.await_dialog(TITLE)
-        self._desktop.wait_for_rest()
-        before = self._desktop.screen.pixels_of(RED)
         self._desktop.key("alt+y")
-        self._desktop.wait("the last layout", lambda: self._desktop.screen.pixels_of(RED) - before)
+        self._desktop.wait("the last layout", lambda: self._desktop.screen.pixels_of(LOADED_RED))
         self.await_main_window()
 
     def save_as(self, path: Path) -> None:
