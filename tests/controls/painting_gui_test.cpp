@@ -65,6 +65,9 @@ TEST(GaugePainting, TheCanvasAndTheControlsBelowAreSeenBesideAWideNeedle)
     EXPECT_EQ(seen(gauge, {65 + 8, 20}), Blue);
     EXPECT_EQ(seen(gauge, {40, 20}), Red);
     EXPECT_EQ(seen(gauge, {40, 100}), test::PalGround);
+    w.addBar(310, 300).write("newDefaultVal", 100); // above it
+    w.design().refresh();
+    EXPECT_EQ(seen(gauge, {40, 110}), test::PalGround);
     gauge.write("newMaxAngle", gauge.get().curMinAngle); // an empty scale has no needle
     EXPECT_EQ(seen(gauge, {65 + 8, 20}), Red);
     test::drag(gauge, {70, 110}, {{0, 40}});

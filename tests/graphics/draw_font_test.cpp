@@ -3,12 +3,9 @@
 #include "graphics/modDrawFont.h"
 
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace graphics {
-
-void PrintTo(const TextExtent &extent, std::ostream *out) { *out << extent.width << " x " << extent.height; }
 
 namespace {
 
@@ -23,15 +20,15 @@ int placeOf(char16_t character) { return lookUpGlyph(character).index; }
 // strip of all coverages from 1 to 254.
 TextFont font()
 {
-    PlainGlyph strip{254, 1, 0, {}, 0};
+    PlainGlyph strip{254, 1, 0, {}};
     for (int value = 1; value < 255; ++value)
         strip.pixels.push_back(value);
     const QByteArray standard = test::fontFile(StandardGlyphs, LineHeight,
-                                               {{placeOf(u'A'), {2, 2, 1, {255, 0, 128, 255}, 0}},
+                                               {{placeOf(u'A'), {2, 2, 1, {255, 0, 128, 255}}},
                                                 {placeOf(u'B'), strip},
-                                                {placeOf(u'j'), {5, 1, 0, {}, 0}}});
+                                                {placeOf(u'j'), {5, 1, 0, {0, 0, 0, 0, 0}}}});
     const QByteArray extended =
-        test::fontFile(ExtendedGlyphs, LineHeight + 3, {{placeOf(u'!'), {1, 1, 4, {255}, 0}}});
+        test::fontFile(ExtendedGlyphs, LineHeight + 3, {{placeOf(u'!'), {1, 1, 4, {255}}}});
     return *TextFont::fromFiles(standard, extended);
 }
 

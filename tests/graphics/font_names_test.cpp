@@ -5,18 +5,6 @@
 
 namespace graphics {
 
-void PrintTo(const FontRequest &request, std::ostream *out)
-{
-    *out << '"' << request.face.toStdString() << "\" " << request.size << " points, style "
-         << request.style.bold << request.style.italic << request.style.strikethrough
-         << request.style.underline;
-}
-
-void PrintTo(const GlyphPlace &place, std::ostream *out)
-{
-    *out << (place.extended ? "extended " : "standard ") << place.index;
-}
-
 namespace {
 
 QString text(const char *latin) { return QString::fromLatin1(latin); }
@@ -27,33 +15,31 @@ TEST(FontName, isTakenApartIntoWhatItWasBuiltFrom)
         {{text("Arial"), 12, {}}, "Arial  12.qlg"},
         {{text("Arial"), 12, {true}}, "Arial B 12.qlg"},
         {{text("QL Sans Serif"), 9, {true, true, true, true}}, "QL Sans Serif BISU 9.qlg"},
-        {{text("MS Sans Serif"), 144, {false, true, false, true}}, "MS Sans Serif IU 144.qlg"},
         {{text("Gill B"), 8, {}}, "Gill B  8.qlg"},
         {{text("Slab 3"), 10, {false, false, true}}, "Slab 3 S 10.qlg"},
     };
     for (const auto &[request, name] : cases) {
-        EXPECT_EQ(fontFileName(request).toStdString(), name);
-        EXPECT_EQ(extendedFontFileName(request).toStdString(), std::string("Ext_") + name);
-        EXPECT_EQ(splitFontFileName(text(name)), request);
+        EXPECT_EQ(fontFileName(request), text(name));
+        EXPECT_EQ(extendedFontFileName(request), text("Ext_") + text(name));
+        EXPECT_EQ(splitFontFileName(text(name)), request) << name;
     }
 }
 
 TEST(FontName, neverLeadsOutOfItsFolder)
 {
-    for (const char *face : {"../Arial", "a/b", "a\\b", ".hidden", "C:Arial", ""}) {
-        EXPECT_EQ(fontFileName({text(face), 10, {}}).toStdString(), "QL Sans Serif  10.qlg") << face;
-        EXPECT_EQ(splitFontFileName(text(face) + text(" B 10.qlg")).face.toStdString(), "QL Sans Serif")
-            << face;
+    for (const QString &face : {text("../Arial"), text("a/b"), text("a\\b"), text(".hidden"), text("C:Arial"),
+                                QString(), text("Ari") + QChar(0) + text("al")}) {
+        EXPECT_EQ(fontFileName({face, 10, {}}), text("QL Sans Serif  10.qlg")) << face.toStdString();
+        if (!face.contains(QChar(0))) {
+            EXPECT_EQ(splitFontFileName(face + text(" B 10.qlg")).face, DefaultFace) << face.toStdString();
+        }
     }
-    EXPECT_EQ(fontFileName({text("Ari") + QChar(0) + text("al"), 10, {}}).toStdString(),
-              "QL Sans Serif  10.qlg");
 }
 
 TEST(FontName, isReadAlsoWhenItsFieldHasCutItOff)
 {
     const std::pair<QString, FontRequest> cases[] = {
         {text("Times New Roman Book BI 12.ql"), {text("Times New Roman Book"), 12, {true, true}}},
-        {text("Times New Roman Bold BI 12."), {text("Times New Roman Bold"), 12, {true, true}}},
         {text("Times New Roman Booklet BI 12"), {text("Times New Roman Booklet"), 12, {true, true}}},
         {text("Times New Roman Condensed  "), {text("Times New Roman Condensed"), 0, {}}},
         {text("Times New Roman Condensed Sli"), {text("Times New Roman Condensed Sli"), 0, {}}},
@@ -61,7 +47,6 @@ TEST(FontName, isReadAlsoWhenItsFieldHasCutItOff)
         {text("Arial X 12.qlg"), {text("Arial X"), 12, {}}},
         {text("12.qlg"), {text("QL Sans Serif"), 12, {}}},
         {text("Arial  99999999.qlg"), {text("Arial  99999999"), 0, {}}},
-        {text("Arial  -3.qlg"), {text("Arial  -3"), 0, {}}},
         {{}, {text("QL Sans Serif"), 0, {}}},
     };
     for (const auto &[name, request] : cases)
@@ -71,12 +56,10 @@ TEST(FontName, isReadAlsoWhenItsFieldHasCutItOff)
 TEST(GlyphLookUp, findsTheEndsOfEveryStretchAndNothingElse)
 {
     const std::tuple<char16_t, int, bool> cases[] = {
-        {u'(', 0, false},   {u'9', 17, false},      {u'A', 18, false},      {u'[', 44, false},
-        {u']', 45, false},  {u'a', 46, false},      {u'z', 71, false},      {u':', 72, false},
-        {u'&', 73, false},  {u'<', 74, false},      {u'>', 75, false},      {u'!', 0, true},
-        {u'=', 2, true},    {u'%', 4, true},        {u'\u00FC', 6, true},   {u'^', 39, true},
-        {u'@', 38, true},   {u'\u00C6', 23, true},  {u' ', -1, false},      {u'~', -1, false},
-        {u'\\', -1, false}, {u'\u20AC', -1, false}, {u'\u0141', -1, false}, {u'\0', -1, false},
+        {u'(', 0, false},  {u'9', 17, false}, {u'A', 18, false}, {u'[', 44, false}, {u']', 45, false},
+        {u'a', 46, false}, {u'z', 71, false}, {u':', 72, false}, {u'&', 73, false}, {u'<', 74, false},
+        {u'>', 75, false}, {u'!', 0, true},   {u'%', 4, true},   {u'ü', 6, true},   {u'Æ', 23, true},
+        {u'^', 39, true},  {u' ', -1, false}, {u'~', -1, false}, {u'€', -1, false}, {u'\u0141', -1, false},
     };
     for (const auto &[character, index, extended] : cases)
         EXPECT_EQ(lookUpGlyph(character), (GlyphPlace{index, extended})) << static_cast<int>(character);

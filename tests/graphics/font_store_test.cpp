@@ -64,7 +64,7 @@ TEST(FontStore, keepsADecodedFontUntilOneOfItsFilesChanges)
     EXPECT_EQ(world.store.open(world.request), first);
 
     world.write(world.store.extendedPath(world.request),
-                test::fontFile(ExtendedGlyphs, 3, {{0, {1, 1, 0, {7}, 0}}}));
+                test::fontFile(ExtendedGlyphs, 3, {{0, {1, 1, 0, {7}}}}));
     const auto second = world.store.open(world.request);
     EXPECT_NE(second, first);
     EXPECT_EQ(second->glyph(u'!')->coverage, std::vector<quint8>{7});
