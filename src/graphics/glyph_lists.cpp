@@ -30,7 +30,8 @@ constexpr std::array<std::uint8_t, ExtendedGlyphs> Extended = {
 // Places of all characters that have one byte, the only ones in the lists.
 constexpr auto Places = [] {
     std::array<GlyphPlace, 256> places{};
-    places.fill(GlyphPlace{}); // GCC 12 leaves elements at 0 that only the braces initialise when it optimises
+    places.fill(
+        GlyphPlace{}); // GCC 12 leaves elements at 0 that only the braces initialise when it optimises
     for (std::size_t i = 0; i < Standard.size(); ++i)
         places[Standard[i]] = {static_cast<int>(i), false};
     for (std::size_t i = 0; i < Extended.size(); ++i)
