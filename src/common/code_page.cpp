@@ -36,14 +36,16 @@ QString fromCodePage(QByteArrayView bytes)
 
 QByteArray toCodePage(const QString &text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar unit = text[i];
-        if (unit.isLowSurrogate() && i > 0 && text[i - 1].isHighSurrogate())
-            continue; // one "?" for each character outside the page
-        bytes.append(toByte(unit.unicode()));
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *byte = bytes.data();
+    QChar before;
+    for (const QChar unit : text) {
+        // One "?" for each character outside the page, though it may take two units.
+        if (!(unit.isLowSurrogate() && before.isHighSurrogate()))
+            *byte++ = toByte(unit.unicode());
+        before = unit;
     }
+    bytes.truncate(byte - bytes.constData());
     return bytes;
 }
 

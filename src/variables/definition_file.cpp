@@ -13,7 +13,7 @@ constexpr qint32 Trailer = 7576;
 constexpr quint16 OneDimension = 1;
 constexpr qint16 FileTrue = -1;
 // The fewest bytes that a row can take in a file: what a bound may promise is measured against what is left.
-constexpr qsizetype SmallestUnit = 4 * 2;
+constexpr qsizetype SmallestUnit = 8;
 constexpr qsizetype SmallestVariable = 73;
 constexpr qsizetype SmallestText = 2;
 

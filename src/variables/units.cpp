@@ -57,7 +57,7 @@ QString numberText(double value, int digits)
 {
     if (std::fabs(value) <= Negligible)
         return QStringLiteral("0");
-    const QString plain = plainText(value);
+    QString plain = plainText(value);
     if (plain.size() <= digits || !std::isfinite(value))
         return plain;
     const QString text = shortened(std::fabs(value), digits);
