@@ -38,8 +38,7 @@ Background backgroundOf(VideoStandard standard)
 
 void frmInterface::load()
 {
-    loadBackground(VideoStandard::Pal);
-    loadBackground(VideoStandard::Ntsc);
+    loadBackground(VideoType()); // a change of standard loads the other one
     const SettingsFile file(m_context.folders.ConfigFile());
     m_grid = {keys::GridSize.read(file), keys::ShowGrid.read(file) == 1, keys::SnapGrid.read(file) == 1};
     m_panels->restore(file);

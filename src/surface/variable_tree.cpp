@@ -19,14 +19,15 @@ class VariableIcons
 public:
     const QIcon &of(const char *art)
     {
-        const QString name = QLatin1String(art);
-        if (!m_icons.contains(name))
-            m_icons.insert(name, QIcon(QStringLiteral(":/variables/%1.png").arg(name)));
-        return m_icons[name];
+        const QLatin1String name(art);
+        QIcon &icon = m_icons[name];
+        if (icon.isNull())
+            icon = QIcon(QStringLiteral(":/variables/%1.png").arg(name));
+        return icon;
     }
 
 private:
-    QHash<QString, QIcon> m_icons;
+    QHash<QLatin1String, QIcon> m_icons;
 };
 
 namespace {
@@ -156,7 +157,8 @@ void VariableTree::RegenerateVariableTree()
     }
     m_tree->clear();
     m_tree->addTopLevelItems(groups);
-    openBranches(open);
+    if (!open.isEmpty()) // new items start closed
+        openBranches(open);
     if (!m_search->text().isEmpty())
         filter(m_search->text());
 }
