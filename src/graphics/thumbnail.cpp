@@ -1,7 +1,5 @@
 #include "graphics/thumbnail.h"
 
-#include "common/run_time_error.h"
-
 #include <QBuffer>
 #include <QImageWriter>
 
@@ -14,7 +12,7 @@ constexpr int Quality = 90;
 
 } // namespace
 
-QByteArray thumbnailJpeg(const QImage &surface)
+Thumbnail thumbnailOf(const QImage &surface)
 {
     const QImage small = surface.scaled(surface.width() / Reduction, surface.height() / Reduction,
                                         Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -22,8 +20,8 @@ QByteArray thumbnailJpeg(const QImage &surface)
     QImageWriter writer(&buffer, "jpeg");
     writer.setQuality(Quality);
     if (!writer.write(small.convertToFormat(QImage::Format_RGB32)))
-        throw common::RunTimeError(writer.errorString());
-    return buffer.data();
+        return {{}, writer.errorString()};
+    return {buffer.data(), {}};
 }
 
 } // namespace graphics

@@ -5,7 +5,14 @@
 
 namespace graphics {
 
-// The picture of a layout at one sixth of video size, as JPEG. Throws RunTimeError when it cannot be encoded.
-QByteArray thumbnailJpeg(const QImage &surface);
+// A picture as JPEG, or what kept it from being encoded.
+struct Thumbnail
+{
+    QByteArray jpeg;
+    QString fault;
+};
+
+// The picture of a layout at one sixth of video size.
+Thumbnail thumbnailOf(const QImage &surface);
 
 } // namespace graphics

@@ -157,21 +157,26 @@ void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &sett
     gatherIcon(groups, settings.icon);
 }
 
-void gatherThumbnail(RecordGroups &groups, const controls::ControlSurface &surface)
+// A layout without its thumbnail is still a layout.
+void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &context)
 {
-    // A layout without its thumbnail is still a layout.
-    platform::skipFailures(
-        [&] { groups.add(ThumbnailRecord{Bulk{graphics::thumbnailJpeg(surface.renderPreview())}}); });
+    platform::skipFailures([&] {
+        const graphics::Thumbnail made = graphics::thumbnailOf(context.surface.renderPreview());
+        if (made.fault.isEmpty())
+            groups.add(ThumbnailRecord{Bulk{made.jpeg}});
+        else if (kind != SaveKind::Backup)
+            context.prompts.message(platform::Icon::None, platform::ProductTitle, made.fault);
+    });
 }
 
 // False when two cameras clash.
 bool writeLayout(const QString &path, SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
+    Gathering save{{}, {}, context.screen};
+    gatherThumbnail(save.groups, kind, context);
     ProgressScope progress(context.progress, kind == SaveKind::Command
                                                  ? QStringLiteral("Saving configuration.....")
                                                  : QStringLiteral("Saving workspace....."));
-    Gathering save{{}, {}, context.screen};
-    gatherThumbnail(save.groups, context.surface);
     gatherControls(save, controls, progress);
     if (kind != SaveKind::Backup && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return false;

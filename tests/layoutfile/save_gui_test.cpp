@@ -44,7 +44,9 @@ protected:
 class PlainSurface final : public controls::ControlSurface
 {
 public:
-    explicit PlainSurface(surface::frmInterface &host) : m_host(host) {}
+    explicit PlainSurface(surface::frmInterface &host) : preview(host.renderPreview()), m_host(host) {}
+
+    QImage preview;
 
     void add(ControlType type)
     {
@@ -64,7 +66,7 @@ public:
     }
     OverlayControl *loadControl(ControlType) override { return nullptr; }
     void showControl(OverlayControl &) override {}
-    QImage renderPreview() const override { return m_host.renderPreview(); }
+    QImage renderPreview() const override { return preview; }
     void setVideoStandard(VideoStandard) override {}
     void refresh() override {}
 
@@ -109,6 +111,19 @@ TEST(Save, checksSpeakInTheirOrderAndOnlyForTheCommand)
         EXPECT_EQ(platform::readFile(path) != "old", test.result == SaveResult::Written)
             << test.message.toStdString();
         EXPECT_EQ(test::save(d, {}, surface, test.kind), SaveResult::NothingToDo);
+    }
+}
+
+TEST(Save, goesOnWithoutAThumbnailThatCannotBeMade)
+{
+    DesignWindow d;
+    PlainSurface surface(d.design());
+    surface.add(ControlType::BarGraph);
+    surface.preview = QImage();
+    for (const SaveKind kind : {SaveKind::Command, SaveKind::Workspace, SaveKind::Backup}) {
+        if (kind != SaveKind::Backup)
+            d.world.prompts.expectMessage({}); // the encoder's words
+        EXPECT_EQ(test::save(d, test::pathIn(d, "saved.VGL"), surface, kind), SaveResult::Written);
     }
 }
 
