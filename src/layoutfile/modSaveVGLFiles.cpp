@@ -133,7 +133,7 @@ void gatherIcon(RecordGroups &groups, const recorder::SpecialIcon &icon)
 {
     if (icon.enabled)
         groups.add(
-            SpecialIconRecord{1, icon.width, icon.height, icon.top, icon.left, icon.alpha, {icon.planes}});
+            SpecialIconRecord{1, icon.width, icon.height, icon.top, icon.left, icon.alpha, icon.planes});
 }
 
 void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &settings, ProgressScope &progress)

@@ -29,6 +29,7 @@ public:
         for (const float value : b)
             m_out.put(value);
     }
+    void planes(const QByteArray &bytes, qint16, qint16) { m_out.put(QByteArrayView(bytes)); }
 
 private:
     template <common::Scalar T>
@@ -48,20 +49,9 @@ private:
         m_out.put(QByteArrayView(field.text.leftJustified(N, ' ', true)));
     }
     void put(const Bulk &bulk) { m_out.put(QByteArrayView(bulk.bytes)); }
-    void put(const IconPlanes &planes) { m_out.put(QByteArrayView(planes.bytes)); }
 
     ByteWriter &m_out;
 };
-
-// A special icon's stated size: its fields and twice its Y plane.
-constexpr qint32 IconFields = 10;
-constexpr qsizetype iconYPlane(qsizetype stated) { return (stated - IconFields) / 2; }
-// Behind Y stand U and V, a quarter of it each; the inverse serves planes whose Y is no multiple of four too.
-constexpr qsizetype iconPlanes(qsizetype y) { return y + 2 * (y / 4); }
-constexpr qsizetype iconYPlaneOf(qsizetype planes)
-{
-    return planes / 6 * 4 + std::min<qsizetype>(planes % 6, 3);
-}
 
 class FieldReader
 {
@@ -82,6 +72,12 @@ public:
                 value = m_in.get<float>();
         }
     }
+    // No length stands before them: it follows from the picture's size.
+    void planes(QByteArray &bytes, qint16 width, qint16 height)
+    {
+        const qsizetype luma = std::min(width, height) < 0 ? -1 : qsizetype{width} * height;
+        bytes = m_in.get(luma + 2 * (luma / 4)).toByteArray();
+    }
 
 private:
     template <common::Scalar T>
@@ -101,7 +97,6 @@ private:
         field.text = m_in.get(N).toByteArray();
     }
     void get(Bulk &bulk) { bulk.bytes = m_in.get(m_size).toByteArray(); }
-    void get(IconPlanes &planes) { planes.bytes = m_in.get(iconPlanes(iconYPlane(m_size))).toByteArray(); }
 
     ByteReader &m_in;
     qint32 m_size;
@@ -151,10 +146,10 @@ qint32 statedSize(const RecordBody &body, qsizetype payloadSize)
 {
     // Half of the true payload: deliberate, and harmless since no record follows this group.
     constexpr qint32 CustomDialStatedSize = 83;
-    if (const auto *icon = std::get_if<SpecialIconRecord>(&body)) {
-        // Twice the Y plane where one and a half times is stored: deliberate.
-        return static_cast<qint32>(IconFields + 2 * iconYPlaneOf(icon->planes.bytes.size()));
-    }
+    constexpr qint32 IconFields = 10;
+    // Twice the Y plane where one and a half times is stored: deliberate.
+    if (const auto *icon = std::get_if<SpecialIconRecord>(&body))
+        return IconFields + 2 * icon->width * icon->height;
     if (std::holds_alternative<CustomDialRecord>(body))
         return CustomDialStatedSize;
     return static_cast<qint32>(payloadSize);

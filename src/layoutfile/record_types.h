@@ -74,14 +74,6 @@ struct Bulk
     bool operator==(const Bulk &) const = default;
 };
 
-// Y, U and V of a special icon: as many bytes as its stated size means, one and a half times its Y plane.
-struct IconPlanes
-{
-    QByteArray bytes;
-
-    bool operator==(const IconPlanes &) const = default;
-};
-
 struct VideoSourceRecord
 {
     static constexpr RecordType Type = RecordType::VideoSource;
@@ -367,11 +359,12 @@ struct SpecialIconRecord
     quint8 entry = 0; // from 1
     qint16 width = 0, height = 0, top = 0, left = 0;
     quint8 alpha = 0;
-    IconPlanes planes;
+    QByteArray planes; // Y of width x height, U and V of a quarter of that each
 
     static void visit(auto &r, auto &&field)
     {
-        field(r.entry, r.width, r.height, r.top, r.left, r.alpha, r.planes);
+        field(r.entry, r.width, r.height, r.top, r.left, r.alpha);
+        field.planes(r.planes, r.width, r.height);
     }
 };
 

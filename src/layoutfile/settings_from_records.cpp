@@ -82,7 +82,7 @@ public:
     void operator()(const SpecialIconRecord &r)
     {
         if (r.entry == 1)
-            m_settings.icon = {true, r.width, r.height, r.top, r.left, r.alpha, r.planes.bytes};
+            m_settings.icon = {true, r.width, r.height, r.top, r.left, r.alpha, r.planes};
     }
 
 private:

@@ -164,7 +164,7 @@ TEST(RecordBytes, theSumOfAnIconReachesBackToTheFilesFirstByteAtMost)
     // 256 luma bytes: the stated 522 + 12 bytes are more than header, frame and payload have.
     const QByteArray planes = QByteArray(256, '\xF0') + QByteArray(128, '\x80');
     RecordGroups groups;
-    groups.add(SpecialIconRecord{1, 32, 8, 0, 0, 255, {planes}});
+    groups.add(SpecialIconRecord{1, 32, 8, 0, 0, 255, planes});
     const QByteArray expected =
         test::withRecord(test::header(), 27, 522, 1, bytes("01 2000 0800 0000 0000 FF") + planes);
     EXPECT_EQ(assembleLayout(groups, test::stamp("driver", "pitwall")).toHex().toStdString(),
