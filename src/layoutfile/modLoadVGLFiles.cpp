@@ -11,6 +11,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <set>
 
 namespace layoutfile {
 
@@ -68,6 +69,19 @@ QString writeThumbnail(const QByteArray &jpeg, const platform::Folders &folders)
     return written ? file.fileName() : QString();
 }
 
+// The gauge and the bitmap that a custom dial was split into for the recorder come back with the dial.
+void dropDialParts(Records &records)
+{
+    std::set<std::pair<RecordType, qint16>> parts;
+    for (const LayoutRecord &record : records) {
+        if (const auto *dial = std::get_if<CustomDialRecord>(&record.body))
+            parts.insert({{RecordType::Bitmap, dial->bitmapObject}, {RecordType::Gauge, dial->gaugeObject}});
+    }
+    std::erase_if(records, [&parts](const LayoutRecord &record) {
+        return parts.contains({record.type(), record.object});
+    });
+}
+
 Records readRecords(const QByteArray &file, const platform::Folders &folders,
                     platform::ProgressScope &progress)
 {
@@ -79,6 +93,7 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
             writeThumbnail(thumbnail->data.bytes, folders);
         progress.setValue(std::min(++read, ReadingEnds));
     }
+    dropDialParts(records);
     return records;
 }
 
