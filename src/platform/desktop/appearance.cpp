@@ -18,7 +18,7 @@ struct Shades
 };
 
 const Shades Light{0xf1f3f6, 0xffffff, 0xf6f8fa, 0x1d2530, 0xe9edf2, 0xc3cad4, 0x5b6b7f, 0x8f99a6, 0x1f7ae0};
-const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47, 0x1c1f24, 0x14161a, 0x7d8793, 0x4d9bf0};
+const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47, 0x1c1f24, 0x14161a, 0x7d8793, 0x2f7bd8};
 
 QPalette paletteOf(const Shades &shades)
 {
@@ -42,6 +42,13 @@ QPalette paletteOf(const Shades &shades)
 }
 
 } // namespace
+
+Theme desktopTheme()
+{
+    const QPalette palette = QApplication::palette();
+    const bool lightText = palette.windowText().color().lightness() > palette.window().color().lightness();
+    return lightText ? Theme::Dark : Theme::Light;
+}
 
 void applyAppearance(QApplication &application, Theme theme)
 {
