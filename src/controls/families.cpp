@@ -44,22 +44,25 @@ constexpr std::array<Family, 8> Families{{
      "jCUSTOMDIAL", "CustomDial.bmp", "customdial"},
 }};
 
+template <typename Test>
+const Family *firstFamily(Test test)
+{
+    const auto found = std::find_if(Families.begin(), Families.end(), test);
+    return found == Families.end() ? nullptr : &*found;
+}
+
 } // namespace
 
 std::span<const Family> families() { return Families; }
 
-const Family &familyOf(ControlType type)
+const Family *familyOf(ControlType type)
 {
-    return *std::find_if(Families.begin(), Families.end(),
-                         [type](const Family &f) { return f.type == type; });
+    return firstFamily([type](const Family &family) { return family.type == type; });
 }
 
 const Family *familyOfKey(const QString &key)
 {
-    const auto found = std::find_if(Families.begin(), Families.end(), [&](const Family &family) {
-        return key.startsWith(QLatin1Char(family.letter));
-    });
-    return found == Families.end() ? nullptr : &*found;
+    return firstFamily([&](const Family &family) { return key.startsWith(QLatin1Char(family.letter)); });
 }
 
 } // namespace controls

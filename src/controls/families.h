@@ -36,7 +36,8 @@ struct Family
 // All families in the order of the library and the Add Control menu.
 std::span<const Family> families();
 
-const Family &familyOf(ControlType type);
+// Null for a code that no family has.
+const Family *familyOf(ControlType type);
 // The family whose library keys begin like `key`; null when there is none.
 const Family *familyOfKey(const QString &key);
 

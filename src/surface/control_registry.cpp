@@ -10,12 +10,12 @@ using controls::OverlayControl;
 OverlayControl *ControlRegistry::loadControl(ControlType type, int &index, controls::ControlHost &host,
                                              QWidget *canvas)
 {
-    const controls::Family &family = controls::familyOf(type);
-    if (!family.create)
+    const controls::Family *family = controls::familyOf(type);
+    if (!family || !family->create)
         return nullptr;
     while (isTaken(type, index))
         ++index;
-    OverlayControl *control = family.create(family, host, canvas);
+    OverlayControl *control = family->create(*family, host, canvas);
     control->setIndex(index);
     m_controls.append(control);
     return control;

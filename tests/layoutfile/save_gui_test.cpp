@@ -50,7 +50,7 @@ public:
 
     void add(ControlType type)
     {
-        const controls::Family &family = controls::familyOf(type);
+        const controls::Family &family = *controls::familyOf(type);
         m_controls.emplace_back(family.create ? family.create(family, m_host, nullptr)
                                               : new PlainControl(family, m_host, nullptr));
         if (type == ControlType::VideoSource)
