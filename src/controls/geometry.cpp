@@ -8,6 +8,9 @@ namespace {
 
 using common::toIntegerClamped;
 
+// The far edge of a grip; a box read from a damaged store may be as wide as floats go.
+qint32 gripEnd(qint32 start) { return toIntegerClamped<qint32>(start + double{FrameTwips}); }
+
 bool belongs(Handle handle, GripSet set)
 {
     const bool corner =
@@ -35,7 +38,7 @@ HandleTable handleTable(float width, float height, GripSet set)
         const float y = movesTop(handle) ? 0 : (height - FrameTwips) / (movesBottom(handle) ? 1.0F : 2.0F);
         const auto left = toIntegerClamped<qint32>(x);
         const auto top = toIntegerClamped<qint32>(y);
-        table[slot] = {left, top, left + qint32(FrameTwips), top + qint32(FrameTwips)};
+        table[slot] = {left, top, gripEnd(left), gripEnd(top)};
     }
     return table;
 }
