@@ -16,6 +16,7 @@ namespace {
 
 constexpr double AlphaOpaque = 255;
 constexpr double PercentFull = 100;
+constexpr quint32 StandardColour = 0x0000FF; // red
 
 } // namespace
 
@@ -144,10 +145,10 @@ ColourSwatch *PropertyDialog::addColour(const char *name, const char *resetName,
     m_swatch = new ColourSwatch(m_control.host().prompts());
     m_swatch->setObjectName(QLatin1String(name));
     m_swatch->setColour(colour);
-    m_reset = new QPushButton(QStringLiteral("&Reset"));
+    m_reset = new QPushButton(QStringLiteral("R&eset"));
     m_reset->setObjectName(QLatin1String(resetName));
     m_reset->setAutoDefault(false);
-    connect(m_reset, &QPushButton::clicked, this, [this] { m_swatch->setColour(FrameSelected); });
+    connect(m_reset, &QPushButton::clicked, this, [this] { m_swatch->setColour(StandardColour); });
     m_colourLabel = new QLabel(label);
     m_colourLabel->setObjectName(QStringLiteral("lblColour"));
     m_colourLabel->setBuddy(m_swatch);

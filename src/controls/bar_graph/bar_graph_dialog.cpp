@@ -62,7 +62,7 @@ BarGraphDialog::BarGraphDialog(BarGraph &bar)
     m_colour = addColour("picForeColour", "cmdResetForeColour", QStringLiteral("C&olour"),
                          values.curColour.packed());
     addColourVariable(values.curColourVariable, values.curColourVarMin, values.curColourVarMax);
-    m_alfa = addNumber("txtAlfa", QStringLiteral("&Opacity"), alphaPercentText(values.curAlfa),
+    m_alfa = addNumber("txtAlfa", QStringLiteral("O&pacity"), alphaPercentText(values.curAlfa),
                        QStringLiteral("%"));
     finishLayout();
 }
