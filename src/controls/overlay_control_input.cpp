@@ -36,6 +36,13 @@ Qt::CursorShape pointerOf(std::optional<Handle> handle)
     return Qt::SizeAllCursor;
 }
 
+// The control had the focus before a menu or another window took it: nothing was chosen anew.
+bool isGivenBack(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
 } // namespace
 
 // The control may have moved since the event was made, so its place on the screen decides.
@@ -174,7 +181,7 @@ void OverlayControl::keyReleaseEvent(QKeyEvent *event)
 void OverlayControl::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
-    if (isFrozen())
+    if (isFrozen() || isGivenBack(event->reason()))
         return;
     // A press with Ctrl adds to the group and so must not clear it.
     const bool joinsGroup = event->reason() == Qt::MouseFocusReason &&
