@@ -144,9 +144,10 @@ private:
 
     void placeWidget();
     QPointF twipsOf(const QMouseEvent &event) const;
-    void pressRight(Qt::KeyboardModifiers modifiers, const QPoint &globalPosition);
-    void pressLeft(Qt::KeyboardModifiers modifiers);
-    void startDrag();
+    void showMenu(const QPoint &globalPosition);
+    void select();
+    void toggleGroup();
+    void startDrag(); // unless a grip is held
     void setGridColour(quint32 colour);
     bool isFrozen() const { return m_host.IsPlayMode(); }
 

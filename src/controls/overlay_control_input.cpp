@@ -56,46 +56,49 @@ void OverlayControl::mousePressEvent(QMouseEvent *event)
 {
     if (isFrozen())
         return;
-    const QPointF position = twipsOf(*event);
-    if (event->button() == Qt::RightButton) {
-        skipFailures([&] { pressRight(event->modifiers(), event->globalPosition().toPoint()); });
+    const bool ctrl = event->modifiers() == Qt::ControlModifier;
+    const bool plain = event->modifiers() == Qt::NoModifier;
+    if (event->button() == Qt::RightButton && (ctrl || plain)) {
+        m_isGrouped = m_isGrouped || ctrl;
+        skipFailures([&] { showMenu(event->globalPosition().toPoint()); });
         return;
     }
-    m_handleIndex = handleAt(m_handleTable, position);
+    m_dragStart = twipsOf(*event);
+    m_handleIndex = handleAt(m_handleTable, m_dragStart);
     m_gesture = m_handleIndex ? Gesture::Resizing : Gesture::None;
-    m_dragStart = position;
     m_hasMoved = false;
     m_leftDeadZone = false;
-    skipFailures([&] { pressLeft(event->modifiers()); });
+    const bool toggles = event->button() == Qt::LeftButton && ctrl;
+    skipFailures([&] { toggles ? toggleGroup() : select(); });
 }
 
-void OverlayControl::pressRight(Qt::KeyboardModifiers modifiers, const QPoint &globalPosition)
+void OverlayControl::showMenu(const QPoint &globalPosition)
 {
-    if (modifiers == Qt::ControlModifier)
-        m_isGrouped = true;
     if (m_isGrouped)
         m_host.showGroupMenu(globalPosition);
     else
         m_host.showControlMenu(*this, globalPosition);
 }
 
-void OverlayControl::startDrag() { m_gesture = Gesture::Dragging; }
-
-void OverlayControl::pressLeft(Qt::KeyboardModifiers modifiers)
+void OverlayControl::startDrag()
 {
-    if (modifiers == Qt::ControlModifier) {
-        m_isGrouped = !m_isGrouped;
-        if (m_isGrouped && m_gesture != Gesture::Resizing) {
-            startDrag();
-            emit ResetControlGroup();
-        }
-        setGridColour(m_isGrouped ? FrameGrouped : FrameNormal);
+    if (m_gesture == Gesture::Resizing)
         return;
-    }
-    if (m_gesture != Gesture::Resizing) {
+    m_gesture = Gesture::Dragging;
+    emit ResetControlGroup();
+}
+
+void OverlayControl::toggleGroup()
+{
+    m_isGrouped = !m_isGrouped;
+    if (m_isGrouped)
         startDrag();
-        emit ResetControlGroup();
-    }
+    setGridColour(m_isGrouped ? FrameGrouped : FrameNormal);
+}
+
+void OverlayControl::select()
+{
+    startDrag();
     if (!m_isGrouped)
         m_host.ResetControlGridColour();
     setGridColour(m_isGrouped ? FrameGrouped : FrameSelected);
@@ -197,7 +200,7 @@ void OverlayControl::focusInEvent(QFocusEvent *event)
 void OverlayControl::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard && !isFrozen())
-        skipFailures([&] { pressRight(Qt::NoModifier, mapToGlobal(rect().center())); });
+        skipFailures([&] { showMenu(mapToGlobal(rect().center())); });
 }
 
 void OverlayControl::dragEnterEvent(QDragEnterEvent *event)
