@@ -197,6 +197,7 @@ void frmInterface::reposition(OverlayControl &control, float x, float y)
         control.moveTo(x, y);
     else
         control.moveTo(x * screen().tx, y * screen().ty);
+    m_changed = true;
 }
 
 void frmInterface::showPosition(const OverlayControl &control)
