@@ -9,16 +9,29 @@ namespace surface {
 
 namespace {
 
+// The pixels below `end` on which the multiples of the spacing fall, each once: a spacing may be finer than
+// the pixels.
+QList<int> dottedPixels(int spacing, float twipsPerPixel, int end)
+{
+    QList<int> pixels;
+    for (int line = 0;; ++line) {
+        const int pixel = static_cast<int>(line * spacing / static_cast<double>(twipsPerPixel));
+        if (pixel >= end)
+            return pixels;
+        if (pixels.isEmpty() || pixel != pixels.last())
+            pixels.append(pixel);
+    }
+}
+
 void paintDots(QPainter &painter, const QSize &size, const CanvasRules &rules)
 {
-    const double dx = rules.grid.spacing / static_cast<double>(rules.screen.tx);
-    const double dy = rules.grid.spacing / static_cast<double>(rules.screen.ty);
     if (rules.grid.spacing < 1)
         return;
+    const QList<int> columns = dottedPixels(rules.grid.spacing, rules.screen.tx, size.width());
     QList<QPoint> dots;
-    for (int row = 0; row * dy < size.height(); ++row) {
-        for (int column = 0; column * dx < size.width(); ++column)
-            dots.append({static_cast<int>(column * dx), static_cast<int>(row * dy)});
+    for (const int row : dottedPixels(rules.grid.spacing, rules.screen.ty, size.height())) {
+        for (const int column : columns)
+            dots.append({column, row});
     }
     painter.drawPoints(dots.constData(), static_cast<int>(dots.size()));
 }
