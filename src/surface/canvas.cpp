@@ -106,6 +106,8 @@ void Canvas::mousePressEvent(QMouseEvent *event)
 
 void Canvas::mouseMoveEvent(QMouseEvent *event)
 {
+    if (m_band && !event->buttons().testFlag(Qt::LeftButton))
+        setBand(std::nullopt); // a menu took the release
     if (m_band)
         setBand(QRect(m_bandStart, event->position().toPoint()).normalized());
     emit moved(twips(event->position()));
