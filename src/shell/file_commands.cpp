@@ -1,5 +1,6 @@
 #include "shell/file_commands.h"
 
+#include "common/run_time_error.h"
 #include "controls/complexity.h"
 #include "controls/overlay_control.h"
 #include "layoutfile/modLoadVGLFiles.h"
@@ -9,6 +10,7 @@
 #include "platform/guards.h"
 #include "shell/save_rules.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -76,13 +78,23 @@ void FileCommands::backUpDesign()
 {
     if (m_design.controls().isEmpty())
         return;
-    const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("backup"));
-    const QString written = folder.filePath(QStringLiteral("MORVELBackup.VGL"));
     platform::NoProgress silent;
-    layoutfile::SaveVGL(written, SaveKind::Backup, saveContext(m_state, m_design, m_prompts, silent));
-    const QByteArray backup = platform::readFile(written);
-    rotateBackups(m_state.folders); // only now: a backup that fails must not cost an older one
-    platform::replaceFile(m_state.folders.inUserData("MORVELBackup.VGL"), backup);
+    if (const auto backup = savedApart(SaveKind::Backup, silent)) {
+        rotateBackups(m_state.folders); // only now: a backup that fails must not cost an older one
+        platform::replaceFile(m_state.folders.inUserData("MORVELBackup.VGL"), *backup);
+    }
+}
+
+// The layout as it was written into a folder of its own; nothing when the save was refused.
+std::optional<QByteArray> FileCommands::savedApart(SaveKind kind, platform::Progress &progress)
+{
+    QDir().mkpath(m_state.folders.temporary); // whoever clears caches takes it away
+    const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("save"));
+    if (!folder.isValid())
+        throw common::RunTimeError(folder.errorString());
+    const QString path = folder.filePath(DefaultName);
+    const auto result = layoutfile::SaveVGL(path, kind, saveContext(m_state, m_design, m_prompts, progress));
+    return result == SaveResult::Written ? std::optional(platform::readFile(path)) : std::nullopt;
 }
 
 void FileCommands::mnuLoadConfig()
@@ -165,7 +177,7 @@ void FileCommands::mnuSaveConfig()
     if (path.isEmpty())
         return;
     m_lastFolder = QFileInfo(path).absolutePath();
-    for (const auto &question : {longNameQuestion(path), recorderNameQuestion(path, &volumeRoot)}) {
+    for (const auto &question : {longNameQuestion(path), recorderNameQuestion(path, &isVolumeRoot)}) {
         if (question && !m_prompts.ask(Icon::Information, ProductTitle, *question))
             return;
     }
@@ -179,14 +191,10 @@ bool FileCommands::save(const QString &path)
     bool written = false;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
-        const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("save"));
-        const QString temporary = folder.filePath(QFileInfo(path).fileName());
-        const auto result = layoutfile::SaveVGL(temporary, SaveKind::Command,
-                                                saveContext(m_state, m_design, m_prompts, busy));
-        if (result != SaveResult::Written)
-            return;
-        platform::replaceFile(path, platform::readFile(temporary));
-        written = true;
+        if (const auto layout = savedApart(SaveKind::Command, busy)) {
+            platform::replaceFile(path, *layout);
+            written = true;
+        }
     });
     return written;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layoutfile/modSaveVGLFiles.h"
 #include "platform/prompts.h"
 #include "shell/program_state.h"
 #include "surface/frm_interface.h"
@@ -28,6 +29,7 @@ private:
     void LoadProfile();
     bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
+    std::optional<QByteArray> savedApart(layoutfile::SaveKind kind, platform::Progress &progress);
     bool passesComplexityGate();
     double CalculateComplexity() const;
     bool save(const QString &path);

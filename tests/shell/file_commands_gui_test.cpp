@@ -110,6 +110,7 @@ TEST_F(FileCommands, SaveAsksInItsOrderAndARefusalWritesNothing)
             else
                 prompts.expectQuestion(question, answer);
         }
+        QDir(w.world.state.folders.temporary).removeRecursively(); // as those do who clear caches
         const QString before = w.design().caption();
         w.run("mnuSaveConfig");
         EXPECT_EQ(QFile::exists(path(c.name)), c.written) << c.name;
