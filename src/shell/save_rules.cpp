@@ -15,18 +15,20 @@ std::optional<QString> longNameQuestion(const QString &path)
 }
 
 std::optional<QString> recorderNameQuestion(const QString &path,
-                                            const std::function<QString(const QString &)> &rootOf)
+                                            const std::function<bool(const QString &)> &isVolumeRoot)
 {
     const QFileInfo file(path);
     const bool named = file.fileName().compare(QLatin1String("DEFAULT.VGL"), Qt::CaseInsensitive) == 0;
-    const QString folder = QDir::cleanPath(file.absolutePath());
-    if (named && folder == QDir::cleanPath(rootOf(folder)))
+    if (named && isVolumeRoot(QDir::cleanPath(file.absolutePath())))
         return std::nullopt;
     return QStringLiteral("Note that the file must be called DEFAULT.VGL and saved to the root \n"
                           "directory of a CF card to be recognised by the MORVEL\n\n"
                           "Do you want to continue ?");
 }
 
-QString volumeRoot(const QString &folder) { return QStorageInfo(folder).rootPath(); }
+bool isVolumeRoot(const QString &folder)
+{
+    return QStorageInfo(folder).rootPath() == QFileInfo(folder).canonicalFilePath();
+}
 
 } // namespace shell

@@ -12,12 +12,11 @@ namespace shell {
 // A base name of more than 8 characters.
 std::optional<QString> longNameQuestion(const QString &path);
 
-// Anything but DEFAULT.VGL (in any case) in the root of a volume. `rootOf` answers the root folder of the
-// volume that holds a folder.
+// Anything but DEFAULT.VGL (in any case) in the root of a volume.
 std::optional<QString> recorderNameQuestion(const QString &path,
-                                            const std::function<QString(const QString &folder)> &rootOf);
+                                            const std::function<bool(const QString &folder)> &isVolumeRoot);
 
-// The root of the mounted volume that holds `folder`.
-QString volumeRoot(const QString &folder);
+// Whether `folder`, perhaps by way of a link, is the root of a mounted volume.
+bool isVolumeRoot(const QString &folder);
 
 } // namespace shell

@@ -18,7 +18,7 @@ using namespace shell;
 TEST(SaveQuestions, dependOnTheChosenName)
 {
     const auto asked = [](const char *path) {
-        const auto root = [](const QString &) { return QString("/card/"); };
+        const auto root = [](const QString &folder) { return folder == "/card"; };
         return std::pair(longNameQuestion(path).has_value(), recorderNameQuestion(path, root).has_value());
     };
     for (const char *path : {"/card/DEFAULT.VGL", "/card/default.vgl", "/card//x/../DEFAULT.VGL"})
