@@ -30,9 +30,12 @@ void closeEverything()
     while (QWidget *modal = QApplication::activeModalWidget()) {
         modal->close();
         if (QApplication::activeModalWidget() == modal)
-            break; // a long task that cannot be closed
+            break; // a long task: the main window puts its closing off until the end
     }
-    QApplication::closeAllWindows();
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            window->close();
+    }
 }
 
 } // namespace
@@ -44,8 +47,7 @@ void closeOnTermination(QObject *owner)
         return;
     signalDescriptor = pair[0];
     auto *notifier = new QSocketNotifier(pair[1], QSocketNotifier::Read, owner);
-    QObject::connect(notifier, &QSocketNotifier::activated, owner, [notifier](QSocketDescriptor descriptor) {
-        notifier->setEnabled(false);
+    QObject::connect(notifier, &QSocketNotifier::activated, owner, [](QSocketDescriptor descriptor) {
         char byte = 0;
         [[maybe_unused]] const auto count = ::read(static_cast<int>(descriptor), &byte, 1);
         closeEverything();
