@@ -3,7 +3,6 @@
 #include "controls/control_host.h"
 #include "controls/control_surface.h"
 #include "platform/progress.h"
-#include "platform/settings_file.h"
 #include "surface/canvas_rules.h"
 #include "surface/control_registry.h"
 #include "surface/panel_layout.h"
@@ -93,7 +92,6 @@ private:
     void initGrid(const Grid &grid);
     void ShowGrid();
     void storeVisibility(PanelId id, bool visible);
-    void restoreSplitter(const platform::SettingsFile &file);
     void setCurBackColour(quint32 backColour, quint32 labelColour);
 
     void MoveTo(controls::OverlayControl &control, QPointF start, QPointF now);

@@ -42,7 +42,7 @@ void frmInterface::load()
     const SettingsFile file(m_context.folders.ConfigFile());
     m_grid = {keys::GridSize.read(file), keys::ShowGrid.read(file) == 1, keys::SnapGrid.read(file) == 1};
     m_panels->restore(file);
-    restoreSplitter(file);
+    m_library->restoreBar(file, screen().tx);
     setCurBackColour(DefaultBackColour, DefaultLabelColour);
     m_IsPlayMode = false;
     initGrid(m_grid);
@@ -117,28 +117,12 @@ void frmInterface::storeVisibility(PanelId id, bool visible)
     file.save();
 }
 
-void frmInterface::restoreSplitter(const SettingsFile &file)
-{
-    if (!keys::LibrarySplitter.stored(file))
-        return;
-    // The places are shares of the panel; their unit does not matter.
-    const int left = keys::LibrarySplitter.left.read(file);
-    m_library->setSizes({qMax(left, 1), qMax(keys::Library.width.read(file) - left, 1)});
-}
-
 void frmInterface::saveGeometry()
 {
     SettingsFile file(m_context.folders.ConfigFile());
     keys::VideoType.write(file, static_cast<int>(VideoType()));
     m_panels->save(file);
-    const auto twips = [this](int pixels) {
-        return static_cast<int>(static_cast<float>(pixels) * screen().ty);
-    };
-    const QRect bar = m_library->handle(1)->geometry();
-    keys::LibrarySplitter.left.write(file, twips(bar.left()));
-    keys::LibrarySplitter.top.write(file, twips(bar.top()));
-    keys::LibrarySplitter.width.write(file, twips(bar.width()));
-    keys::LibrarySplitter.height.write(file, twips(bar.height()));
+    m_library->saveBar(file, screen().tx);
     file.save();
 }
 

@@ -1,13 +1,16 @@
 #include "surface/library_panel.h"
 
 #include "controls/families.h"
+#include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
+#include "surface/panel_layout.h"
 
 namespace surface {
 
 namespace {
 
+constexpr const platform::PanelKeys &Bar = platform::keys::LibrarySplitter;
 constexpr int KeyRole = Qt::UserRole;
 constexpr QSize PictureSize(72, 72);
 const QString PanelFont = QStringLiteral("QL Sans Serif");
@@ -75,6 +78,25 @@ void LibraryPanel::loadControlTree()
         if (!draggedKey(m_tree->topLevelItem(i)->data(0, KeyRole).toString()).isEmpty())
             m_tree->setCurrentItem(m_tree->topLevelItem(i));
     }
+}
+
+void LibraryPanel::restoreBar(const platform::SettingsFile &file, float twipsPerPixel)
+{
+    if (!Bar.stored(file))
+        return;
+    setStretchFactor(0, 0); // the tree keeps its width, the list takes what is left
+    setSizes({toPixels(Bar.left.read(file), twipsPerPixel), 1});
+}
+
+void LibraryPanel::saveBar(platform::SettingsFile &file, float twipsPerPixel) const
+{
+    if (testAttribute(Qt::WA_PendingResizeEvent))
+        return; // the panel has been closed all the time, and the bar was never laid out
+    const QRect bar = handle(1)->geometry();
+    Bar.left.write(file, toTwips(bar.left(), twipsPerPixel));
+    Bar.top.write(file, toTwips(bar.top(), twipsPerPixel));
+    Bar.width.write(file, toTwips(bar.width(), twipsPerPixel));
+    Bar.height.write(file, toTwips(bar.height(), twipsPerPixel));
 }
 
 QString LibraryPanel::selectedKey() const

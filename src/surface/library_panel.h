@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/folders.h"
+#include "platform/settings_file.h"
 
 #include <QListWidget>
 #include <QSplitter>
@@ -20,6 +21,10 @@ public:
     void loadControlTree();
     // Shows the entries of the selected node with their pictures.
     void loadControlList();
+    // The place of the bar between tree and list in the settings file; what is stored stays while the panel
+    // is closed.
+    void restoreBar(const platform::SettingsFile &file, float twipsPerPixel);
+    void saveBar(platform::SettingsFile &file, float twipsPerPixel) const;
     // Key of the selected node; empty when none is.
     QString selectedKey() const;
 

@@ -13,7 +13,6 @@ namespace surface {
 namespace {
 
 constexpr int EdgeWidth = 4;
-constexpr QSize SmallestPanel(120, 80);
 
 Qt::CursorShape pointerOf(Qt::Edges edges)
 {
@@ -40,6 +39,8 @@ Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
     m_title->setFont(bold);
     m_title->setAttribute(Qt::WA_TransparentForMouseEvents);
     auto *close = new QToolButton;
+    for (QWidget *inside : {content, static_cast<QWidget *>(close)})
+        inside->setCursor(Qt::ArrowCursor); // not the one of the edges
     close->setAutoRaise(true);
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close->setIconSize(QSize(12, 12));

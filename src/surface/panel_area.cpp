@@ -1,7 +1,5 @@
 #include "surface/panel_area.h"
 
-#include "common/rounding.h"
-
 #include <QResizeEvent>
 
 namespace surface {
@@ -16,16 +14,6 @@ const PanelKeys &keysOf(std::size_t panel)
 {
     static constexpr std::array<const PanelKeys *, 3> Keys{&keys::Functions, &keys::Library, &keys::Design};
     return *Keys[panel];
-}
-
-int toPixels(int twips, float twipsPerPixel)
-{
-    return common::toIntegerClamped<int>(twips / static_cast<double>(twipsPerPixel));
-}
-
-int toTwips(int pixels, float twipsPerPixel)
-{
-    return common::toIntegerClamped<int>(pixels * static_cast<double>(twipsPerPixel));
 }
 
 } // namespace

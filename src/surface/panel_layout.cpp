@@ -1,5 +1,7 @@
 #include "surface/panel_layout.h"
 
+#include "common/rounding.h"
+
 #include <algorithm>
 
 namespace surface {
@@ -10,7 +12,6 @@ constexpr int Gap = 4;
 constexpr int CanvasPanelWidth = 720 + 30; // canvas with its frame and a scroll bar
 constexpr int WidestColumn = 560;
 constexpr int SmallestLibrary = 160;
-constexpr QSize SmallestPanel(120, 80);
 
 } // namespace
 
@@ -43,6 +44,16 @@ bool isDefaultArrangement(const PanelRects &panels)
     const QRect &last = panels[std::size_t(PanelId::Library)];
     const QSize area(last.left() + last.width() + Gap, last.top() + last.height() + Gap);
     return panels == defaultPanels(area);
+}
+
+int toPixels(int twips, float twipsPerPixel)
+{
+    return common::toIntegerClamped<int>(twips / static_cast<double>(twipsPerPixel));
+}
+
+int toTwips(int pixels, float twipsPerPixel)
+{
+    return common::toIntegerClamped<int>(pixels * static_cast<double>(twipsPerPixel));
 }
 
 } // namespace surface

@@ -10,6 +10,8 @@ namespace surface {
 enum class PanelId { Functions = 0, Library = 1, Design = 2 };
 using PanelRects = std::array<QRect, 3>; // indexed by PanelId, pixels
 
+inline constexpr QSize SmallestPanel(120, 80); // pixels; smaller ones cannot be used
+
 // The design at the left, functions above the library at its right, filling an area of this size without
 // overlap.
 PanelRects defaultPanels(const QSize &area);
@@ -19,5 +21,9 @@ QRect pulledIntoView(const QRect &panel, const QSize &area);
 
 // Whether the panels lie as defaultPanels() lays them out for an area of any size: nobody has moved them.
 bool isDefaultArrangement(const PanelRects &panels);
+
+// Stored places are in twips. Values that do not fit come back as the nearest that does.
+int toPixels(int twips, float twipsPerPixel);
+int toTwips(int pixels, float twipsPerPixel);
 
 } // namespace surface

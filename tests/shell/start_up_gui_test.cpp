@@ -1,6 +1,7 @@
 #include "platform/file_replace.h"
 #include "shell/start_up.h"
 #include "support/design_window.h"
+#include "surface/library_panel.h"
 #include "surface/panel_area.h"
 #include "variables/definition_file.h"
 
@@ -132,17 +133,20 @@ TEST_F(Start, FindsDesignAndPanelsAsTheLastRunLeftThem)
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel(PanelId::Functions).geometry() == place; }));
 }
 
-TEST_F(Start, AClosedPanelStaysClosedUntilTheViewMenuBringsItBack)
+TEST_F(Start, AClosedPanelStaysClosedAndKeepsItsBarUntilTheViewMenuBringsItBack)
 {
     EXPECT_TRUE(start());
-    EXPECT_TRUE(action("mnuPanelFunctions").isChecked());
-    QTest::mouseClick(panel(PanelId::Functions).findChild<QToolButton *>(), Qt::LeftButton);
+    auto *library = program->window()->findChild<surface::LibraryPanel *>();
+    test::drag(*library->handle(1), {2, 50}, {{20, 0}});
+    const QList<int> sizes = library->sizes();
+    QTest::mouseClick(panel(PanelId::Library).findChild<QToolButton *>(), Qt::LeftButton);
     restart();
-    EXPECT_FALSE(panel(PanelId::Functions).isVisible() || action("mnuPanelFunctions").isChecked());
-    EXPECT_TRUE(panel(PanelId::Library).isVisible() && action("mnuPanelLibrary").isChecked());
-    action("mnuPanelFunctions").trigger();
-    restart();
+    EXPECT_FALSE(panel(PanelId::Library).isVisible() || action("mnuPanelLibrary").isChecked());
     EXPECT_TRUE(panel(PanelId::Functions).isVisible() && action("mnuPanelFunctions").isChecked());
+    action("mnuPanelLibrary").trigger();
+    restart();
+    EXPECT_TRUE(panel(PanelId::Library).isVisible() && action("mnuPanelLibrary").isChecked());
+    EXPECT_EQ(program->window()->findChild<surface::LibraryPanel *>()->sizes(), sizes);
 }
 
 TEST_F(Start, PanelsThatWereStoredOutOfSightArePulledIntoView)
