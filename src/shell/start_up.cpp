@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
+#include <QScreen>
 
 namespace shell {
 
@@ -113,6 +114,7 @@ void StartUp::showWindows()
     QApplication::processEvents();
     m_window->design().load();
     m_window->refreshFromState();
+    m_window->resize(m_window->screen()->availableSize()); // boxes open in its middle before it is maximised
     m_window->showMaximized();
     platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
     {

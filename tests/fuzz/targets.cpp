@@ -1,5 +1,6 @@
 #include "fuzz/targets.h"
 
+#include "layoutfile/fold_variables.h"
 #include "layoutfile/layout_file.h"
 #include "layoutfile/modCRC.h"
 #include "layoutfile/settings_from_records.h"
@@ -47,14 +48,17 @@ bool layout(QByteArrayView bytes)
     const std::vector<LayoutRecord> records = layoutfile::parseLayout(file);
     recorder::RecorderSettings settings;
     layoutfile::settingsFromRecords(records, settings);
+    static variables::Catalogue catalogue; // 8001 rows are not made anew for every input
+    layoutfile::foldVariables(records, catalogue, {});
+    const bool sameVariables = catalogue.live.size() == variables::LastIndex + 1;
     const bool gearsFit = settings.GearTable.size() >= 1 && settings.GearTable.size() <= 7;
-    return refused && accepted && thumbnailFits && gearsFit &&
+    return refused && accepted && thumbnailFits && sameVariables && gearsFit &&
            std::all_of(records.begin(), records.end(), &settles);
 }
 
 bool definitions(QByteArrayView bytes)
 {
-    static variables::Catalogue catalogue; // 8001 rows are not made anew for every input
+    static variables::Catalogue catalogue;
     const auto units = catalogue.units.size();
     const bool loaded =
         variables::loadDefinitions(bytes.toByteArray(), catalogue) == variables::DefinitionStatus::Loaded;

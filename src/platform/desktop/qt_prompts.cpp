@@ -7,6 +7,7 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -65,12 +66,23 @@ private:
     bool m_active;
 };
 
+// A box is as wide as its text; a short one would cut its title off.
+void makeRoomForTitle(QMessageBox &box)
+{
+    constexpr int FrameButtons = 140; // and icon, pixels
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + FrameButtons;
+    if (grid)
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 QMessageBox::StandardButton showBox(QWidget *parent, Icon icon, const QString &title, const QString &text,
                                     QMessageBox::StandardButtons buttons)
 {
     const ArrowPointer pointer;
     QMessageBox box(boxIcon(icon), title, text, buttons, parent);
     box.setTextFormat(Qt::PlainText); // names from files are shown, never interpreted
+    makeRoomForTitle(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
