@@ -99,8 +99,8 @@ void drawCachedText(benchmark::State &state)
     folders.program = QStringLiteral(MORVEL_PROGRAM_DIR "/");
     platform::NoProgress progress;
     NoPrompts prompts;
-    graphics::FontStore store(folders, prompts);
-    store.ensure(request(Points), progress);
+    graphics::FontStore store(folders);
+    store.ensure(request(Points), progress, prompts);
     QImage picture(720, 576, QImage::Format_RGB32);
     picture.fill(0xFF204060);
     graphics::TextLook look;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "graphics/font_name.h"
+#include "graphics/text_font.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
 #include "platform/prompts.h"
@@ -9,6 +11,8 @@
 
 #include <QImage>
 #include <QPoint>
+
+#include <memory>
 
 namespace controls {
 
@@ -27,6 +31,9 @@ public:
     virtual platform::Prompts &prompts() = 0;
     virtual const variables::Catalogue &catalogue() const = 0;
     virtual recorder::VideoStandard VideoType() const = 0;
+    // A font to draw with; its files are made first where they are missing. Null, after a message, when they
+    // cannot be made from this request; throws RunTimeError when they can be neither written nor read.
+    virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request) = 0;
 
     // What stands below the inner area of `control`: background, grid and the controls beneath it.
     virtual QImage captureBelow(const OverlayControl &control) = 0;

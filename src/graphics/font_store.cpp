@@ -13,10 +13,7 @@ constexpr qsizetype LargestCache = 32LL * 1024 * 1024; // bytes of decoded glyph
 
 } // namespace
 
-FontStore::FontStore(const platform::Folders &folders, platform::Prompts &prompts)
-    : m_folders(folders), m_prompts(prompts), m_cache(LargestCache)
-{
-}
+FontStore::FontStore(const platform::Folders &folders) : m_folders(folders), m_cache(LargestCache) {}
 
 FontFolders FontStore::folders() const { return {m_folders.FontFolder(), m_folders.shippedFaces()}; }
 
@@ -30,17 +27,21 @@ QString FontStore::extendedPath(const FontRequest &request) const
     return m_folders.FontFolder() + extendedFontFileName(request);
 }
 
-bool FontStore::ensure(const FontRequest &request, platform::Progress &progress)
+bool FontStore::has(const FontRequest &request) const
 {
-    const bool complete =
-        platform::FileExists(standardPath(request)) != 0 && platform::FileExists(extendedPath(request)) != 0;
-    return complete || generate(request, progress);
+    return platform::FileExists(standardPath(request)) != 0 &&
+           platform::FileExists(extendedPath(request)) != 0;
 }
 
-bool FontStore::generate(const FontRequest &request, platform::Progress &progress)
+bool FontStore::ensure(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts)
+{
+    return has(request) || generate(request, progress, prompts);
+}
+
+bool FontStore::generate(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts)
 {
     m_cache.remove(standardPath(request)); // two files of one size can be written in the same millisecond
-    return GenerateFont(request, folders(), progress, m_prompts);
+    return GenerateFont(request, folders(), progress, prompts);
 }
 
 FontStore::Stamp FontStore::stampOf(const QString &path)

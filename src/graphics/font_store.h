@@ -16,16 +16,18 @@ namespace graphics {
 class FontStore
 {
 public:
-    FontStore(const platform::Folders &folders, platform::Prompts &prompts);
+    explicit FontStore(const platform::Folders &folders);
 
     QString standardPath(const FontRequest &request) const;
     QString extendedPath(const FontRequest &request) const;
 
+    // Whether both files are there.
+    bool has(const FontRequest &request) const;
     // Makes both files when one of them is missing. False, after a message, when they cannot be made from
     // this request; throws RunTimeError when no face can be read or a file not be written.
-    bool ensure(const FontRequest &request, platform::Progress &progress);
+    bool ensure(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts);
     // The same, also when the files are there.
-    bool generate(const FontRequest &request, platform::Progress &progress);
+    bool generate(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts);
 
     // The decoded font; makes no files and shows nothing. Throws RunTimeError when a file is missing or
     // cannot be read.
@@ -50,7 +52,6 @@ private:
     static Stamp stampOf(const QString &path);
 
     const platform::Folders &m_folders;
-    platform::Prompts &m_prompts;
     QCache<QString, Entry> m_cache; // by the path of the standard file
 };
 

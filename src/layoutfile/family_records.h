@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/overlay_control.h"
+#include "graphics/font_store.h"
 #include "layoutfile/layout_file.h"
 #include "layoutfile/used_variables.h"
 
@@ -14,6 +15,7 @@ struct Gathering
     RecordGroups groups;
     UsedVariables used;
     platform::Screen screen;
+    graphics::FontStore &fonts;
 };
 
 // How the controls of one family become records and come back. To add a family: one file with these two

@@ -172,7 +172,7 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
 // False when two cameras clash.
 bool writeLayout(const QString &path, SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
-    Gathering save{{}, {}, context.screen};
+    Gathering save{{}, {}, context.screen, context.fonts};
     gatherThumbnail(save.groups, kind, context);
     ProgressScope progress(context.progress, kind == SaveKind::Command
                                                  ? QStringLiteral("Saving configuration.....")

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control_surface.h"
+#include "graphics/font_store.h"
 #include "platform/locale.h"
 #include "platform/progress.h"
 #include "platform/prompts.h"
@@ -16,6 +17,7 @@ struct SaveContext
     controls::ControlSurface &surface;
     const variables::Catalogue &catalogue;
     const recorder::RecorderSettings &settings;
+    graphics::FontStore &fonts;
     platform::Prompts &prompts;
     platform::Progress &progress;
     const platform::Stamp &stamp;

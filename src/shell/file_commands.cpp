@@ -33,7 +33,7 @@ enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
 layoutfile::SaveContext saveContext(ProgramState &state, surface::frmInterface &design,
                                     platform::Prompts &prompts, platform::Progress &progress)
 {
-    return {design,   state.catalogue, state.settings, prompts,
+    return {design,   state.catalogue, state.settings, state.fonts, prompts,
             progress, state.stamp,     state.screen,   state.locale};
 }
 

@@ -111,7 +111,7 @@ QIcon resourceIcon(const QString &name)
 frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     : m_state(state), m_prompts(prompts),
       m_design(new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
-                                          prompts, state.locale, state.screen})),
+                                          state.fonts, prompts, state.locale, state.screen})),
       m_files(state, prompts, *m_design, *this), m_variables(state, prompts, *m_design)
 {
     setObjectName(QStringLiteral("frmMain"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/font_store.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
 #include "platform/screen.h"
@@ -13,6 +14,7 @@ namespace shell {
 struct ProgramState
 {
     platform::Folders folders;
+    graphics::FontStore fonts{folders};
     platform::NumberLocale locale;
     platform::Screen screen;
     platform::Stamp stamp;

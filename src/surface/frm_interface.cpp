@@ -1,5 +1,6 @@
 #include "surface/frm_interface.h"
 
+#include "graphics/dialogs/frm_font_gen.h"
 #include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/library_icons.h"
@@ -209,6 +210,12 @@ void frmInterface::drawBack(OverlayControl &control)
 {
     if (control.isSeeThrough())
         control.setBackImage(captureBelow(control));
+}
+
+std::shared_ptr<const graphics::TextFont> frmInterface::textFont(const graphics::FontRequest &request)
+{
+    const bool there = graphics::ensureInWindow(m_context.fonts, request, prompts(), window());
+    return there ? m_context.fonts.open(request) : nullptr;
 }
 
 QImage frmInterface::captureBelow(const OverlayControl &control)

@@ -2,6 +2,7 @@
 
 #include "controls/control_host.h"
 #include "controls/control_surface.h"
+#include "graphics/font_store.h"
 #include "platform/progress.h"
 #include "surface/canvas_rules.h"
 #include "surface/control_registry.h"
@@ -26,6 +27,7 @@ struct InterfaceContext
     recorder::RecorderSettings &settings;
     const recorder::MessageTable &startMessages; // as read at start
     const platform::Folders &folders;
+    graphics::FontStore &fonts;
     platform::Prompts &prompts;
     const platform::NumberLocale &locale;
     platform::Screen screen;
@@ -69,6 +71,7 @@ public:
     platform::Prompts &prompts() override { return m_context.prompts; }
     const variables::Catalogue &catalogue() const override { return m_context.catalogue; }
     recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
+    std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request) override;
     QImage captureBelow(const controls::OverlayControl &control) override;
     void showControlMenu(controls::OverlayControl &control, const QPoint &globalPosition) override;
     void showGroupMenu(const QPoint &globalPosition) override;

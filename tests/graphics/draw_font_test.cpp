@@ -1,137 +1,102 @@
-#include "graphics/font_bytes.h"
+#include "graphics/font_file.h"
 #include "graphics/glyph_lists.h"
 #include "graphics/modDrawFont.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <map>
+#include <numeric>
 
 namespace graphics {
 
 namespace {
 
-using test::PlainGlyph;
-
 constexpr QRgb Ground = 0xFF204060;
 constexpr int LineHeight = 9;
+constexpr int Far = 2000000000;
 
-int placeOf(char16_t character) { return lookUpGlyph(character).index; }
+QByteArray fileOf(int glyphCount, int lineHeight, const std::map<char16_t, Glyph> &glyphs)
+{
+    RasterFont font{lineHeight, std::vector<Glyph>(static_cast<std::size_t>(glyphCount))};
+    for (const auto &[character, glyph] : glyphs)
+        font.glyphs.at(static_cast<std::size_t>(lookUpGlyph(character).index)) = glyph;
+    return *FontFile(font);
+}
 
 // "A" is 2 x 2, one row below the top; "j" is 5 wide and blank; "!" is one pixel in the other file; "B" is a
 // strip of all coverages from 1 to 254.
 TextFont font()
 {
-    PlainGlyph strip{254, 1, 0, {}};
-    for (int value = 1; value < 255; ++value)
-        strip.pixels.push_back(value);
-    const QByteArray standard = test::fontFile(StandardGlyphs, LineHeight,
-                                               {{placeOf(u'A'), {2, 2, 1, {255, 0, 128, 255}}},
-                                                {placeOf(u'B'), strip},
-                                                {placeOf(u'j'), {5, 1, 0, {0, 0, 0, 0, 0}}}});
-    const QByteArray extended =
-        test::fontFile(ExtendedGlyphs, LineHeight + 3, {{placeOf(u'!'), {1, 1, 4, {255}}}});
-    return *TextFont::fromFiles(standard, extended);
+    Glyph strip{254, 1, 0, std::vector<quint8>(254)};
+    std::iota(strip.coverage.begin(), strip.coverage.end(), quint8{1});
+    const Glyph a{2, 2, 1, {255, 0, 128, 255}}, j{5, 1, 0, {0, 0, 0, 0, 0}}, mark{1, 1, 4, {255}};
+    return *TextFont::fromFiles(fileOf(StandardGlyphs, LineHeight, {{u'A', a}, {u'B', strip}, {u'j', j}}),
+                                fileOf(ExtendedGlyphs, LineHeight + 3, {{u'!', mark}}));
 }
 
-QImage surface(int width = 60, int height = 20)
+QImage surface(int width, int height, QRgb colour = Ground)
 {
     QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Ground);
+    image.fill(colour);
     return image;
-}
-
-TextLook look(int x, int y, quint8 opacity = 255)
-{
-    TextLook look;
-    look.position = {x, y};
-    look.colour = 0x00FFFFFF;
-    look.opacity = opacity;
-    return look;
 }
 
 // Where the image differs from the ground, as "x,y x,y ..." row by row.
 std::string changedPixels(const QImage &image)
 {
     std::string places;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != Ground)
-                places += std::to_string(x) + "," + std::to_string(y) + " ";
-        }
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const int x = i % image.width(), y = i / image.width();
+        if (image.pixel(x, y) != Ground)
+            places += std::to_string(x) + "," + std::to_string(y) + " ";
     }
     return places;
 }
 
-TEST(DrawText, movesThePenByWidthAndTwo)
+TEST(DrawText, movesThePenByWidthAndTwoAndDrawsWhatLiesOnTheSurface)
 {
-    struct Case
-    {
-        const char *text;
-        int pen;
-        const char *pixels;
+    const std::tuple<const char *, QPoint, int, const char *> cases[] = {
+        {"", {10, 3}, 0, ""},
+        {"AA", {10, 3}, 8, "10,4 14,4 10,5 11,5 14,5 15,5 "},
+        {"A!", {10, 3}, 7, "10,4 10,5 11,5 14,7 "},
+        {" !", {10, 3}, 10, "17,7 "}, // a blank moves as far as "j"
+        {"~!", {10, 3}, 10, "17,7 "},
+        {"C!", {10, 3}, 5, "12,7 "}, // an empty glyph
+        {"A", {-1, -1}, 4, "0,1 "},
+        {"A", {0, -2}, 4, "0,0 1,0 "},
+        {"A", {59, 17}, 4, "59,18 59,19 "},
+        {"A", {58, 18}, 4, "58,19 "},
+        {"A", {60, 0}, 4, ""},
+        {"A", {0, 19}, 4, ""},
+        {"A", {-Far, -Far}, 4, ""},
+        {"A", {Far, Far}, 4, ""},
     };
-    const Case cases[] = {
-        {"", 10, ""},
-        {"A", 14, "10,4 10,5 11,5 "},
-        {"AA", 18, "10,4 14,4 10,5 11,5 14,5 15,5 "},
-        {"A!", 17, "10,4 10,5 11,5 14,7 "},
-        {" !", 20, "17,7 "}, // a blank moves as far as "j"
-        {"~!", 20, "17,7 "},
-        {"j!", 20, "17,7 "},
-        {"C!", 15, "12,7 "}, // an empty glyph
-    };
-    for (const Case &sample : cases) {
-        QImage image = surface();
-        const QString text = QString::fromLatin1(sample.text);
-        EXPECT_EQ(drawText(font(), text, look(10, 3), image), (TextExtent{sample.pen, LineHeight}))
-            << sample.text;
-        EXPECT_EQ(changedPixels(image), sample.pixels) << sample.text;
-        EXPECT_EQ(font().penBehind(text, 10), sample.pen) << sample.text;
-    }
-}
-
-TEST(DrawText, cutsOffWhatLiesOutside)
-{
-    struct Case
-    {
-        int x, y;
-        const char *pixels;
-    };
-    const Case cases[] = {{-1, -1, "0,1 "},
-                          {0, -2, "0,0 1,0 "},
-                          {59, 17, "59,18 59,19 "},
-                          {58, 18, "58,19 "},
-                          {60, 0, ""},
-                          {0, 19, ""},
-                          {-100000, 5, ""},
-                          {5, 100000, ""},
-                          {-2000000000, -2000000000, ""},
-                          {2000000000, 2000000000, ""}};
-    for (const Case &sample : cases) {
-        QImage image = surface();
-        drawText(font(), QStringLiteral("A"), look(sample.x, sample.y), image);
-        EXPECT_EQ(changedPixels(image), sample.pixels) << sample.x << ", " << sample.y;
+    for (const auto &[text, place, advance, pixels] : cases) {
+        QImage image = surface(60, 20);
+        const TextExtent extent{place.x() + advance, LineHeight};
+        EXPECT_EQ(drawText(font(), QLatin1String(text), {place, 0xFFFFFF}, image), extent) << text;
+        EXPECT_EQ(changedPixels(image), pixels) << text << " at " << place.x() << ", " << place.y();
+        EXPECT_EQ(font().penBehind(QString::fromLatin1(text), place.x()), extent.width) << text;
     }
 }
 
 TEST(DrawText, mixesEveryComponentByCoverageAndOpacity)
 {
-    const auto mixed = [](int below, int ink, double share) {
-        return static_cast<int>(std::nearbyint((1 - share) * below + share * ink));
-    };
-    for (const int opacity : {0, 1, 127, 128, 254, 255}) {
-        for (const QRgb below : {0xFF000000, 0xFFFFFFFF, 0xFF204060, 0xFFC80501}) {
-            for (const quint32 ink : {0x00000000U, 0x00FFFFFFU, 0x00102030U, 0x00FF0080U}) {
-                QImage image(254, 1, QImage::Format_RGB32);
-                image.fill(below);
-                TextLook style = look(0, 0, static_cast<quint8>(opacity));
-                style.colour = ink;
-                drawText(font(), QStringLiteral("B"), style, image);
+    for (const int opacity : {0, 1, 128, 254, 255}) {
+        for (const QRgb below : {0xFF000000, 0xFFFFFFFF, 0xFFC80501}) {
+            for (const QRgb ink : {qRgb(0, 0, 0), qRgb(255, 255, 255), qRgb(48, 32, 16)}) {
+                QImage image = surface(254, 1, below);
+                const auto packed = static_cast<quint32>(qRed(ink) | qGreen(ink) << 8 | qBlue(ink) << 16);
+                drawText(font(), QStringLiteral("B"), {{}, packed, static_cast<quint8>(opacity)}, image);
                 for (int x = 0; x < 254; ++x) {
-                    const double share = (x + 1) / 255.0 * (opacity / 255.0);
-                    const QRgb expected = qRgb(mixed(qRed(below), ink & 0xFF, share),
-                                               mixed(qGreen(below), ink >> 8 & 0xFF, share),
-                                               mixed(qBlue(below), ink >> 16 & 0xFF, share));
-                    ASSERT_EQ(image.pixel(x, 0), expected) << "coverage " << x + 1 << ", opacity " << opacity;
+                    const double a = (x + 1) / 255.0 * (opacity / 255.0);
+                    const auto mixed = [a](int background, int text) {
+                        return static_cast<int>(std::nearbyint((1 - a) * background + a * text));
+                    };
+                    ASSERT_EQ(image.pixel(x, 0),
+                              qRgb(mixed(qRed(below), qRed(ink)), mixed(qGreen(below), qGreen(ink)),
+                                   mixed(qBlue(below), qBlue(ink))))
+                        << "coverage " << x + 1 << ", opacity " << opacity;
                 }
             }
         }
@@ -140,29 +105,19 @@ TEST(DrawText, mixesEveryComponentByCoverageAndOpacity)
 
 TEST(DrawText, fillsTheLineFromTheBackgroundUpToTheRightEdge)
 {
-    const QImage background = [] {
-        QImage image(760, 30, QImage::Format_RGB32);
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                image.setPixel(x, y, qRgb(x % 256, x / 256, y));
-        }
-        return image;
-    }();
-    QImage image = surface(760, 30);
-    TextLook style = look(700, 12);
-    style.background = &background;
-    drawText(font(), QStringLiteral("!"), style, image);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 680; x < image.width(); ++x) {
-            const bool filled = x >= 700 && x < 720 && y >= 12 && y < 12 + LineHeight;
-            const QRgb expected = x == 700 && y == 16 ? 0xFFFFFFFF : filled ? background.pixel(x, y) : Ground;
-            ASSERT_EQ(image.pixel(x, y), expected) << x << ", " << y;
+    QImage background = surface(760, 30);
+    for (int i = 0; i < 760 * 30; ++i)
+        background.setPixel(i % 760, i / 760, 0xFF000000 | static_cast<QRgb>(i));
+    for (const int left : {700, 730}) { // behind the edge nothing is filled
+        QImage image = surface(760, 30);
+        drawText(font(), QStringLiteral("!"), {{left, 12}, 0xFFFFFF, 255, &background}, image);
+        for (int i = 0; i < 760 * 30; ++i) {
+            const int x = i % 760, y = i / 760;
+            const bool filled = x >= left && x < 720 && y >= 12 && y < 12 + LineHeight;
+            const QRgb below = filled ? background.pixel(x, y) : Ground;
+            ASSERT_EQ(image.pixel(x, y), x == left && y == 16 ? 0xFFFFFFFF : below) << x << ", " << y;
         }
     }
-    style.position = {730, 12}; // behind the edge nothing is filled
-    image.fill(Ground);
-    drawText(font(), {}, style, image);
-    EXPECT_EQ(changedPixels(image), "");
 }
 
 } // namespace

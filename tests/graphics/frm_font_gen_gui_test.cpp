@@ -1,16 +1,11 @@
 #include "graphics/dialogs/font_preview.h"
 #include "graphics/dialogs/frm_font_gen.h"
+#include "graphics/face_source.h"
 #include "platform/desktop/appearance.h"
 #include "platform/file_replace.h"
-#include "support/scripted_prompts.h"
+#include "support/design_window.h"
 
-#include <QAbstractButton>
 #include <QDir>
-#include <QLineEdit>
-#include <QTemporaryDir>
-#include <QtTest/QtTest>
-
-#include <gtest/gtest.h>
 
 namespace graphics {
 
@@ -19,7 +14,7 @@ namespace {
 const QString ProgramFolder = QStringLiteral(MORVEL_PROGRAM_DIR "/");
 
 // An open window over font folders of its own.
-struct FontWindow
+struct FontWindow : testing::Test
 {
     FontWindow()
     {
@@ -34,97 +29,87 @@ struct FontWindow
     {
         return *window.findChild<Widget *>(QLatin1String(name));
     }
-    QString status() { return field<QLabel>("lblstatus").text(); }
+    void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
     QStringList files() const { return QDir(folders.FontFolder()).entryList(QDir::Files, QDir::Name); }
-    // A telling pixel of the preview: white ink on a dim ground.
-    bool previewHasInk()
-    {
-        const QImage picture = field<QLabel>("OutputText").pixmap().toImage();
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                if (picture.pixel(x, y) == 0xFFFFFFFF)
-                    return true;
-            }
-        }
-        return false;
-    }
+    bool hasPicture() { return !field<QLabel>("OutputText").pixmap(Qt::ReturnByValue).isNull(); }
 
     QTemporaryDir root;
     platform::Folders folders;
     test::ScriptedPrompts prompts;
-    FontStore store{folders, prompts};
-    frmFontGen window{store, prompts, nullptr};
+    FontStore store{folders};
+    frmFontGen window{store, {DefaultFace, 12, {}}, prompts, nullptr};
 };
 
-TEST(FontWindow, makesTheChosenFontByKeyboardAlone)
+TEST_F(FontWindow, makesTheChosenFontByKeyboardAlone)
 {
-    FontWindow world;
-    EXPECT_EQ(world.field<QComboBox>("cmbFontName").currentText(), QStringLiteral("QL Sans Serif"));
-    world.field<QComboBox>("cmbFontName").setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("20"));
-    for (int i = 0; i < 2; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(world.window.request(), (FontRequest{DefaultFace, 20, {false, true}}));
-    EXPECT_TRUE(world.previewHasInk());
-    EXPECT_TRUE(world.status().contains(QStringLiteral("Liberation Sans stands in")));
-    EXPECT_TRUE(world.files().isEmpty());
+    field<QComboBox>("cmbFontName").setFocus();
+    press(Qt::Key_Tab);
+    press(Qt::Key_7); // in the place of the 12, and not the beginning of 72
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_EQ(window.request(), (FontRequest{DefaultFace, 7, {false, true}}));
+    EXPECT_TRUE(hasPicture() && files().isEmpty());
+    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(QStringLiteral("Liberation Sans stands in")));
 
-    QTest::keyClick(&world.window, Qt::Key_Return);
-    EXPECT_EQ(world.files(), QStringList({QStringLiteral("Ext_QL Sans Serif I 20.qlg"),
-                                          QStringLiteral("QL Sans Serif I 20.qlg")}));
-    EXPECT_EQ(world.field<QProgressBar>("pBar").value(), 100);
-    EXPECT_TRUE(world.status().contains(QStringLiteral("QL Sans Serif I 20.qlg")));
-    EXPECT_TRUE(world.window.isEnabled());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    QTest::keyClick(&world.window, Qt::Key_Escape);
-    EXPECT_FALSE(world.window.isVisible());
+    press(Qt::Key_Return);
+    const QStringList written = {QStringLiteral("Ext_QL Sans Serif I 7.qlg"),
+                                 QStringLiteral("QL Sans Serif I 7.qlg")};
+    EXPECT_EQ(files(), written);
+    EXPECT_EQ(field<QProgressBar>("pBar").value(), 100);
+    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(written[1]));
+    EXPECT_TRUE(window.isEnabled() && !QApplication::overrideCursor());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
 }
 
-TEST(FontWindow, saysWhatIsWrongAndWritesNothing)
+TEST_F(FontWindow, saysWhatIsWrongAndWritesNothing)
 {
-    const std::pair<QString, QString> cases[] = {{{}, NoFontChosen}, {QStringLiteral("900"), FontTooLarge}};
-    for (const auto &[size, message] : cases) {
-        FontWindow world;
-        world.field<QComboBox>("cmbFontSize").setCurrentText(size);
-        EXPECT_FALSE(world.previewHasInk());
-        EXPECT_FALSE(world.field<QLabel>("OutputText").text().isEmpty());
-        world.prompts.expectMessage(message);
-        world.field<QPushButton>("cmdGenerate").click();
-        EXPECT_TRUE(world.files().isEmpty());
-        EXPECT_EQ(world.field<QProgressBar>("pBar").value(), 0);
-        world.field<QComboBox>("cmbFontSize").setCurrentText(QStringLiteral("12"));
-        EXPECT_TRUE(world.previewHasInk());
+    const auto generate = [this](const QString &size, const QString &message) {
+        field<QComboBox>("cmbFontSize").setCurrentText(size);
+        prompts.expectMessage(message);
+        field<QPushButton>("cmdGenerate").click();
+        EXPECT_TRUE(files().isEmpty() && window.isEnabled());
+        EXPECT_EQ(field<QProgressBar>("pBar").value(), 0);
+    };
+    generate({}, NoFontChosen);
+    EXPECT_FALSE(hasPicture());
+    generate(QStringLiteral("900"), FontTooLarge);
+    EXPECT_FALSE(hasPicture());
+    QDir().mkpath(folders.GetAppDataFolder());
+    platform::replaceFile(folders.FontFolder().chopped(1), "a file in the place of the folder");
+    generate(QStringLiteral("12"), {});
+    EXPECT_TRUE(prompts.shown().back().text.contains(store.standardPath(window.request())));
+    EXPECT_TRUE(hasPicture());
+}
+
+// Counts how often the generator's window comes up.
+class Appearances final : public QObject
+{
+public:
+    Appearances() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::Show && qobject_cast<frmFontGen *>(watched) ? 1 : 0;
+        return false;
     }
-}
+    int count = 0;
+};
 
-TEST(FontWindow, reportsAFolderThatTakesNoFiles)
+TEST(FontOfTheDesign, comesFromItsFilesWhichTheWindowMakesWhenTheyAreMissing)
 {
-    FontWindow world;
-    QDir().mkpath(world.folders.GetAppDataFolder());
-    platform::replaceFile(world.folders.FontFolder().chopped(1), "a file in the place of the folder");
-    const QString path = world.store.standardPath(world.window.request());
-    world.prompts.expectMessage({});
-    world.field<QPushButton>("cmdGenerate").click();
-    ASSERT_EQ(world.prompts.shown().size(), 1U);
-    EXPECT_TRUE(world.prompts.shown()[0].text.contains(path));
-    EXPECT_TRUE(world.window.isEnabled());
-}
+    test::DesignWindow d;
+    const Appearances windows;
+    const FontRequest request{QStringLiteral("Arial"), 12, {}};
+    const auto font = d.design().textFont(request);
+    ASSERT_TRUE(font && font->glyph(u'H'));
+    EXPECT_EQ(d.design().textFont(request), font);
+    EXPECT_EQ(windows.count, 1);
+    EXPECT_TRUE(d.window.isEnabled() && !QApplication::overrideCursor());
 
-TEST(FontWindow, showsEverythingWhole)
-{
-    FontWindow world;
-    for (const QWidget *widget : world.window.findChildren<QWidget *>()) {
-        const bool hasText =
-            qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget);
-        if (hasText && widget->isVisible() && !widget->objectName().isEmpty()) {
-            EXPECT_GE(widget->width(), widget->sizeHint().width()) << widget->objectName().toStdString();
-            EXPECT_GE(widget->height(), widget->sizeHint().height()) << widget->objectName().toStdString();
-        }
-    }
-    EXPECT_FALSE(world.window.grab().isNull());
+    d.world.prompts.expectMessage(FontTooLarge);
+    EXPECT_FALSE(d.design().textFont({request.face, 999, {}}));
+    EXPECT_EQ(windows.count, 2);
 }
 
 // A face that the desktop hands over table by table gives the same pixels as its file.
@@ -132,16 +117,15 @@ TEST(InstalledFaces, lookTheSameAsTheirFiles)
 {
     platform::registerShippedFaces(ProgramFolder + QStringLiteral("fonts/"));
     platform::NoProgress progress;
-    for (const FontStyle style :
-         {FontStyle{}, FontStyle{true}, FontStyle{false, true}, FontStyle{true, true}}) {
-        const FontRequest request{QStringLiteral("Liberation Sans"), 15, style};
+    for (const FontStyle style : {FontStyle{}, FontStyle{true}, FontStyle{false, true}}) {
+        const FontRequest request{ShippedFace, 15, style};
         const auto shipped = renderFont(request, ProgramFolder + QStringLiteral("fonts/"), progress);
         const auto installed = renderFont(request, QStringLiteral("/no/such/folder/"), progress);
         ASSERT_TRUE(shipped && installed);
         EXPECT_EQ(installed->standard, shipped->standard) << style.bold << style.italic;
         EXPECT_EQ(installed->extended, shipped->extended) << style.bold << style.italic;
     }
-    EXPECT_TRUE(offeredFaces().contains(QStringLiteral("Liberation Sans")));
+    EXPECT_TRUE(offeredFaces().contains(ShippedFace));
 }
 
 } // namespace

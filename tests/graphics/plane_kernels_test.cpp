@@ -83,40 +83,34 @@ TEST_P(EachKernelSet, mixesEveryDifferenceByEveryWeight)
 TEST_P(EachKernelSet, keepsToItsLine)
 {
     Pixels pixels(101);
-    Bytes alpha(101);
+    Bytes bytes(101);
     for (std::size_t i = 0; i < pixels.size(); ++i) {
         pixels[i] = static_cast<QRgb>(i * 2654435761u);
-        alpha[i] = static_cast<quint8>(i * 37);
+        bytes[i] = static_cast<quint8>(i * 37);
     }
-    for (qsizetype width = 0; width <= 100; ++width) {
-        const auto end = static_cast<std::size_t>(width) + 1;
-        const std::size_t chromaEnd = end / 2 + 1;
+    for (std::size_t width = 0; width <= 100; ++width) {
+        const auto length = static_cast<qsizetype>(width);
+        const std::size_t chromaWidth = (width + 1) / 2, evenWidth = width / 2 * 2;
         Bytes y(102, Untouched), u(102, Untouched), v(102, Untouched);
-        GetParam()->luma(pixels.data() + 1, y.data() + 1, width);
-        GetParam()->chroma(pixels.data() + 1, u.data() + 1, v.data() + 1, width);
-        EXPECT_TRUE(y[end] == Untouched && u[chromaEnd] == Untouched && v[chromaEnd] == Untouched) << width;
-        for (std::size_t i = 1; i < end; ++i) {
-            EXPECT_EQ(y[i], reference::yuvOf(pixels[i])[0]) << width;
-            if (i % 2 == 1) {
-                EXPECT_EQ(u[i / 2 + 1], reference::yuvOf(pixels[i])[1]) << width;
-                EXPECT_EQ(v[i / 2 + 1], reference::yuvOf(pixels[i])[2]) << width;
-            }
-        }
-
-        Pixels mixed(102, Untouched);
-        GetParam()->compose(mixed.data() + 1, pixels.data() + 1, alpha.data() + 1, 200, width);
-        EXPECT_EQ(mixed[end], Untouched) << width;
-        for (std::size_t i = 1; i < end; ++i)
-            EXPECT_EQ(qBlue(mixed[i]), reference::mixed(Untouched, qBlue(pixels[i]), alpha[i], 200)) << width;
-
-        const std::size_t even = (end - 1) / 2 * 2 + 1;
-        Pixels drawn(102, Untouched);
-        GetParam()->picture(alpha.data() + 1, alpha.data() + 3, alpha.data() + 5, drawn.data() + 1,
-                            width / 2 * 2);
-        EXPECT_EQ(drawn[even], Untouched) << width;
-        for (std::size_t i = 1; i < even; ++i) {
+        Pixels mixed(102, Untouched), drawn(102, Untouched);
+        GetParam()->luma(&pixels[1], &y[1], length);
+        GetParam()->chroma(&pixels[1], &u[1], &v[1], length);
+        GetParam()->compose(&mixed[1], &pixels[1], &bytes[1], 200, length);
+        GetParam()->picture(&bytes[1], &bytes[3], &bytes[5], &drawn[1], static_cast<qsizetype>(evenWidth));
+        EXPECT_TRUE(y[width + 1] == Untouched && mixed[width + 1] == Untouched) << width;
+        EXPECT_TRUE(u[chromaWidth + 1] == Untouched && v[chromaWidth + 1] == Untouched) << width;
+        EXPECT_EQ(drawn[evenWidth + 1], Untouched) << width;
+        for (std::size_t i = 1; i <= width; ++i) {
             const std::size_t block = (i - 1) / 2;
-            EXPECT_EQ(drawn[i], reference::pixelOf(alpha[i], alpha[block + 3], alpha[block + 5])) << width;
+            const auto wanted = reference::yuvOf(pixels[i]),
+                       sampled = reference::yuvOf(pixels[2 * block + 1]);
+            EXPECT_EQ(y[i], wanted[0]) << width;
+            EXPECT_TRUE(u[block + 1] == sampled[1] && v[block + 1] == sampled[2]) << width;
+            EXPECT_EQ(qBlue(mixed[i]), reference::mixed(Untouched, qBlue(pixels[i]), bytes[i], 200)) << width;
+            if (i <= evenWidth) {
+                EXPECT_EQ(drawn[i], reference::pixelOf(bytes[i], bytes[block + 3], bytes[block + 5]))
+                    << width;
+            }
         }
     }
 }

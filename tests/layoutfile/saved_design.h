@@ -18,9 +18,9 @@ inline layoutfile::SaveResult save(DesignWindow &d, const QString &path, control
 {
     shell::ProgramState &state = d.world.state;
     platform::NoProgress progress;
-    return layoutfile::SaveVGL(
-        path, kind,
-        {surface, state.catalogue, state.settings, d.world.prompts, progress, state.stamp, state.screen});
+    return layoutfile::SaveVGL(path, kind,
+                               {surface, state.catalogue, state.settings, state.fonts, d.world.prompts,
+                                progress, state.stamp, state.screen});
 }
 
 inline QByteArray savedDesign(DesignWindow &d)

@@ -18,13 +18,13 @@ namespace graphics {
 namespace {
 
 constexpr int UsualSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72, 96, 144};
-constexpr int FirstSize = 12;
 constexpr int LargestSize = 999;
 constexpr QSize PreviewSize(520, 170);
 
 } // namespace
 
-frmFontGen::frmFontGen(FontStore &fonts, platform::Prompts &prompts, QWidget *parent)
+frmFontGen::frmFontGen(FontStore &fonts, const FontRequest &first, platform::Prompts &prompts,
+                       QWidget *parent)
     : QDialog(parent), m_fonts(fonts), m_prompts(prompts), m_face(new QComboBox), m_size(new QComboBox),
       m_preview(new QLabel), m_status(new QLabel), m_bar(new QProgressBar)
 {
@@ -44,7 +44,7 @@ frmFontGen::frmFontGen(FontStore &fonts, platform::Prompts &prompts, QWidget *pa
     layout->addWidget(m_status);
     layout->addWidget(m_bar);
     layout->addWidget(buildButtons());
-    setRequest({DefaultFace, FirstSize, {}});
+    setRequest(first);
     connect(m_face, &QComboBox::currentTextChanged, this, &frmFontGen::refreshPreview);
     connect(m_size, &QComboBox::currentTextChanged, this, &frmFontGen::refreshPreview);
     for (const QCheckBox *style : {m_bold, m_italic, m_strikethrough, m_underline})
@@ -64,6 +64,7 @@ QWidget *frmFontGen::buildChoice()
     m_size->setObjectName(QStringLiteral("cmbFontSize"));
     m_size->setAccessibleName(QStringLiteral("Size in points"));
     m_size->setEditable(true);
+    m_size->setCompleter(nullptr); // it would make a typed 7 a 72
     m_size->setInsertPolicy(QComboBox::NoInsert);
     m_size->setValidator(new QIntValidator(1, LargestSize, m_size));
     for (const int size : UsualSizes)
@@ -158,7 +159,7 @@ void frmFontGen::generate()
     bool made = false;
     platform::reportFailures(m_prompts, [&] {
         const platform::Busy busy(this);
-        made = m_fonts.generate(chosen, *this);
+        made = m_fonts.generate(chosen, *this, m_prompts);
     });
     if (made) {
         m_status->setText(
@@ -202,6 +203,17 @@ void frmFontGen::showPreview(const QImage &picture, const QString &textInstead)
         m_preview->setText(textInstead);
     else
         m_preview->setPixmap(QPixmap::fromImage(picture));
+}
+
+bool ensureInWindow(FontStore &fonts, const FontRequest &request, platform::Prompts &prompts, QWidget *parent)
+{
+    if (fonts.has(request))
+        return true;
+    const platform::Busy busy(parent);
+    frmFontGen window(fonts, request, prompts, parent);
+    window.setModal(true);
+    window.show();
+    return fonts.generate(request, window, prompts);
 }
 
 } // namespace graphics

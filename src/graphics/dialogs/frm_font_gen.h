@@ -11,23 +11,23 @@
 
 namespace graphics {
 
-// The window that makes font files: face, size and style, how the result looks, and how far the work is. It
-// can also be the progress display of a font that somebody else makes.
+// The window that makes font files: face, size and style, how the result looks, and how far the work is.
 class frmFontGen final : public QDialog, public platform::Progress
 {
     Q_OBJECT
 
 public:
-    frmFontGen(FontStore &fonts, platform::Prompts &prompts, QWidget *parent);
+    // Opens with this font chosen.
+    frmFontGen(FontStore &fonts, const FontRequest &first, platform::Prompts &prompts, QWidget *parent);
 
     FontRequest request() const;
-    void setRequest(const FontRequest &request);
 
     void begin(const QString &status) override;
     void setValue(int percent) override;
     void end() override {}
 
 private:
+    void setRequest(const FontRequest &request);
     QWidget *buildChoice();
     QWidget *buildPreview();
     QWidget *buildButtons();
@@ -49,5 +49,10 @@ private:
     QLabel *m_status;
     QProgressBar *m_bar;
 };
+
+// Makes the files of a font when one of them is missing; the window is on show meanwhile, and `parent` waits
+// under the hourglass. Results as FontStore::ensure().
+bool ensureInWindow(FontStore &fonts, const FontRequest &request, platform::Prompts &prompts,
+                    QWidget *parent);
 
 } // namespace graphics
