@@ -107,16 +107,11 @@ std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot, Vid
 
 std::optional<Needle> previewNeedle(const GaugeValues &values, VideoStandard standard)
 {
-    const auto fraction = fractionOfScale(values);
-    if (!fraction)
-        return std::nullopt;
-    const double degrees = 90 - (values.curMinAngle + (values.curMaxAngle - values.curMinAngle) * *fraction);
-    const double r = degrees / DegreesPerRadian;
-    const double squeeze = standard == VideoStandard::Pal ? 1.0 : NtscSqueeze;
     const QPointF pivot(values.curCenterX, values.curCenterY);
-    return Needle{pivot,
-                  {pivot.x() + values.curPointerLength * std::cos(r),
-                   pivot.y() - values.curPointerLength * std::sin(r) * squeeze}};
+    auto needle = designNeedle(values, pivot, standard);
+    if (needle)
+        needle->tail = pivot;
+    return needle;
 }
 
 // The horizontal unit serves both directions: deliberate.

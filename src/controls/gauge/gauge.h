@@ -35,6 +35,7 @@ struct Needle
 };
 std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot,
                                    recorder::VideoStandard standard);
+// The same needle as the recorder draws it: on the canvas, without the pixel behind the pivot.
 std::optional<Needle> previewNeedle(const GaugeValues &values, recorder::VideoStandard standard);
 
 class Gauge final : public ControlOf<GaugeValues>
