@@ -44,6 +44,11 @@ TEST_F(Marks, ClicksAndCtrlClicksColourTheFrames)
     // A second click with Ctrl takes a control out again; its frame is plain, not selected.
     click(three, Inside, Qt::ControlModifier);
     EXPECT_EQ(frames().mid(1), (QList<QColor>{Blue, White}));
+    for (const auto reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+        w.canvas().setFocus();
+        three.setFocus(reason); // given back, not chosen
+        EXPECT_EQ(frames().mid(1), (QList<QColor>{Blue, White}));
+    }
     // A press on a member, also on its grip, keeps the group.
     click(three, Inside, Qt::ControlModifier);
     click(two, Inside);
@@ -94,6 +99,9 @@ TEST_F(Marks, TheRightButtonOpensTheMenuOfTheControlOrTheGroup)
     QTest::mouseClick(&three, Qt::RightButton, {}, Inside);
     QTest::mouseClick(&w.canvas(), Qt::RightButton, {}, {20, 20});
     EXPECT_EQ(groupMenu.size(), 3);
+    QTest::mouseClick(&one, Qt::RightButton, Qt::ShiftModifier, Inside); // no menu, a press like any other
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(frame(one), Red);
 }
 
 TEST_F(Marks, TheFocusRaisesAControlAndShowsItSelected)
@@ -126,25 +134,24 @@ TEST_F(Marks, TabAndTheToolbarStepThroughTheControlsInTheirOrder)
 TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)
 {
     OverlayControl &gauge = w.addGauge(300, 300);
-    const std::pair<std::function<void()>, const char *> ways[] = {
-        {[&] { QTest::keyClick(&one, Qt::Key_Return); }, "Bar Graph Properties"},
-        {[&] { QTest::keyClick(&gauge, Qt::Key_Space); }, "Analogue Dial Properties"},
-        {[&] { w.pressToolButton("cmdEnter"); }, "Analogue Dial Properties"},
+    QString title;
+    const auto closeDialog = [&title] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        title = dialog->windowTitle();
+        dialog->close();
     };
-    for (const auto &[open, title] : ways) {
-        QString shown;
-        QTimer::singleShot(0, &w.window, [&shown] {
-            if (QWidget *dialog = QApplication::activeModalWidget()) {
-                shown = dialog->windowTitle();
-                dialog->close();
-            }
-        });
-        open();
-        EXPECT_EQ(shown, title);
-        w.window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&w.window));
-        gauge.setFocus();
-    }
+    QTimer::singleShot(0, &w.window, closeDialog);
+    QTest::keyClick(&one, Qt::Key_Return);
+    EXPECT_EQ(title, "Bar Graph Properties");
+    w.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w.window));
+    gauge.setFocus();
+    QTimer::singleShot(0, &w.window, closeDialog);
+    w.pressToolButton("cmdEnter");
+    EXPECT_EQ(title, "Analogue Dial Properties");
+    QTimer::singleShot(0, &w.window, closeDialog);
+    QTest::keyClick(&one, Qt::Key_Space);
+    EXPECT_EQ(title, "Bar Graph Properties");
 }
 
 } // namespace

@@ -85,31 +85,27 @@ TEST(Moving, ThePositionPropertiesNameTheSamePlaceOnEveryPath)
 {
     DesignWindow w(80);
     for (OverlayControl *control : QList<OverlayControl *>{&w.addGauge(250, 430), &w.addBar(101, 540)}) {
-        const auto corner = [&] { return QPoint(control->width() - 2, control->height() - 2); };
-        const std::pair<const char *, std::function<void()>> paths[] = {
-            {"added", [] {}},
-            {"dragged",
-             [&] {
-                 test::drag(*control, {20, 15}, {{31, -17}, {44, -23}});
-             }},
-            {"resized",
-             [&] {
-                 test::drag(*control, corner(), {{25, 20}, {37, 24}});
-             }},
-            {"resized at the top left",
-             [&] {
-                 test::drag(*control, {2, 2}, {{-25, -20}, {-31, -7}});
-             }},
-            {"dragged to the edge",
-             [&] {
-                 test::drag(*control, {20, 15}, {{0, 900}});
-             }},
-            {"NTSC", [&] { w.run("mnuNTSC"); }},
-            {"PAL", [&] { w.run("mnuPAL"); }},
+        const struct
+        {
+            const char *name;
+            QPoint from; // negative: from the far corner
+            QList<QPoint> way;
+        } gestures[] = {
+            {"none yet", {}, {}},
+            {"a drag", {20, 15}, {{31, -17}, {44, -23}}},
+            {"a grip", {-2, -2}, {{25, 20}, {37, 24}}},
+            {"the top left grip", {2, 2}, {{-25, -20}, {-31, -7}}},
+            {"a drag to the edge", {20, 15}, {{0, 900}}},
         };
-        for (const auto &[name, go] : paths) {
+        for (const auto &[name, from, way] : gestures) {
             SCOPED_TRACE(name);
-            go();
+            if (!from.isNull())
+                test::drag(*control, from.x() < 0 ? control->rect().bottomRight() + from : from, way);
+            expectSteadyPlace(w, *control);
+        }
+        for (const char *command : {"mnuNTSC", "mnuPAL"}) {
+            SCOPED_TRACE(command);
+            w.run(command);
             expectSteadyPlace(w, *control);
         }
     }
