@@ -1,5 +1,6 @@
 #include "layoutfile/layout_file.h"
 
+#include "common/code_page.h"
 #include "layoutfile/modCRC.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "common/bytes.h"
-#include "common/code_page.h"
 #include "common/colour.h"
 
 #include <QByteArray>
@@ -52,8 +51,6 @@ struct FixedText
 {
     static constexpr int Width = N;
     QByteArray text; // in the code page
-
-    bool operator==(const FixedText &) const = default;
 };
 
 // Text padded with blanks to N bytes, without a NUL.
@@ -62,16 +59,12 @@ struct PaddedText
 {
     static constexpr int Width = N;
     QByteArray text;
-
-    bool operator==(const PaddedText &) const = default;
 };
 
 // The rest of a record whose length the frame states.
 struct Bulk
 {
     QByteArray bytes;
-
-    bool operator==(const Bulk &) const = default;
 };
 
 struct VideoSourceRecord
