@@ -48,12 +48,4 @@ std::vector<Record> recordsOf(const QByteArray &file)
     return found;
 }
 
-template <typename Control, typename Change>
-void change(Control &control, Change &&apply)
-{
-    auto values = control.get();
-    apply(values);
-    control.set(values);
-}
-
 } // namespace test
