@@ -3,7 +3,6 @@
 #include "shell/file_commands.h"
 #include "shell/variable_commands.h"
 
-#include <QActionGroup>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
