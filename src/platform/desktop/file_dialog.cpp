@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QGridLayout>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QUrl>
@@ -58,6 +59,8 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
     if (request.preview)
         addPreview(request.preview);
     resize(820, 460);
+    if (auto *splitter = findChild<QSplitter *>())
+        splitter->setSizes({160, width() - 160}); // the names of volumes are read, not guessed
 }
 
 void FileDialog::addPreview(const std::function<QImage(const QString &)> &preview)
