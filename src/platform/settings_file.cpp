@@ -1,18 +1,24 @@
 #include "platform/settings_file.h"
 
+#include "common/run_time_error.h"
 #include "platform/file_replace.h"
+#include "platform/guards.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 namespace platform {
 
 SettingsFile::SettingsFile(const QString &path) : m_path(path)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        m_ini = common::IniFile::parse(file.readAll());
+    if (QFileInfo::exists(path))
+        m_wasRead = skipFailures([&] { m_ini = common::IniFile::parse(readFile(path)); });
 }
 
-void SettingsFile::save() const { replaceFile(m_path, m_ini.bytes()); }
+void SettingsFile::save() const
+{
+    if (!m_wasRead)
+        throw common::RunTimeError(QStringLiteral("%1: the old content cannot be read").arg(m_path));
+    replaceFile(m_path, m_ini.bytes());
+}
 
 } // namespace platform

@@ -23,11 +23,13 @@ public:
     }
     void removeSection(const QString &section) { m_ini.removeSection(section); }
 
-    // Throws RunTimeError when the file cannot be written.
+    // Throws RunTimeError when the file cannot be written, or when it could not be read: what it holds would
+    // be lost.
     void save() const;
 
 private:
     QString m_path;
+    bool m_wasRead = true; // or is not there
     common::IniFile m_ini;
 };
 
