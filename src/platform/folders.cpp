@@ -17,10 +17,20 @@ QString privateFolder(const QString &parent, const QString &name)
 {
     if (parent.isEmpty())
         return {};
-    const QString path = parent + QLatin1Char('/') + name;
+    const QString path = withSeparator(parent) + name;
     QDir().mkpath(path);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return withSeparator(path);
+}
+
+// Per user and, where the system knows the difference, the one that follows the user from desk to desk.
+QString applicationDataRoot()
+{
+#ifdef Q_OS_WIN
+    return QDir::fromNativeSeparators(qEnvironmentVariable("APPDATA"));
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+#endif
 }
 
 } // namespace
@@ -38,10 +48,10 @@ Folders desktopFolders(const QString &programFolder)
     using Paths = QStandardPaths;
     Folders folders;
     folders.program = withSeparator(programFolder);
-    folders.applicationData = withSeparator(Paths::writableLocation(Paths::GenericDataLocation));
+    folders.applicationData = withSeparator(applicationDataRoot());
     folders.cache =
         privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), QStringLiteral("morvel-config"));
-    folders.temporary = privateFolder(folders.cache.chopped(1), QStringLiteral("temporary"));
+    folders.temporary = privateFolder(folders.cache, QStringLiteral("temporary"));
     return folders;
 }
 
