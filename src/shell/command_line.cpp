@@ -1,6 +1,7 @@
 #include "shell/command_line.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace shell {
 
@@ -12,6 +13,18 @@ bool isBareSwitch(const QString &argument)
 {
     return argument.compare(QLatin1String("/F"), Qt::CaseInsensitive) == 0 ||
            argument.compare(QLatin1String("/T"), Qt::CaseInsensitive) == 0;
+}
+
+QStringList bareSwitchesJoined(const QStringList &arguments)
+{
+    QStringList joined;
+    for (const QString &argument : arguments) {
+        if (!joined.isEmpty() && isBareSwitch(joined.last()))
+            joined.last().append(argument);
+        else
+            joined.append(argument);
+    }
+    return joined;
 }
 
 QString slashesTurned(const QString &argument)
@@ -43,15 +56,19 @@ std::optional<recorder::VideoStandard> standardOf(const QString &word)
 
 } // namespace
 
+QStringList argumentsForProgram(const QStringList &arguments)
+{
+    QStringList passed = bareSwitchesJoined(arguments);
+    for (QString &argument : passed) {
+        if (const QFileInfo file(argument); file.isFile())
+            argument = QStringLiteral("/F") + file.absoluteFilePath();
+    }
+    return passed;
+}
+
 QString rawCommandLine(const QStringList &arguments)
 {
-    QStringList joined;
-    for (const QString &argument : arguments) {
-        if (!joined.isEmpty() && isBareSwitch(joined.last()))
-            joined.last().append(argument);
-        else
-            joined.append(argument);
-    }
+    QStringList joined = bareSwitchesJoined(arguments);
     for (QString &argument : joined)
         argument = slashesTurned(argument);
     return joined.join(QLatin1Char(' '));

@@ -4,32 +4,12 @@
 #include "platform/desktop/appearance.h"
 #include "platform/desktop/qt_prompts.h"
 #include "platform/guards.h"
+#include "shell/command_line.h"
 #include "shell/seed_user_data.h"
 #include "shell/single_instance.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QProcess>
-
-namespace {
-
-bool isPlainFile(const QString &argument)
-{
-    const bool isSwitch = argument.startsWith(QLatin1String("/F"), Qt::CaseInsensitive) ||
-                          argument.startsWith(QLatin1String("/T"), Qt::CaseInsensitive);
-    return (!isSwitch || QFileInfo(argument).isFile()) && QFileInfo::exists(argument);
-}
-
-QStringList programArguments(const QStringList &arguments)
-{
-    QStringList result;
-    for (const QString &argument : arguments)
-        result.append(isPlainFile(argument) ? QStringLiteral("/F") + QFileInfo(argument).absoluteFilePath()
-                                            : argument);
-    return result;
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -41,7 +21,7 @@ int main(int argc, char **argv)
         platform::reportFailures(prompts, [&] { shell::seedUserData(platform::desktopFolders(folder)); });
     if (!seeded)
         return EXIT_FAILURE;
-    const QStringList passed = programArguments(QApplication::arguments().sliced(1));
+    const QStringList passed = shell::argumentsForProgram(QApplication::arguments().sliced(1));
     const int status = QProcess::execute(folder + QStringLiteral("/morvel-config"), passed);
     if (status == shell::AlreadyRunning && !passed.isEmpty())
         prompts.message(

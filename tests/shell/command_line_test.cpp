@@ -1,5 +1,8 @@
 #include "shell/command_line.h"
 
+#include <QFileInfo>
+#include <QTemporaryFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -35,6 +38,15 @@ TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
     }
     const auto always = [](const QString &) { return true; };
     EXPECT_EQ(parseCommandLine("x.VGL /Fa.VGL/b.VGL", always).layoutToOpen, "a.VGL"); // cut at every slash
+}
+
+TEST(CommandLine, passesAPlainFileOnByItsLetter)
+{
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    const QString path = QFileInfo(file).absoluteFilePath();
+    EXPECT_EQ(argumentsForProgram({path, "/F", path, "/x", "/t", "pal"}),
+              (QStringList{"/F" + path, "/F" + path, "/x", "/tpal"}));
 }
 
 } // namespace
