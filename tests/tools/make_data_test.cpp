@@ -41,62 +41,63 @@ void expectProblem(const Problems &problems, const char *place, const char *what
     EXPECT_TRUE(problems.lines()[0].contains(QLatin1String(what))) << qPrintable(problems.lines()[0]);
 }
 
-struct BrokenLine
+const QByteArray GoodMessages = "8 | Speed | 100Hz | 25Hz | 0\n";
+
+// The tables as they are built, one of them with a line more.
+struct Fault
 {
-    QByteArray line; // added behind the good ones
+    const char *file;
+    QByteArray line;
     const char *what;
+
+    QByteArray in(const char *name) const { return qstrcmp(file, name) == 0 ? line : QByteArray(); }
 };
 
-TEST(CatalogueBuilder, namesTheLineOfEachFaultyUnit)
+TEST(Builders, nameTheLineOfEachFault)
 {
-    const BrokenLine broken[] = {
-        {"mph | mph | value$1$0 | Twice", "taken by line 2"},
-        {" | mph | value$1$0 | Nameless", "missing"},
-        {"kn | kn | value$1$0", "4 cells"},
-        {"kn | kn | value$1 | One coefficient", "\"$\""},
-        {"kn | kn | value$1$0$0 | Three coefficients", "\"$\""},
-        {"kn | kn | value$1$0x | Stray letter", "\"0x\""},
-        {"kn | kn |  | No conversion", "missing"},
-        {"kn | kn | x/ | Half an equation", "does not compile"},
-        {"kn | kn | value$0$0 | Always 0", "does not compile"},
-        {"kn | \xCE\xBA | value$1$0 | Greek label", "code page"},
-        {"kn | \xB0 | value$1$0 | Not encoded", "UTF-8"},
+    constexpr auto Units = "units.txt:3", Variables = "variables.txt:3", Messages = "messages.txt:2";
+    const Fault faults[] = {
+        {Units, "mph | mph | value$1$0 | Twice", "taken by line 2"},
+        {Units, " | mph | value$1$0 | Nameless", "missing"},
+        {Units, "kn | kn | value$1$0", "4 cells"},
+        {Units, "kn | kn | value$1 | One coefficient", "\"$\""},
+        {Units, "kn | kn | value$1$0$0 | Three coefficients", "\"$\""},
+        {Units, "kn | kn | value$1$0x | Stray letter", "\"0x\""},
+        {Units, "kn | kn |  | No conversion", "missing"},
+        {Units, "kn | kn | x/ | Half an equation", "does not compile"},
+        {Units, "kn | kn | value$0$0 | Always 0", "does not compile"},
+        {Units, "kn | \xCE\xBA | value$1$0 | Greek label", "code page"},
+        {Units, "kn | \xB0 | value$1$0 | Not encoded", "UTF-8"},
+        {Variables, "3 | ENGINE | Engine | 0 | 9 | furlongs | | Text", "unknown unit \"furlongs\""},
+        {Variables, "3 | ENGINE | Engine | 0 | 9 |  | | Text", "unknown unit"},
+        {Variables, "6 | ENGINE | Engine | 0 | 9 | mph | | Text", "no variable 6"},
+        {Variables, "8001 | ENGINE | Engine | 0 | 9 | mph | | Text", "8001"},
+        {Variables, "2 | ENGINE | Engine | 0 | 9 | mph | | Text", "index \"2\" is taken by line 2"},
+        {Variables, "3 | SPEED | Engine | 0 | 9 | mph | | Text", "physical name \"SPEED\""},
+        {Variables, "3 | ENGINE | speed [again] | 0 | 9 | mph | | Text", "name \"speed [again]\""},
+        {Variables, "3 | ENGINE | Engine | low | 9 | mph | | Text", "\"low\" is not a number"},
+        {Variables, "3 | ENGINE | Engine | 0 | inf | mph | | Text", "\"inf\" is not a number"},
+        {Variables, "3 | ENGINE | Engine | 0 | 9 | mph | smooth | Text", "\"\" is not a number"},
+        {Variables, "3 | ENGINE | Engine | 0 | 9 | mph | nevr | Text", "unknown option \"nevr\""},
+        {Variables, "3 | ENGINE | Engine | 0 | 9 | mph | | Text | x", "8 cells expected, 9 found"},
+        {Variables, "[10 More]", "\"10\""},
+        {Messages, "8 | Again | 5Hz | 5Hz | 0", "twice"},
+        {Messages, "256 | Late | 5Hz | 5Hz | 0", "\"256\""},
+        {Messages, "9 | Name | 5Hz | 5Hz", "5 cells"},
+        {Messages, "9 | Name | 30Hz | 5Hz | 0", "\"30Hz\""},
+        {Messages, "9 | Name | On | 5Hz | 1", "\"5Hz\""},
+        {Messages, "9 | Name | On | On | 3", "\"3\""},
+        {Messages, "9 | " + QByteArray(51, 'n') + " | 5Hz | 5Hz | 0", "longer than 50"},
     };
-    for (const BrokenLine &fault : broken) {
+    for (const Fault &fault : faults) {
         Problems problems;
-        const TextTable units =
-            make_data::parseTable(QStringLiteral("units.txt"), GoodUnits + fault.line, problems);
-        const TextTable rows =
-            make_data::parseTable(QStringLiteral("variables.txt"), GoodVariables, problems);
-        make_data::buildCatalogue(units, rows, problems);
-        expectProblem(problems, "units.txt:3: ", fault.what);
-    }
-}
-
-TEST(CatalogueBuilder, namesTheLineOfEachFaultyVariable)
-{
-    const BrokenLine broken[] = {
-        {"3 | ENGINE | Engine | 0 | 9 | furlongs | | Text", "unknown unit \"furlongs\""},
-        {"3 | ENGINE | Engine | 0 | 9 |  | | Text", "unknown unit"},
-        {"6 | ENGINE | Engine | 0 | 9 | mph | | Text", "no variable 6"},
-        {"8001 | ENGINE | Engine | 0 | 9 | mph | | Text", "8001"},
-        {"2 | ENGINE | Engine | 0 | 9 | mph | | Text", "index \"2\" is taken by line 2"},
-        {"3 | SPEED | Engine | 0 | 9 | mph | | Text", "physical name \"SPEED\""},
-        {"3 | ENGINE | speed [again] | 0 | 9 | mph | | Text", "name \"speed [again]\""},
-        {"3 | ENGINE | Engine | low | 9 | mph | | Text", "\"low\" is not a number"},
-        {"3 | ENGINE | Engine | 0 | inf | mph | | Text", "\"inf\" is not a number"},
-        {"3 | ENGINE | Engine | 0 | 9 | mph | smooth | Text", "\"\" is not a number"},
-        {"3 | ENGINE | Engine | 0 | 9 | mph | nevr | Text", "unknown option \"nevr\""},
-        {"3 | ENGINE | Engine | 0 | 9 | mph | | Text | x", "8 cells expected, 9 found"},
-        {"[10 More]", "\"10\""},
-    };
-    for (const BrokenLine &fault : broken) {
-        Problems problems;
-        const TextTable units = make_data::parseTable(QStringLiteral("units.txt"), GoodUnits, problems);
-        const TextTable rows =
-            make_data::parseTable(QStringLiteral("variables.txt"), GoodVariables + fault.line, problems);
-        make_data::buildCatalogue(units, rows, problems);
-        expectProblem(problems, "variables.txt:3: ", fault.what);
+        const auto table = [&](const char *name, const QByteArray &good, const char *file) {
+            return make_data::parseTable(QLatin1String(name), good + fault.in(file), problems);
+        };
+        const TextTable units = table("units.txt", GoodUnits, Units);
+        make_data::buildCatalogue(units, table("variables.txt", GoodVariables, Variables), problems);
+        make_data::buildMessages(table("messages.txt", GoodMessages, Messages), problems);
+        expectProblem(problems, fault.file, fault.what);
     }
 }
 
@@ -108,26 +109,6 @@ TEST(CatalogueBuilder, equationsHaveToCompile)
         "[4 User defined variables]\n6001 | SUM | Sum | 0 | 9 | | | Text | 2*var_2 | m\n", problems);
     make_data::buildCatalogue({}, rows, problems);
     expectProblem(problems, "variables.txt:2: ", "does not compile");
-}
-
-TEST(MessageBuilder, namesTheLineOfEachFaultyMessage)
-{
-    const BrokenLine broken[] = {
-        {"8 | Again | 5Hz | 5Hz | 0", "twice"},
-        {"256 | Late | 5Hz | 5Hz | 0", "\"256\""},
-        {"9 | Name | 5Hz | 5Hz", "5 cells"},
-        {"9 | Name | 30Hz | 5Hz | 0", "\"30Hz\""},
-        {"9 | Name | On | 5Hz | 1", "\"5Hz\""},
-        {"9 | Name | On | On | 3", "\"3\""},
-        {"9 | " + QByteArray(51, 'n') + " | 5Hz | 5Hz | 0", "longer than 50"},
-    };
-    for (const BrokenLine &fault : broken) {
-        Problems problems;
-        const QByteArray text = "8 | Speed | 100Hz | 25Hz | 0\n" + fault.line;
-        make_data::buildMessages(make_data::parseTable(QStringLiteral("messages.txt"), text, problems),
-                                 problems);
-        expectProblem(problems, "messages.txt:2: ", fault.what);
-    }
 }
 
 TEST(CatalogueBuilder, keepsWhatARowSays)
