@@ -67,7 +67,7 @@ protected:
     void addColourVariable(qint32 variable, float minimum, float maximum);
     void addRow(const QString &label, QWidget *field, const QString &unit = {});
 
-    // The number of an id or a float as a field shows it.
+    // A float as a field shows it, with the locale's decimal mark.
     QString shown(float value) const;
     ColourVariableForm colourVariableForm() const;
 
