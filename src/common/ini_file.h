@@ -21,9 +21,10 @@ public:
     // characters.
     QString read(const QString &section, const QString &key, const QString &fallback, int bufferSize) const;
 
-    // Sets the value, or removes the key when there is none. Refuses (false) a section, key or value that
-    // could not be read back: characters outside the code page, line breaks, "=" or a leading "[" or ";" in a
-    // key, "]" in a section, an empty name.
+    // Sets the value, or removes the key when there is none. Refuses (false) a section or key that could not
+    // be read back (empty, with characters outside the code page or line breaks, "=" or a leading "[" or ";"
+    // in a key, "]" in a section) and a value with line breaks. Characters of a value that the code page
+    // does not have become "?".
     bool write(const QString &section, const QString &key, const std::optional<QString> &value);
     void removeSection(const QString &section);
 

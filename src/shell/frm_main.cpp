@@ -59,8 +59,10 @@ struct CommandTable
          [](frmMain &w) { w.m_files.mnuPrdCPULoad(); }},
         {"mnuFile", "", "", "", "", false, nullptr},
         {"mnuFile", "mnuExit", "E&xit", "menu/exit", "Ctrl+Q", false, [](frmMain &w) { w.close(); }},
-        {"mnuView", "mnuPAL", "PAL", "", "", true, [](frmMain &w) { w.setStandard(VideoStandard::Pal); }},
-        {"mnuView", "mnuNTSC", "NTSC", "", "", true, [](frmMain &w) { w.setStandard(VideoStandard::Ntsc); }},
+        {"mnuView", "mnuPAL", "PAL", "", "", true,
+         [](frmMain &w) { w.m_design->setVideoStandard(VideoStandard::Pal); }},
+        {"mnuView", "mnuNTSC", "NTSC", "", "", true,
+         [](frmMain &w) { w.m_design->setVideoStandard(VideoStandard::Ntsc); }},
         {"mnuView", "", "", "", "", false, nullptr},
         {"mnuView", "mnuPanelDesign", "&Design Panel", "", "Ctrl+1", true, &togglePanel<PanelId::Design>},
         {"mnuView", "mnuPanelLibrary", "&Control Library Panel", "", "Ctrl+2", true,
@@ -68,11 +70,11 @@ struct CommandTable
         {"mnuView", "mnuPanelFunctions", "&Variables Panel", "", "Ctrl+3", true,
          &togglePanel<PanelId::Functions>},
         {"mnuEncodePattern", "mnuI", "I", "", "", true,
-         [](frmMain &w) { w.setEncodePattern(EncodePattern::I); }},
+         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::I; }},
         {"mnuEncodePattern", "mnuIP", "IP", "", "", true,
-         [](frmMain &w) { w.setEncodePattern(EncodePattern::IP); }},
+         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::IP; }},
         {"mnuEncodePattern", "mnuIPB", "IPB", "", "", true,
-         [](frmMain &w) { w.setEncodePattern(EncodePattern::IPB); }},
+         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::IPB; }},
         {"mnuHelp", "mnuAbout", "About Us", "menu/about", "", false,
          [](frmMain &w) { frmStartSplash(w.m_state.folders, &w).exec(); }},
         {"Toolbar", "cmdLeft", "Nudge left", "toolbar/left", "", false,
@@ -253,10 +255,6 @@ void frmMain::refreshFromState()
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());
 }
-
-void frmMain::setStandard(VideoStandard standard) { m_design->setVideoStandard(standard); }
-
-void frmMain::setEncodePattern(EncodePattern pattern) { m_state.settings.encodePattern = pattern; }
 
 // Toolbar buttons do not take the focus, so the key reaches the control that has it.
 void frmMain::sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers)

@@ -38,8 +38,6 @@ private:
     QAction *makeAction(const CommandRow &row);
     QAction *action(const char *name) const;
     void fillAddMenu(QMenu &menu, const QString &prefix);
-    void setStandard(recorder::VideoStandard standard);
-    void setEncodePattern(recorder::EncodePattern pattern);
     void sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     ProgramState &m_state;

@@ -1,4 +1,5 @@
 #include "platform/desktop/appearance.h"
+#include "platform/desktop/qt_prompts.h"
 #include "shell/single_instance.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
@@ -23,6 +24,8 @@ int main(int argc, char **argv)
         prompts);
     if (!start.run())
         return EXIT_FAILURE;
+    if (start.window()->isHidden())
+        return EXIT_SUCCESS; // closed while it was starting
     shell::closeOnTermination(&application);
     return QApplication::exec();
 }

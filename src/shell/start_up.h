@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/desktop/qt_prompts.h"
 #include "shell/command_line.h"
 #include "shell/frm_main.h"
 

@@ -3,7 +3,6 @@
 #include "graphics/dialogs/frm_font_gen.h"
 #include "platform/guards.h"
 #include "surface/canvas.h"
-#include "surface/library_icons.h"
 #include "surface/library_panel.h"
 #include "surface/overlay_picture.h"
 #include "surface/panel_area.h"

@@ -1,6 +1,5 @@
 // The design window's start, its background pictures and grid, and what it keeps in the settings file.
 
-#include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/frm_interface.h"
 #include "surface/library_icons.h"

@@ -13,7 +13,11 @@ class Panel final : public QFrame
 public:
     Panel(const QString &title, QWidget *content, QWidget *parent);
 
-    void setTitle(const QString &title) { m_title->setText(title); }
+    void setTitle(const QString &title)
+    {
+        m_title->setText(title);
+        setAccessibleName(title);
+    }
 
 signals:
     void closeRequested();

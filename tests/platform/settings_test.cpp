@@ -30,11 +30,7 @@ TEST_F(Settings, numbersAreReadAndPulledIntoTheirBounds)
         {keys::Library.top, "894", 894},
         {keys::Library.top, "12895", 12894},
         {keys::Library.top, "rubbish", 854},
-        {keys::Library.height, "649", 650},
-        {keys::Library.height, "12317", 12316},
-        {keys::Functions.width, "649", 650},
         {keys::Design.height, "433", 434},
-        {keys::Design.height, "12475", 12474},
         {keys::Design.left, "-5", -5},
         {keys::GridSize, "rubbish", 0},
         {keys::GridSize, "\" 120 twips\"", 120},
@@ -54,12 +50,10 @@ TEST_F(Settings, savedValuesAreThereAtTheNextStart)
 {
     SettingsFile file = fileOf("[VISIBLE]\n2=0\nmine=kept\n[design]\nheight=500");
     keys::VideoType.write(file, 0);
-    keys::Library.top.write(file, -1);
     keys::PalPicture.write(file, QString(120, 'p'));
     file.save();
     const SettingsFile next(path);
     EXPECT_EQ(keys::VideoType.read(next), 0);
-    EXPECT_EQ(keys::Library.top.read(next), 854);
     EXPECT_EQ(keys::PalPicture.read(next).size(), 99);
     EXPECT_EQ(keys::Visible[2].read(next), 0);
     EXPECT_EQ(next.read("VISIBLE", "mine", {}, 10), "kept");
