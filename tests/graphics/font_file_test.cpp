@@ -2,8 +2,12 @@
 #include "graphics/font_file.h"
 #include "graphics/font_name.h"
 #include "graphics/glyph_lists.h"
+#include "graphics/modDrawFont.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <map>
+#include <numeric>
 
 namespace graphics {
 
@@ -24,10 +28,9 @@ QByteArray hex(const char *digits) { return QByteArray::fromHex(digits); }
 TEST(FontName, isTakenApartIntoWhatItWasBuiltFrom)
 {
     const std::pair<FontRequest, const char *> cases[] = {
-        {{text("Arial"), 12, {}}, "Arial  12.qlg"},
+        {{text("Gill B"), 12, {}}, "Gill B  12.qlg"},
         {{text("QL Sans Serif"), 9, {true, true, true, true}}, "QL Sans Serif BISU 9.qlg"},
-        {{text("Gill B"), 8, {}}, "Gill B  8.qlg"},
-        {{text("Slab 3"), 10, {false, false, true}}, "Slab 3 S 10.qlg"},
+        {{text("Gill B 3"), 8, {false, false, true}}, "Gill B 3 S 8.qlg"},
     };
     for (const auto &[request, name] : cases) {
         EXPECT_EQ(fontFileName(request), text(name));
@@ -72,9 +75,7 @@ TEST(GlyphLookUp, findsEveryCharacterOfBothListsAndNoOther)
 TEST(RowCoding, writesAndReadsTheStatedBytes)
 {
     const std::pair<Row, QByteArray> cases[] = {
-        {{}, {}},
-        {{1, 128, 254}, hex("01 80 fe")},
-        {{0, 0, 255, 255, 255, 7, 0}, hex("0002 ff03 07 0001")},
+        {{0, 0, 255, 255, 255, 1, 128, 254, 0}, hex("0002 ff03 01 80 fe 0001")},
         {Row(255, 0), hex("00ff 0000")},
         {Row(256, 255), hex("ffff ff01")},
         {Row(255, 0) + Row{9}, hex("00ff 0000 09")},
@@ -104,23 +105,13 @@ TEST(FontFile, holdsItsFieldsInTheStatedOrderAndIsRefusedWhenDamaged)
     EXPECT_FALSE(readFontFile(good + 'x', 2));
     for (qsizetype length = 0; length < good.size(); ++length)
         EXPECT_FALSE(readFontFile(good.first(length), 2)) << "cut at " << length;
-    const std::tuple<const char *, int, int> cases[] = {
-        {"data length", 0, 4},
-        {"negative data length", 3, 0x80},
-        {"row count", 4, 3},
-        {"negative row count", 7, 0xFF},
-        {"offset", 9, 3},
-        {"offset behind the data", 10, 1},
-        {"negative offset", 12, 0x80},
-        {"a wider glyph", 17, 200},
-        {"a higher glyph", 18, 3},
-        {"a run past its row", 26, 3},
-        {"a run that goes nowhere", 29, 0},
-    };
-    for (const auto &[what, place, value] : cases) {
+    // Lengths, counts and offsets too small, too large and negative; larger glyphs; wrong runs.
+    const std::pair<int, int> damages[] = {{0, 4},     {3, 0x80}, {4, 3},  {7, 0xFF}, {9, 3}, {10, 1},
+                                           {12, 0x80}, {17, 200}, {18, 3}, {26, 3},   {29, 0}};
+    for (const auto &[place, value] : damages) {
         QByteArray bad = good;
         bad[place] = static_cast<char>(value);
-        EXPECT_FALSE(readFontFile(bad, 2)) << what;
+        EXPECT_FALSE(readFontFile(bad, 2)) << place;
     }
 }
 
@@ -130,11 +121,9 @@ TEST(FontFile, takesNothingThatItsFieldsCannotHold)
     while (longest.size() < 127)
         longest = longest + Row{0, 255};
     const std::tuple<const char *, int, Glyph, bool> cases[] = {
-        {"widest", 1, {254, 1, 0, Row(254, 9)}, true},
+        {"the largest", 255, {254, 254, 254, Row(254 * 254, 9)}, true},
         {"too wide", 1, {255, 1, 0, Row(255, 9)}, false},
-        {"highest", 254, {1, 254, 0, Row(254, 9)}, true},
         {"too high", 255, {1, 255, 0, Row(255, 9)}, false},
-        {"lowest", 255, {1, 1, 254, {9}}, true},
         {"too low", 255, {1, 1, 255, {9}}, false},
         {"line too high", 256, {1, 1, 254, {9}}, false},
         {"longest row", 1, {127, 1, 0, longest}, true},
@@ -143,6 +132,110 @@ TEST(FontFile, takesNothingThatItsFieldsCannotHold)
     };
     for (const auto &[what, line, glyph, fits] : cases)
         EXPECT_EQ(FontFile({line, {glyph}}).has_value(), fits) << what;
+}
+
+constexpr QRgb Ground = 0xFF204060;
+constexpr int LineHeight = 9;
+
+QByteArray fileOf(int glyphCount, int lineHeight, const std::map<char16_t, Glyph> &glyphs)
+{
+    RasterFont font{lineHeight, std::vector<Glyph>(static_cast<std::size_t>(glyphCount))};
+    for (const auto &[character, glyph] : glyphs)
+        font.glyphs.at(static_cast<std::size_t>(lookUpGlyph(character).index)) = glyph;
+    return *FontFile(font);
+}
+
+// "A" is 2 x 2, one row below the top; "j" is 5 wide and blank; "!" is one pixel in the other file; "B" is a
+// strip of all coverages from 1 to 254.
+TextFont font()
+{
+    Glyph strip{254, 1, 0, std::vector<quint8>(254)};
+    std::iota(strip.coverage.begin(), strip.coverage.end(), quint8{1});
+    const Glyph a{2, 2, 1, {255, 0, 128, 255}}, j{5, 1, 0, {0, 0, 0, 0, 0}}, mark{1, 1, 4, {255}};
+    return *TextFont::fromFiles(fileOf(StandardGlyphs, LineHeight, {{u'A', a}, {u'B', strip}, {u'j', j}}),
+                                fileOf(ExtendedGlyphs, LineHeight + 3, {{u'!', mark}}));
+}
+
+QImage surface(int width, int height, QRgb colour = Ground)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+
+// Where the image differs from the ground, as "x,y x,y ..." row by row.
+std::string changedPixels(const QImage &image)
+{
+    std::string places;
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const int x = i % image.width(), y = i / image.width();
+        if (image.pixel(x, y) != Ground)
+            places += std::to_string(x) + "," + std::to_string(y) + " ";
+    }
+    return places;
+}
+
+TEST(DrawText, movesThePenByWidthAndTwoAndDrawsWhatLiesOnTheSurface)
+{
+    const std::tuple<const char *, QPoint, int, const char *> cases[] = {
+        {"", {10, 3}, 0, ""},
+        {"AA", {10, 3}, 8, "10,4 14,4 10,5 11,5 14,5 15,5 "},
+        {"A!", {10, 3}, 7, "10,4 10,5 11,5 14,7 "},
+        {" !", {10, 3}, 10, "17,7 "}, // a blank moves as far as "j"
+        {"~!", {10, 3}, 10, "17,7 "},
+        {"C!", {10, 3}, 5, "12,7 "}, // an empty glyph
+        {"A", {-1, -1}, 4, "0,1 "},
+        {"A", {0, -2}, 4, "0,0 1,0 "},
+        {"A", {59, 17}, 4, "59,18 59,19 "},
+        {"A", {58, 18}, 4, "58,19 "},
+        {"A", {-2000000000, -2000000000}, 4, ""},
+        {"A", {2000000000, 2000000000}, 4, ""},
+    };
+    for (const auto &[text, place, advance, pixels] : cases) {
+        QImage image = surface(60, 20);
+        const TextExtent extent{place.x() + advance, LineHeight};
+        EXPECT_EQ(drawText(font(), QLatin1String(text), {place, 0xFFFFFF}, image), extent) << text;
+        EXPECT_EQ(changedPixels(image), pixels) << text << " at " << place.x() << ", " << place.y();
+        EXPECT_EQ(font().penBehind(QString::fromLatin1(text), place.x()), extent.width) << text;
+    }
+}
+
+TEST(DrawText, mixesEveryComponentByCoverageAndOpacity)
+{
+    for (const int opacity : {0, 1, 128, 254, 255}) {
+        for (const QColor below : {QColor(0, 0, 0), QColor(255, 255, 255), QColor(200, 5, 1)}) {
+            for (const QColor ink : {QColor(0, 0, 0), QColor(255, 255, 255), QColor(48, 32, 16)}) {
+                QImage image = surface(254, 1, below.rgb());
+                const auto packed = static_cast<quint32>(ink.red() | ink.green() << 8 | ink.blue() << 16);
+                drawText(font(), QStringLiteral("B"), {{}, packed, static_cast<quint8>(opacity)}, image);
+                for (int x = 0; x < 254; ++x) {
+                    const auto mixed = [a = (x + 1) / 255.0 * (opacity / 255.0)](int background, int text) {
+                        return static_cast<int>(std::nearbyint((1 - a) * background + a * text));
+                    };
+                    const QRgb wanted = qRgb(mixed(below.red(), ink.red()), mixed(below.green(), ink.green()),
+                                             mixed(below.blue(), ink.blue()));
+                    ASSERT_EQ(image.pixel(x, 0), wanted) << "coverage " << x + 1 << ", opacity " << opacity;
+                }
+            }
+        }
+    }
+}
+
+TEST(DrawText, fillsTheLineFromTheBackgroundUpToTheRightEdge)
+{
+    QImage background = surface(760, 30);
+    for (int i = 0; i < 760 * 30; ++i)
+        background.setPixel(i % 760, i / 760, 0xFF000000 | static_cast<QRgb>(i));
+    for (const int left : {700, 730}) { // behind the edge nothing is filled
+        QImage image = surface(760, 30);
+        drawText(font(), QStringLiteral("!"), {{left, 12}, 0xFFFFFF, 255, &background}, image);
+        for (int i = 0; i < 760 * 30; ++i) {
+            const int x = i % 760, y = i / 760;
+            const bool filled = x >= left && x < 720 && y >= 12 && y < 12 + LineHeight;
+            const QRgb below = filled ? background.pixel(x, y) : Ground;
+            ASSERT_EQ(image.pixel(x, y), x == left && y == 16 ? 0xFFFFFFFF : below) << x << ", " << y;
+        }
+    }
 }
 
 } // namespace

@@ -53,11 +53,10 @@ TEST_F(FontWindow, makesTheChosenFontByKeyboardAlone)
     EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(QStringLiteral("Liberation Sans stands in")));
 
     press(Qt::Key_Return);
-    const QStringList written = {QStringLiteral("Ext_QL Sans Serif I 7.qlg"),
-                                 QStringLiteral("QL Sans Serif I 7.qlg")};
-    EXPECT_EQ(files(), written);
+    const QString written = QStringLiteral("QL Sans Serif I 7.qlg");
+    EXPECT_EQ(files(), QStringList({QStringLiteral("Ext_") + written, written}));
     EXPECT_EQ(field<QProgressBar>("pBar").value(), 100);
-    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(written[1]));
+    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(written));
     EXPECT_TRUE(window.isEnabled() && !QApplication::overrideCursor());
     press(Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
@@ -117,14 +116,11 @@ TEST(InstalledFaces, lookTheSameAsTheirFiles)
 {
     platform::registerShippedFaces(ProgramFolder + QStringLiteral("fonts/"));
     platform::NoProgress progress;
-    for (const FontStyle style : {FontStyle{}, FontStyle{true}, FontStyle{false, true}}) {
-        const FontRequest request{ShippedFace, 15, style};
-        const auto shipped = renderFont(request, ProgramFolder + QStringLiteral("fonts/"), progress);
-        const auto installed = renderFont(request, QStringLiteral("/no/such/folder/"), progress);
-        ASSERT_TRUE(shipped && installed);
-        EXPECT_EQ(installed->standard, shipped->standard) << style.bold << style.italic;
-        EXPECT_EQ(installed->extended, shipped->extended) << style.bold << style.italic;
-    }
+    const FontRequest request{ShippedFace, 15, {true, true}};
+    const auto shipped = renderFont(request, ProgramFolder + QStringLiteral("fonts/"), progress);
+    const auto installed = renderFont(request, QStringLiteral("/no/such/folder/"), progress);
+    ASSERT_TRUE(shipped && installed);
+    EXPECT_TRUE(installed->standard == shipped->standard && installed->extended == shipped->extended);
     EXPECT_TRUE(offeredFaces().contains(ShippedFace));
 }
 

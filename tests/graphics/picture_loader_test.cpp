@@ -1,11 +1,15 @@
-#include "common/bytes.h"
+#include "fuzz/targets.h"
 #include "graphics/picture_loader.h"
+#include "platform/file_replace.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QDataStream>
+#include <QDir>
+#include <QTemporaryFile>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace {
 
@@ -25,20 +29,12 @@ struct BmpForm
 
 QByteArray bmp(const BmpForm &form)
 {
-    common::ByteWriter file;
-    const auto start = static_cast<quint32>(54 + form.behindHeader.size());
-    file.put(QByteArrayView("BM"));
-    for (const quint32 field : {static_cast<quint32>(start + form.data.size()), 0U, start, 40U})
-        file.put(field);
-    file.put(form.width);
-    file.put(form.height);
-    file.put(quint16{1});
-    file.put(form.bitsPerPixel);
-    file.put(form.compression);
-    file.put(QByteArrayView(QByteArray(20, '\0')));
-    file.put(QByteArrayView(form.behindHeader));
-    file.put(QByteArrayView(form.data));
-    return file.bytes();
+    QByteArray file("BM\0\0\0\0\0\0\0\0", 10);
+    QDataStream header(&file, QIODevice::Append);
+    header.setByteOrder(QDataStream::LittleEndian);
+    header << static_cast<quint32>(54 + form.behindHeader.size()) << quint32{40} << form.width << form.height
+           << quint16{1} << form.bitsPerPixel << form.compression;
+    return file + QByteArray(20, '\0') + form.behindHeader + form.data;
 }
 
 QByteArray hex(const char *digits) { return QByteArray::fromHex(digits); }
@@ -80,9 +76,8 @@ TEST(PictureLoader, readsEveryFormOfBmpAndRefusesOneThatIsCutAnywhere)
 
 QByteArray encoded(const char *format)
 {
-    QImage picture(40, 30, QImage::Format_RGB32);
-    for (uint i = 0; i < 1200; ++i)
-        picture.setPixel(int(i % 40), int(i / 40), i * 2654435761u);
+    QImage picture(40, 30, QImage::Format_RGB888);
+    std::generate_n(picture.bits(), picture.sizeInBytes(), std::minstd_rand());
     QBuffer buffer;
     picture.save(&buffer, format);
     return buffer.data();
@@ -101,9 +96,6 @@ TEST(PictureLoader, tellsWhyAFileIsRefused)
         {"another format", "GIF89a" + QByteArray(100, 1), PictureFault::NotAPicture},
         {"65,535 x 65,535", header(24, 0, 65535, 65535), PictureFault::TooLarge},
         {"the largest numbers", header(32, 0, 0x7FFFFFFF, -0x7FFFFFFF - 1), PictureFault::TooLarge},
-        {"long and flat", header(1, 0, 4097, 1), PictureFault::TooLarge},
-        {"no width", header(24, 0, 0, 2), PictureFault::NotAPicture},
-        {"negative width", header(24, 0, -2, 2), PictureFault::NotAPicture},
         {"no height", header(24, 0, 2, 0), PictureFault::NotAPicture},
         {"unknown depth", header(23, 0, 2, 2), PictureFault::NotAPicture},
         {"unknown coding", header(24, 9, 2, 2), PictureFault::NotAPicture},
@@ -123,13 +115,10 @@ TEST(PictureLoader, tellsWhyAFileIsRefused)
 
 TEST(PictureLoader, readsFilesAndNothingElse)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("picture.jpg"))); // the name does not count
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bmp(Forms[0]));
-    file.close();
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open() && file.write(bmp(Forms[0])) > 0 && file.flush());
     EXPECT_TRUE(graphics::loadPicture(file.fileName()));
-    EXPECT_EQ(graphics::loadPicture(folder.path()).fault, PictureFault::Unreadable);
+    EXPECT_EQ(graphics::loadPicture(QDir::tempPath()).fault, PictureFault::Unreadable);
     // Larger than any picture within the limits: told without reading it (the file has no blocks).
     ASSERT_TRUE(file.resize(qint64{1} << 40));
     EXPECT_EQ(graphics::loadPicture(file.fileName()).fault, PictureFault::TooLarge);
@@ -137,20 +126,29 @@ TEST(PictureLoader, readsFilesAndNothingElse)
 
 TEST(Sampled, picksPixelsAtScaledPlaces)
 {
-    QImage row(5, 1, QImage::Format_RGB32);
-    for (int x = 0; x < 5; ++x)
-        row.setPixel(x, 0, qRgb(x, 2 * x, 3 * x));
-    const std::vector<int> picked[] = {{0}, {0, 1, 3}, {0, 1, 2, 3, 4}, {0, 0, 1, 2, 2, 3, 4}};
-    for (const std::vector<int> &wanted : picked) {
-        const int size = static_cast<int>(wanted.size());
-        const QImage across = graphics::sampled(row, {size, 2});
-        const QImage down = graphics::sampled(row.transformed(QTransform().rotate(90)), {1, size});
-        for (int i = 0; i < size; ++i) {
-            const QRgb pixel = row.pixel(wanted[static_cast<std::size_t>(i)], 0);
-            EXPECT_TRUE(across.pixel(i, 1) == pixel && down.pixel(0, i) == pixel) << size << ' ' << i;
+    QImage source(5, 5, QImage::Format_RGB32);
+    for (int i = 0; i < 25; ++i)
+        source.setPixel(i % 5, i / 5, qRgb(i % 5, i / 5, i));
+    const int three[] = {0, 1, 3}, seven[] = {0, 0, 1, 2, 2, 3, 4};
+    const QImage picked = graphics::sampled(source, {3, 7});
+    for (int i = 0; i < 21; ++i)
+        EXPECT_EQ(picked.pixel(i % 3, i / 3), source.pixel(three[i % 3], seven[i / 3])) << i;
+    EXPECT_TRUE(graphics::sampled(source, {0, 3}).isNull() && graphics::sampled(QImage(), {3, 3}).isNull());
+}
+
+// What fuzzing found worth keeping.
+TEST(GraphicsCorpus, keepsEveryPromise)
+{
+    for (const auto &[name, target] :
+         {std::pair{"fuzz_font", &fuzz::font}, {"fuzz_picture", &fuzz::picture}}) {
+        const QDir folder(QStringLiteral(FUZZ_CORPUS "/") + QLatin1String(name));
+        const QFileInfoList entries = folder.entryInfoList(QDir::Files);
+        EXPECT_FALSE(entries.isEmpty());
+        for (const QFileInfo &entry : entries) {
+            const QByteArray content = platform::readFile(entry.filePath());
+            EXPECT_TRUE(target(content)) << qPrintable(entry.filePath());
         }
     }
-    EXPECT_TRUE(graphics::sampled(row, {0, 3}).isNull() && graphics::sampled(QImage(), {3, 3}).isNull());
 }
 
 } // namespace

@@ -11,7 +11,6 @@ namespace graphics {
 
 namespace {
 
-constexpr int Margin = 8;
 constexpr int LineGap = 4;
 constexpr quint32 White = 0x00FFFFFF;
 
@@ -28,10 +27,9 @@ QImage fontPreview(const TextFont &font)
         width = std::max(width, font.penBehind(line));
     const int step = font.lineHeight() + LineGap;
     const int height = step * static_cast<int>(SampleLines.size()) - LineGap;
-    QImage picture(width + 2 * Margin, height + 2 * Margin, QImage::Format_RGB32);
+    QImage picture(width, height, QImage::Format_RGB32);
     picture.fill(PreviewGround);
     TextLook look;
-    look.position = {Margin, Margin};
     look.colour = White;
     for (const QString &line : SampleLines) {
         drawText(font, line, look, picture);

@@ -96,6 +96,7 @@ QWidget *frmFontGen::buildPreview()
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_preview->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_preview->setAutoFillBackground(true);
+    m_preview->setMargin(8);
     auto *area = new QScrollArea;
     area->setWidget(m_preview);
     area->setWidgetResizable(true);
