@@ -40,6 +40,14 @@ T toIntegerClamped(double value)
     return static_cast<T>(rounded);
 }
 
+// The value as a 32-bit float. Throws RunTimeError when it does not fit one or is NaN.
+inline float toSingle(double value)
+{
+    if (!(std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
+        throw RunTimeError(QStringLiteral("Overflow"));
+    return static_cast<float>(value);
+}
+
 // Whole-number division: both operands are rounded to whole numbers first, the quotient is truncated.
 // Throws RunTimeError when the divisor rounds to 0.
 inline int wholeDivide(double dividend, double divisor)

@@ -60,13 +60,6 @@ double numberOf(const PropertyValue &value)
     throw RunTimeError(QStringLiteral("Type mismatch"));
 }
 
-float toSingle(double value)
-{
-    if (!(std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
-        throw RunTimeError(QStringLiteral("Overflow"));
-    return static_cast<float>(value);
-}
-
 void fromProperty(const PropertyValue &value, QString &member)
 {
     const auto *text = std::get_if<QString>(&value);

@@ -88,8 +88,8 @@ inline PropertyValue toProperty(float value) { return value; }
 inline PropertyValue toProperty(const common::Colour &value) { return static_cast<qint32>(value.packed()); }
 inline PropertyValue toProperty(const QString &value) { return value; }
 
+using common::toSingle;
 double numberOf(const PropertyValue &value); // throws RunTimeError for text
-float toSingle(double value);                // throws RunTimeError when out of range
 
 template <std::integral T>
 void fromProperty(const PropertyValue &value, T &member)

@@ -16,6 +16,7 @@ namespace {
 
 using common::leadingNumber;
 using common::toInteger;
+using common::toSingle;
 using platform::skipFailures;
 
 // Texts gathered for the record that is being read, by tag. Tags are compared without regard to case.
@@ -72,11 +73,11 @@ constexpr std::array<const char *, 25> VariableTags{"ConstantName",
 constexpr std::array<const char *, 4> UnitTags{"UnitName", "Description", "Conversion", "Uniit"};
 
 // The walk of both files: depth first, a text goes to the slot of its parent's name, a node with two children
-// or more is a group, and at that moment the record gathered before it is complete.
+// or more is a group, and at that moment the record gathered before it is complete. The document is no node.
 template <std::size_t N>
 void walk(const QDomNode &node, Slots<N> &slots_, const std::function<void()> &recordComplete)
 {
-    if (node.isText())
+    if (node.nodeType() == QDomNode::TextNode) // not of a CDATA section
         slots_.store(node.parentNode().nodeName(), node.nodeValue());
     const QDomNodeList children = node.childNodes();
     if (children.count() >= 2)
@@ -115,17 +116,17 @@ public:
         r.Available = number("Available") != 0;
         skipFailures([&] { r.VariableType = toInteger<qint32>(local("VariableType")); });
         r.Description = m_texts["Description"];
-        skipFailures([&] { r.DefaultMin = static_cast<float>(local("DefaultMin")); });
-        skipFailures([&] { r.DefaultMax = static_cast<float>(local("DefaultMax")); });
-        skipFailures([&] { r.SmoothingTime = static_cast<float>(local("SmoothingTime")); });
-        skipFailures([&] { r.MaximumROC = static_cast<float>(local("MaximumROC")); });
+        skipFailures([&] { r.DefaultMin = toSingle(local("DefaultMin")); });
+        skipFailures([&] { r.DefaultMax = toSingle(local("DefaultMax")); });
+        skipFailures([&] { r.SmoothingTime = toSingle(local("SmoothingTime")); });
+        skipFailures([&] { r.MaximumROC = toSingle(local("MaximumROC")); });
         r.AllowTransformations = m_texts["AllowTransformations"].split(QLatin1Char('#'));
         r.ApplyTransformation = m_texts["ApplyTransformation"];
         skipFailures([&] { r.FilterDesign = toInteger<qint32>(number("FilterDesign")); });
         skipFailures([&] { r.calculus = toInteger<qint32>(number("Calculus")); });
-        r.FilterLowVal = static_cast<float>(number("FilterLowVal"));
-        r.FilterHighVal = static_cast<float>(number("FilterHighVal"));
-        r.FilterRipple = static_cast<float>(number("FilterRipple"));
+        skipFailures([&] { r.FilterLowVal = toSingle(number("FilterLowVal")); });
+        skipFailures([&] { r.FilterHighVal = toSingle(number("FilterHighVal")); });
+        skipFailures([&] { r.FilterRipple = toSingle(number("FilterRipple")); });
         skipFailures([&] { r.FilterOrder = toInteger<qint32>(number("FilterOrder")); });
         r.UseCustomTrans = number("UseCustomTrans") != 0;
         r.CustomTransformation = m_texts["CustomTransformation"];
@@ -157,7 +158,7 @@ VariableTable readVariables(const QDomDocument &document, const QString &decimal
         }
         texts.clear();
     };
-    walk(document, texts, store);
+    walk(document.documentElement(), texts, store);
     const bool sentinel = builder.record().IndexNumber == LastIndex;
     if (sentinel && table[LastIndex].IndexNumber == 0)
         store();
@@ -174,7 +175,7 @@ UnitTable readUnits(const QDomDocument &document)
         units.back() = {texts["UnitName"], texts["Description"], texts["Conversion"], texts["Uniit"]};
         texts.clear();
     };
-    walk(document, texts, [&] {
+    walk(document.documentElement(), texts, [&] {
         fillLast();
         units.emplace_back();
     });
