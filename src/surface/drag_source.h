@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDrag>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QMimeData>
 
@@ -9,7 +10,7 @@
 namespace surface {
 
 // An item view whose items are dragged as one text under one format: `textOf` answers what an item carries,
-// nothing for items that are not dragged.
+// nothing for items that are not dragged. Only the left button drags.
 template <typename View, typename Item>
 class DragSource final : public View
 {
@@ -25,6 +26,8 @@ public:
 protected:
     void startDrag(Qt::DropActions) override
     {
+        if (!(QGuiApplication::mouseButtons() & Qt::LeftButton))
+            return;
         const Item *item = this->currentItem();
         const QString text = item ? m_textOf(*item) : QString();
         if (text.isEmpty())

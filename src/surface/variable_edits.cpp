@@ -1,6 +1,7 @@
 #include "surface/variable_edits.h"
 
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "variables/number_parser.h"
 
 #include <QStringList>
@@ -11,12 +12,12 @@ using variables::VariableRecord;
 
 namespace {
 
-// Stores what was typed; an empty answer is a cancel.
+// Stores what was typed; an empty answer is a cancel. Throws RunTimeError for a number past all bounds.
 bool storeNumber(float &field, const QString &answer)
 {
     if (answer.trimmed().isEmpty())
         return false;
-    field = static_cast<float>(variables::parseNumber(answer));
+    field = common::toSingle(variables::parseNumber(answer));
     return true;
 }
 

@@ -141,6 +141,7 @@ void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index, Variab
 void VariableTree::RegenerateVariableTree()
 {
     const QSet<QString> open = expandedKeys(*m_tree);
+    const QString current = m_tree->currentItem() ? keyOf(m_tree->currentItem()) : QString();
     VariableIcons icons;
     QList<QTreeWidgetItem *> groups;
     for (const VariableGroupNode &group : VariableGroups) {
@@ -161,6 +162,16 @@ void VariableTree::RegenerateVariableTree()
         openBranches(open);
     if (!m_search->text().isEmpty())
         filter(m_search->text());
+    if (!current.isEmpty())
+        makeCurrent(current);
+}
+
+void VariableTree::makeCurrent(const QString &key)
+{
+    walk(m_tree->invisibleRootItem(), [&](QTreeWidgetItem *item) {
+        if (keyOf(item) == key && !m_tree->visualItemRect(item).isEmpty())
+            m_tree->setCurrentItem(item);
+    });
 }
 
 void VariableTree::openBranches(const QSet<QString> &keys)
@@ -172,7 +183,7 @@ void VariableTree::openBranches(const QSet<QString> &keys)
 void VariableTree::filter(const QString &text)
 {
     const bool searching = !text.trimmed().isEmpty();
-    if (searching && m_openBeforeSearch.isEmpty())
+    if (searching && !m_openBeforeSearch)
         m_openBeforeSearch = expandedKeys(*m_tree);
     for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
         QTreeWidgetItem *group = m_tree->topLevelItem(i);
@@ -186,9 +197,9 @@ void VariableTree::filter(const QString &text)
         if (searching)
             group->setExpanded(anyMatch);
     }
-    if (!searching) {
-        openBranches(m_openBeforeSearch);
-        m_openBeforeSearch.clear();
+    if (!searching && m_openBeforeSearch) {
+        openBranches(*m_openBeforeSearch);
+        m_openBeforeSearch.reset();
     }
 }
 
@@ -198,13 +209,11 @@ void VariableTree::edit(const QString &key)
     if (!line)
         return;
     bool changed = false;
-    platform::reportFailures(m_context.prompts, [&] { changed = editRecord(line->role, line->index); });
+    platform::skipFailures([&] { changed = editRecord(line->role, line->index); });
     if (!changed)
         return;
-    platform::reportFailures(m_context.prompts, [&] {
-        variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale);
-    });
-    RegenerateVariableTree(); // the edit stands even when the files could not be written
+    variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale);
+    RegenerateVariableTree();
 }
 
 bool VariableTree::editRecord(const QString &role, int index)

@@ -11,6 +11,8 @@
 #include <QTreeWidget>
 #include <QWidget>
 
+#include <optional>
+
 namespace surface {
 
 // What the tree of variables works on.
@@ -31,7 +33,7 @@ class VariableTree final : public QWidget
 public:
     explicit VariableTree(const VariableTreeContext &context);
 
-    // Builds the tree anew from the staging table; open branches stay open.
+    // Builds the tree anew from the staging table; open branches stay open, the current line stays current.
     void RegenerateVariableTree();
 
 signals:
@@ -44,12 +46,13 @@ private:
     bool editRecord(const QString &role, int index);
     void filter(const QString &text);
     void openBranches(const QSet<QString> &keys);
+    void makeCurrent(const QString &key); // the line of this key, unless it lies in a closed branch
 
     VariableTreeContext m_context;
     variables::VariableEditors m_editors;
     QLineEdit *m_search;
-    QTreeWidget *m_tree;              // VarTree
-    QSet<QString> m_openBeforeSearch; // branches to come back to when the search box is empty again
+    QTreeWidget *m_tree;                             // VarTree
+    std::optional<QSet<QString>> m_openBeforeSearch; // what a search that is under way goes back to
 };
 
 } // namespace surface

@@ -7,12 +7,13 @@
 namespace variables {
 
 // What follows every edit of the staging table: it becomes the live table, is normalised and copied back, and
-// the two files in the user data folder are written. Throws RunTimeError when one cannot be written; the
-// tables stand then.
+// the two files in the user data folder are written. A file that cannot be written is passed over; the edit
+// stands.
 void commitEdits(Catalogue &catalogue, const platform::Folders &folders,
                  const platform::NumberLocale &locale);
 
-// Writes the definition file and the XVR file of the live table.
+// Writes the XVR file and the definition file of the live table. Throws RunTimeError when one cannot be
+// written.
 void writeCatalogueFiles(const Catalogue &catalogue, const platform::Folders &folders,
                          const platform::NumberLocale &locale);
 

@@ -1,5 +1,9 @@
+#include "platform/file_replace.h"
 #include "support/design_window.h"
+#include "variables/definition_file.h"
 
+#include <QDir>
+#include <QLineEdit>
 #include <QTreeWidget>
 
 namespace {
@@ -40,6 +44,58 @@ TEST(VariableTree, ShowsAvailableVariablesInTheirGroupsAndKeepsOpenBranches)
     EXPECT_TRUE(gps->isExpanded() && gps->child(0)->isExpanded());
     EXPECT_FALSE(tree.topLevelItem(0)->isExpanded() || gps->child(0)->child(0)->isExpanded());
     EXPECT_EQ(gps->child(0)->child(3)->text(0), "Smoothed over: None Set");
+}
+
+TEST(VariableTree, APressEditsAndWritesBothFilesAsFarAsItCan)
+{
+    DesignWindow w;
+    const platform::Folders &folders = w.world.state.folders;
+    auto &tree = *w.window.findChild<QTreeWidget *>("VarTree");
+    tree.topLevelItem(0)->setExpanded(true);
+    tree.topLevelItem(0)->child(0)->setExpanded(true);
+    tree.topLevelItem(0)->child(0)->child(0)->setExpanded(true);
+    const auto lineOf = [&](int detail) {
+        QTreeWidgetItem *speed = tree.topLevelItem(0)->child(0);
+        return detail == 0 ? speed->child(0)->child(0) : speed->child(detail);
+    };
+    const auto answer = [&](int detail, const QString &typed) {
+        w.world.prompts.expectInput(typed);
+        test::click(*tree.viewport(), tree.visualItemRect(lineOf(detail)).center());
+        QCoreApplication::processEvents();
+        return lineOf(detail)->text(0);
+    };
+    const QString noLimit = "Maximum rate of change: None Set";
+    EXPECT_EQ(answer(0, ""), noLimit);
+    EXPECT_EQ(answer(0, "1e99"), noLimit);
+    EXPECT_FALSE(QFile::exists(folders.variablesFile()));
+
+    QDir().mkpath(folders.inUserData("QLM6ConfigTool.XVR/in the way"));
+    EXPECT_EQ(answer(0, "2,5"), "Maximum rate of change: 2.5");
+    EXPECT_EQ(answer(3, "0.5"), "Smoothed over: 0.5 seconds");
+    EXPECT_EQ(answer(2, " Pace "), "Variable Name: Pace");
+    EXPECT_EQ(tree.currentItem(), lineOf(2));
+    EXPECT_EQ(w.world.prompts.shown().back().text, "Please inputs a new name for Speed");
+    variables::Catalogue stored;
+    loadDefinitions(platform::readFile(folders.variablesFile()), stored);
+    EXPECT_EQ(stored.live[2].DisplayName, "Pace []");
+    EXPECT_EQ(stored.live[2].MaximumROC, 2.5F);
+}
+
+TEST(VariableTree, TheSearchIsOverWhenItsBoxIsEmpty)
+{
+    DesignWindow w;
+    auto &tree = *w.window.findChild<QTreeWidget *>("VarTree");
+    QTreeWidgetItem *standard = tree.topLevelItem(0);
+    auto &search = *w.window.findChild<QLineEdit *>("txtSearch");
+    QTest::keyClicks(&search, "eN");
+    EXPECT_TRUE(standard->isExpanded() && standard->child(0)->isHidden() && !standard->child(1)->isHidden());
+    EXPECT_TRUE(tree.topLevelItem(1)->isHidden());
+    search.clear();
+    EXPECT_FALSE(standard->isExpanded() || standard->child(0)->isHidden() ||
+                 tree.topLevelItem(1)->isHidden());
+    standard->setExpanded(true);
+    search.setText(" ");
+    EXPECT_TRUE(standard->isExpanded());
 }
 
 TEST(VariableTree, AVariableDroppedOnAControlIsBoundToIt)
