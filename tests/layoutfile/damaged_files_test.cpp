@@ -16,17 +16,13 @@ using test::withRecord;
 
 constexpr qint32 Largest = 0x7FFFFFFF, Smallest = -0x7FFFFFFF - 1;
 
-QByteArray gauge(QByteArray before)
+QByteArray gauge(const QByteArray &before) { return withRecord(before, 6, 41, 1, QByteArray(41, 'g')); }
+QByteArray standard(const QByteArray &before) { return withRecord(before, 12, 1, 1, bytes("00")); }
+QByteArray thumbnail(const QByteArray &before) { return withRecord(before, 23, 4, 1, "jpeg"); }
+// The second icon, of 8 x 2 pixels, whatever size is stated.
+QByteArray icon(const QByteArray &before, int size)
 {
-    return withRecord(std::move(before), 6, 41, 1, QByteArray(41, '\x01'));
-}
-QByteArray standard(QByteArray before) { return withRecord(std::move(before), 12, 1, 1, bytes("00")); }
-QByteArray thumbnail(QByteArray before) { return withRecord(std::move(before), 23, 4, 1, "jpeg"); }
-// 8 x 2 pixels, whatever size is stated.
-QByteArray icon(QByteArray before, qint32 size)
-{
-    return withRecord(std::move(before), 27, size, 1,
-                      bytes("02 0800 0200 0000 0000 FF") + QByteArray(24, 'i'));
+    return withRecord(before, 27, size, 1, bytes("02 0800 0200 0000 0000 FF") + QByteArray(24, 'i'));
 }
 // The frame alone: sync word, type, size, object 1.
 QByteArray frame(const char *type, qint32 size)
@@ -54,12 +50,10 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
     const QByteArray one = gauge(header());
     const QByteArray stray = bytes("DCEBFA00 1D00 'none' DCEBFA00 FFFF 'none' DCEBFA00 0000 'none'");
     const auto stating = [](const char *size) { return gauge(header()).replace(59, 4, bytes(size)); };
-    const struct
-    {
-        const char *name;
-        QByteArray content;
-        Types types;
-    } cases[] = {
+    const QByteArray largeIcon = frame("1B00", 42) + bytes("01 FF7F FF7F") + QByteArray(64, 'i');
+    const QByteArray negativeIcon = frame("1B00", 42) + bytes("01 F8FF FEFF") + QByteArray(29, 'i');
+    const QByteArray manyGears = frame("0F00", 26) + bytes("0000803F FF") + QByteArray(25, 'g');
+    const std::tuple<const char *, QByteArray, Types> cases[] = {
         {"a file of one byte", "x", {}},
         {"shorter than a header", header().first(30), {}},
         {"garbage between records", standard(one + "garbage between." + bytes("DCEB FA01")), {6, 12}},
@@ -68,28 +62,22 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
         {"a stated size that nobody needs", standard(stating("FFFFFF7F")), {6, 12}},
         {"a negative one", standard(stating("FFFFFFFF")), {6, 12}},
         {"an icon of another size than it states", standard(icon(header(), 4)), {27, 12}},
+        {"an icon of the largest size", standard(one + largeIcon), {6}},
+        {"an icon of negative sides", standard(one + negativeIcon), {6}},
         {"more planes than the file holds", standard(one + frame("1200", Largest)), {6}},
         {"a negative number of planes", standard(one + frame("1200", -1)), {6}},
         {"the least number of planes", standard(one + frame("1200", Smallest)), {6}},
-        {"an icon of the largest size",
-         standard(one + frame("1B00", 42) + bytes("01 FF7F FF7F") + QByteArray(64, 'i')),
-         {6}},
-        {"an icon of negative sides",
-         standard(one + frame("1B00", 42) + bytes("01 F8FF FEFF 0000 0000 FF") + QByteArray(24, 'i')),
-         {6}},
-        {"255 gears in room for two",
-         one + frame("0F00", 26) + bytes("0000803F FF") + QByteArray(25, 'g'),
-         {6}},
+        {"255 gears in room for two", one + manyGears, {6}},
         {"cut in a payload", one + standard(gauge({})).first(30), {6}},
         {"cut in a frame", one + frame("0600", 41).first(9), {6}},
         {"cut behind a sync word", one + bytes("DCEBFA00"), {6}},
         {"the CRC serves as the last sum", one.chopped(2), {6}},
     };
-    for (const auto &test : cases) {
+    for (const auto &[name, content, expected] : cases) {
         Types types;
-        for (const LayoutRecord &record : parseLayout(withCrc(test.content)))
+        for (const LayoutRecord &record : parseLayout(withCrc(content)))
             types.push_back(static_cast<int>(record.type()));
-        EXPECT_EQ(types, test.types) << test.name;
+        EXPECT_EQ(types, expected) << name;
     }
 }
 
