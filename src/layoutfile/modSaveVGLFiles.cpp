@@ -3,6 +3,7 @@
 #include "graphics/thumbnail.h"
 #include "layoutfile/family_records.h"
 #include "layoutfile/program_pass.h"
+#include "layoutfile/save_checks.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
 
@@ -36,30 +37,10 @@ int objectTotal(const ControlList &controls)
     return static_cast<int>(controls.size()) + countOf(controls, ControlType::BarGraph);
 }
 
-// The first complaint that the Save command shows.
-QString complaint(const ControlList &controls)
+DesignCounts countsOf(const ControlList &controls)
 {
-    if (countOf(controls, ControlType::TrackMap) > 1)
-        return QStringLiteral("System does not support more than one Track Map");
-    if (std::count_if(controls.begin(), controls.end(), isFullFrame) > 1)
-        return QStringLiteral("You can't use multiple Video Sources as background video\n"
-                              "Please select one Video Source as a background video");
-    if (objectTotal(controls) == 0)
-        return QStringLiteral("System can't detect any object(s) to save");
-    return {};
-}
-
-bool sharesCamera(const std::vector<LayoutRecord> &sources)
-{
-    for (auto one = sources.begin(); one != sources.end(); ++one) {
-        const bool shared = std::any_of(one + 1, sources.end(), [&](const LayoutRecord &other) {
-            return std::get<VideoSourceRecord>(other.body).cameraNo ==
-                   std::get<VideoSourceRecord>(one->body).cameraNo;
-        });
-        if (shared)
-            return true;
-    }
-    return false;
+    return {controls.size(), countOf(controls, ControlType::TrackMap),
+            std::count_if(controls.begin(), controls.end(), isFullFrame)};
 }
 
 void gatherControls(Gathering &save, const ControlList &controls, ProgressScope &progress)
@@ -197,7 +178,7 @@ SaveResult SaveVGL(const QString &path, SaveKind kind, const SaveContext &contex
         return SaveResult::NothingToDo;
     const ControlList controls = context.surface.controls();
     if (kind == SaveKind::Command) {
-        if (const QString text = complaint(controls); !text.isEmpty()) {
+        if (const QString text = saveComplaint(countsOf(controls)); !text.isEmpty()) {
             context.prompts.message(Icon::Critical, platform::ProductTitle, text);
             return SaveResult::Refused;
         }

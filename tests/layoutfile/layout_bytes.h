@@ -1,9 +1,9 @@
 #pragma once
 
 #include "layoutfile/layout_file.h"
+#include "layoutfile/modCRC.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace test {
 
@@ -27,19 +27,10 @@ inline QByteArray littleEndian(quint32 value, int size)
     return result;
 }
 
-// CRC-32 bit by bit.
-inline QByteArray crcOf(const QByteArray &file)
+inline QByteArray withCrc(const QByteArray &content)
 {
-    quint32 crc = 0xFFFFFFFF;
-    for (const char byte : file) {
-        crc ^= static_cast<quint8>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
-    }
-    return littleEndian(~crc, 4);
+    return content + littleEndian(layoutfile::modCRC(content), 4);
 }
-
-inline QByteArray withCrc(const QByteArray &content) { return content + crcOf(content); }
 
 // One record behind `before`: sync word, type, stated size, object, payload and the sum of the stated size
 // and twelve bytes, as far as there are so many.

@@ -2,108 +2,47 @@
 
 namespace {
 
-using namespace layoutfile;
-using controls::ControlType;
+using layoutfile::SaveKind;
+using layoutfile::SaveResult;
 using recorder::VideoStandard;
 using test::DesignWindow;
 
-struct PlainValues : controls::ControlValues
+// A design that cannot be seen.
+struct BlindSurface final : controls::ControlSurface
 {
-    qint32 curDivisor = 1;
-};
+    explicit BlindSurface(surface::frmInterface &shown) : design(shown) {}
 
-// Stands for a control of any family as far as the checks before a save look at it.
-struct PlainControl final : controls::ControlOf<PlainValues>
-{
-    using ControlOf::ControlOf;
-
-    void updatePosition() override {}
-    void AssignProperties() override {}
-    void applyInitialProperties() override {}
-    QSizeF startSize() const override { return {}; }
-    void paintPreview(QPainter &) const override {}
-    double complexity() const override { return 0; }
-    const controls::PropertyTable &properties() const override
-    {
-        static constexpr std::array Rows{
-            controls::property<&PlainValues::curDivisor>("curDivisor", "newDivisor")};
-        static constexpr controls::PropertyTable Table{Rows, {}};
-        return Table;
-    }
-    void paintInner(QPainter &, const QSize &) const override {}
-    void nudge(int, int) override {}
-};
-
-// A surface with plain controls of any families on it.
-struct PlainSurface final : controls::ControlSurface
-{
-    PlainSurface(surface::frmInterface &host, const std::vector<ControlType> &families)
-        : preview(host.renderPreview())
-    {
-        for (const ControlType family : families)
-            made.push_back(std::make_unique<PlainControl>(*controls::familyOf(family), host, nullptr));
-    }
-    QList<controls::OverlayControl *> controls() const override
-    {
-        QList<controls::OverlayControl *> list;
-        for (const auto &control : made)
-            list.append(control.get());
-        return list;
-    }
-    controls::OverlayControl *loadControl(ControlType) override { return nullptr; }
+    QList<controls::OverlayControl *> controls() const override { return design.controls(); }
+    controls::OverlayControl *loadControl(controls::ControlType) override { return nullptr; }
     void showControl(controls::OverlayControl &) override {}
-    QImage renderPreview() const override { return preview; }
+    QImage renderPreview() const override { return {}; }
     void setVideoStandard(VideoStandard) override {}
     void refresh() override {}
 
-    QImage preview;
-    std::vector<std::unique_ptr<PlainControl>> made;
+    surface::frmInterface &design;
 };
 
-constexpr auto Map = ControlType::TrackMap, Video = ControlType::VideoSource;
-
-TEST(Save, checksSpeakInTheirOrderAndOnlyForTheCommand)
+TEST(Save, refusesAnEmptyDesignAndGoesOnWithoutAThumbnail)
 {
-    const char *maps = "System does not support more than one Track Map";
-    const char *backgrounds = "You can't use multiple Video Sources as background video\n"
-                              "Please select one Video Source as a background video";
-    const char *nothing = "System can't detect any object(s) to save";
-    const char *silence = nullptr, *anyMessage = "";
-    const std::vector<ControlType> none, one{Map, Video}, full{Video, Map, Video},
-        most{Video, Map, Video, Map};
-    const struct
-    {
-        std::vector<ControlType> families;
-        SaveKind kind;
-        const char *message;
-        SaveResult result;
-        bool hasPicture = true;
-    } cases[] = {
-        {most, SaveKind::Command, maps, SaveResult::Refused},
-        {full, SaveKind::Command, backgrounds, SaveResult::Refused},
-        {none, SaveKind::Command, nothing, SaveResult::Refused},
-        {none, SaveKind::Workspace, silence, SaveResult::NothingToDo},
-        {none, SaveKind::Backup, silence, SaveResult::NothingToDo},
-        {most, SaveKind::Workspace, silence, SaveResult::Written},
-        {most, SaveKind::Backup, silence, SaveResult::Written},
-        {one, SaveKind::Command, silence, SaveResult::Written},
-        {one, SaveKind::Command, anyMessage, SaveResult::Written, false}, // the encoder's words
-        {one, SaveKind::Workspace, anyMessage, SaveResult::Written, false},
-        {one, SaveKind::Backup, silence, SaveResult::Written, false},
-    };
     DesignWindow d;
+    BlindSurface surface(d.design());
     const QString path = test::pathIn(d, "saved.VGL");
-    for (const auto &c : cases) {
-        PlainSurface surface(d.design(), c.families);
-        if (!c.hasPicture)
-            surface.preview = QImage();
-        platform::replaceFile(path, "old");
-        if (c.message)
-            d.world.prompts.expectMessage(*c.message ? QString(c.message) : QString());
-        EXPECT_EQ(test::save(d, path, surface, c.kind), c.result);
-        EXPECT_EQ(platform::readFile(path) != "old", c.result == SaveResult::Written);
+    for (const auto &[kind, empty] : {std::pair{SaveKind::Command, SaveResult::Refused},
+                                      std::pair{SaveKind::Workspace, SaveResult::NothingToDo},
+                                      std::pair{SaveKind::Backup, SaveResult::NothingToDo}}) {
+        if (kind == SaveKind::Command)
+            d.world.prompts.expectMessage("System can't detect any object(s) to save");
+        EXPECT_EQ(test::save(d, path, surface, kind), empty);
+        EXPECT_FALSE(QFile::exists(path));
+
+        controls::OverlayControl &bar = d.addBar(0, 0);
+        if (kind != SaveKind::Backup)
+            d.world.prompts.expectMessage({}); // the encoder's words
+        EXPECT_EQ(test::save(d, path, surface, kind), SaveResult::Written);
+        EXPECT_TRUE(QFile::remove(path));
+        EXPECT_EQ(test::save(d, {}, surface, kind), SaveResult::NothingToDo);
+        bar.mnuDelete_Click();
     }
-    EXPECT_EQ(test::save(d, {}, d.design()), SaveResult::NothingToDo);
 }
 
 // Pixels 120 to 360 and 240 to 360, filled up to 240, with a blue frame that must not be seen.
