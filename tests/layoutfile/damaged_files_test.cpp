@@ -1,6 +1,7 @@
 #include "fuzz/targets.h"
 #include "layoutfile/layout_bytes.h"
 #include "layoutfile/settings_from_records.h"
+#include "platform/file_replace.h"
 
 #include <QDir>
 
@@ -65,8 +66,7 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
         {"an icon of the largest size", standard(one + largeIcon), {6}},
         {"an icon of negative sides", standard(one + negativeIcon), {6}},
         {"more planes than the file holds", standard(one + frame("1200", Largest)), {6}},
-        {"a negative number of planes", standard(one + frame("1200", -1)), {6}},
-        {"the least number of planes", standard(one + frame("1200", Smallest)), {6}},
+        {"a negative number of planes", standard(one + frame("1200", Smallest)), {6}},
         {"255 gears in room for two", one + manyGears, {6}},
         {"cut in a payload", one + standard(gauge({})).first(30), {6}},
         {"cut in a frame", one + frame("0600", 41).first(9), {6}},
@@ -130,13 +130,10 @@ TEST(Corpus, keepsItsPromises)
 {
     const auto replay = [](const char *target, bool (*run)(QByteArrayView)) {
         const QDir folder(QStringLiteral(FUZZ_CORPUS "/") + QLatin1String(target));
-        const QStringList names = folder.entryList(QDir::Files);
-        EXPECT_FALSE(names.isEmpty()) << target;
-        for (const QString &name : names) {
-            QFile file(folder.filePath(name));
-            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            EXPECT_TRUE(run(file.readAll())) << target << ' ' << name.toStdString();
-        }
+        const QFileInfoList files = folder.entryInfoList(QDir::Files);
+        EXPECT_FALSE(files.isEmpty()) << target;
+        for (const QFileInfo &info : files)
+            EXPECT_TRUE(run(platform::readFile(info.filePath()))) << qPrintable(info.filePath());
     };
     replay("fuzz_layout", &fuzz::layout);
     replay("fuzz_definitions", &fuzz::definitions);

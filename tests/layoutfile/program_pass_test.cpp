@@ -1,8 +1,10 @@
 #include "layoutfile/fold_variables.h"
 #include "layoutfile/layout_bytes.h"
 #include "layoutfile/program_pass.h"
+#include "layoutfile/save_checks.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
@@ -56,12 +58,9 @@ TEST(UsedVariables, areThoseOfActiveConditionsAndOfUsedEquationsInOnePass)
     UsedVariables used;
     markSettings(used, settings);
     markReferences(used, catalogue.live);
-    std::vector<int> found;
-    for (int index = 0; index <= variables::LastIndex; ++index) {
-        if (used.isUsed(index))
-            found.push_back(index);
-    }
-    EXPECT_EQ(found, (std::vector<int>{10, 15, 16, 22, 6001, 6002, 6003}));
+    const std::set<int> expected{10, 15, 16, 22, 6001, 6002, 6003};
+    for (int index = 0; index <= variables::LastIndex; ++index)
+        EXPECT_EQ(used.isUsed(index), expected.contains(index)) << index;
 }
 
 TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
@@ -136,6 +135,27 @@ TEST(Folding, whatPointsNowhereChangesNoDefinition)
         EXPECT_TRUE(catalogue.live == expected.live)
             << entry.variable << ": " << entry.programLength << " bytes at " << entry.programOffset;
     }
+}
+
+TEST(SaveChecks, complainOfOneThingAtATime)
+{
+    EXPECT_EQ(saveComplaint({4, 2, 2}), "System does not support more than one Track Map");
+    EXPECT_EQ(saveComplaint({3, 1, 2}), "You can't use multiple Video Sources as background video\n"
+                                        "Please select one Video Source as a background video");
+    EXPECT_EQ(saveComplaint({0, 0, 0}), "System can't detect any object(s) to save");
+    EXPECT_EQ(saveComplaint({2, 1, 1}), "");
+}
+
+TEST(SaveChecks, findTheCameraThatIsNamedTwice)
+{
+    RecordGroups groups;
+    for (const quint8 camera : std::array<quint8, 4>{1, 3, 2, 3}) {
+        EXPECT_FALSE(sharesCamera(groups.of(RecordType::VideoSource)));
+        VideoSourceRecord source;
+        source.cameraNo = camera;
+        groups.add(source);
+    }
+    EXPECT_TRUE(sharesCamera(groups.of(RecordType::VideoSource)));
 }
 
 } // namespace

@@ -22,7 +22,8 @@ constexpr common::Yuv White{235, 128, 127}, Red{81, 90, 240}, Black{16, 128, 240
 std::vector<Row> rows()
 {
     return {
-        {1, VideoSourceRecord{2, 258, -2, 3, 4, 5, 6, Black, 1, 7, 4, 1, 128, 129, 130, 131, 0x01020304, 1, 100, 0.5F},
+        {1, VideoSourceRecord{2, 258, -2, 3, 4, 5, 6, Black, 1, 7, 4, 1, 128, 129, 130, 131,
+            0x01020304, 1, 100, 0.5F},
          "02 0201 FEFF 03 04 05 06 1080F0 01 07 04 01 80 81 82 83 04030201 0000803F 0000C842 0000003F"},
         {2, BitmapRecord{112, 54, -3, 300, 200, 1, 2, 0.5F, 2, 9, 3, -1.5F, 100, 0.25F},
          "7000 3600 FDFF 2C01 C8 0000803F 00000040 0000003F 02000000 09 03000000 0000C0BF 0000C842 0000803E"},
@@ -64,8 +65,8 @@ std::vector<Row> rows()
         {27, SpecialIconRecord{1, 8, 2, 30, -4, 128, "YYYYYYYYYYYYYYYYUUUUVVVV"},
          "01 0800 0200 1E00 FCFF 80 'YYYYYYYYYYYYYYYYUUUUVVVV'", 42},
         // states half of its 166 bytes
-        {28, CustomDialRecord{3, 4, 300, -3, 200, 100, 2, 300, 5, Red, -120, 120, -1.5F, 100, 0.5F, 255, 2, 1, 2, 0.5F,
-            0.25F, 1, White, {"Arial"}, 1, 0, 12, 0, 1, 2, 0.5F, -1.5F, 0x00112233,
+        {28, CustomDialRecord{3, 4, 300, -3, 200, 100, 2, 300, 5, Red, -120, 120, -1.5F, 100, 0.5F, 255, 2,
+            1, 2, 0.5F, 0.25F, 1, White, {"Arial"}, 1, 0, 12, 0, 1, 2, 0.5F, -1.5F, 0x00112233,
             {"kilometres per hour, on wheels"}, 1, 1, 2, 0.5F, 0.25F, 0x00FF8000, 0x004A3B2F, 1},
          "0300 0400 2C01 FDFF C800 6400 02000000 2C01 0500 515AF0 88FF 7800 0000C0BF 0000C842 0000003F "
          "FF 02 0000803F 00000040 0000003F 0000803E 01 EB807F 'Arial                         ' 01 00 "
@@ -80,14 +81,12 @@ int statedSize(const Row &row)
     return row.statedSize != 0 ? row.statedSize : static_cast<int>(bytes(row.payload).size());
 }
 
-int objectOf(const Row &row) { return row.type * 9; }
-
 // The file of all rows, put together by hand.
 QByteArray wholeFile()
 {
     QByteArray file = test::header();
     for (const Row &row : rows())
-        file = test::withRecord(file, row.type, statedSize(row), objectOf(row), bytes(row.payload));
+        file = test::withRecord(file, row.type, statedSize(row), row.type * 9, bytes(row.payload));
     return test::withCrc(file);
 }
 
@@ -98,7 +97,7 @@ TEST(RecordBytes, aFileIsHeaderRecordsWithSumsAndCrcInTheFormatsOrder)
     RecordGroups groups;
     for (const Row &row : all) {
         EXPECT_EQ(encodePayload(row.body).toHex(' '), bytes(row.payload).toHex(' ')) << "type " << row.type;
-        groups.add(row.body, static_cast<qint16>(objectOf(row)));
+        groups.add(row.body, static_cast<qint16>(row.type * 9));
     }
     EXPECT_EQ(assembleLayout(groups, test::stamp("driver", "pitwall")).toHex(), wholeFile().toHex());
 }
@@ -111,7 +110,7 @@ TEST(RecordBytes, everyFieldComesBackAndFontsAreLeftOut)
         if (row.type == 17 || row.type == 25 || row.type == 19 || row.type == 26)
             continue;
         ASSERT_NE(record, read.end());
-        EXPECT_EQ(record->object, objectOf(row));
+        EXPECT_EQ(record->object, row.type * 9);
         EXPECT_EQ(static_cast<int>(record->type()), row.type);
         EXPECT_EQ(encodePayload((record++)->body), bytes(row.payload)) << "type " << row.type;
     }

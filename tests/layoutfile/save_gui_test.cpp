@@ -45,28 +45,23 @@ TEST(Save, refusesAnEmptyDesignAndGoesOnWithoutAThumbnail)
     }
 }
 
-// Pixels 120 to 360 and 240 to 360, filled up to 240, with a blue frame that must not be seen.
 TEST(Save, theThumbnailIsASixthOfTheOverlay)
 {
-    for (const auto &[standard, height, ground] : {std::tuple{VideoStandard::Pal, 96, test::PalGround},
-                                                   std::tuple{VideoStandard::Ntsc, 80, test::NtscGround}}) {
+    const std::pair<VideoStandard, int> heights[] = {{VideoStandard::Pal, 96}, {VideoStandard::Ntsc, 80}};
+    for (const auto &[standard, height] : heights) {
         DesignWindow d;
         d.design().setVideoStandard(standard);
+        // Pixels 120 to 360 and 240 to 360, filled up to 240.
         controls::BarGraph &bar = d.addBar(0, 0);
         bar.setBox({120 * 15 - 75, 240 * 15 - 75, 240 * 15 + 150, 120 * 15 + 150});
         bar.updatePosition();
         bar.write("newDefaultVal", 50);
-        bar.SetControlGroup(1);
         platform::replaceFile(test::pathIn(d, "a.VGL"), test::savedDesign(d));
-        const QImage shown(ExtractThumbnail(test::pathIn(d, "a.VGL"), d.world.state.folders));
+        const QImage shown(layoutfile::ExtractThumbnail(test::pathIn(d, "a.VGL"), d.world.state.folders));
         ASSERT_EQ(shown.size(), QSize(120, height));
         EXPECT_GT(shown.pixelColor(25, 50).red(), 200);
-        for (const QPoint &place : {QPoint(50, 50), QPoint(10, 50), QPoint(30, 35), QPoint(30, 65)}) {
-            const QColor seen = shown.pixelColor(place);
-            EXPECT_LT(seen.red() + std::abs(seen.green() - ground.green()) +
-                          std::abs(seen.blue() - ground.blue()),
-                      60);
-        }
+        for (const QPoint &place : {QPoint(50, 50), QPoint(10, 50), QPoint(30, 35), QPoint(30, 65)})
+            EXPECT_LT(shown.pixelColor(place).red(), 60);
     }
 }
 

@@ -37,15 +37,4 @@ inline void loadDesign(DesignWindow &d, const QByteArray &file)
     d.window.files().load(path);
 }
 
-template <typename Record>
-std::vector<Record> recordsOf(const QByteArray &file)
-{
-    std::vector<Record> found;
-    for (const layoutfile::LayoutRecord &record : layoutfile::parseLayout(file)) {
-        if (const auto *body = std::get_if<Record>(&record.body))
-            found.push_back(*body);
-    }
-    return found;
-}
-
 } // namespace test

@@ -1,3 +1,5 @@
+#include "layoutfile/layout_file.h"
+#include "platform/file_replace.h"
 #include "support/design_window.h"
 
 #include <QDir>
@@ -50,7 +52,33 @@ TEST_F(FileCommands, NewClearsTheDesignAndItsSettingsAfterAQuestion)
     EXPECT_EQ(w.text("lblBitRate"), "Bit Rate 6 Mbps");
     EXPECT_TRUE(w.action("mnuIPB").isChecked() && !w.action("mnuI").isChecked());
     EXPECT_TRUE(w.action("mnuNTSC").isChecked());
-    EXPECT_EQ(count(w.world.state.folders.inUserData("MORVELBackup.VGL")), 1);
+}
+
+TEST_F(FileCommands, KeepTheWorkspaceBeforeTheLastAndTheThreeNewestClearedDesigns)
+{
+    const auto bars = [this](const char *name) {
+        const QString file = w.world.state.folders.inUserData(name);
+        if (!QFile::exists(file))
+            return 0;
+        const auto records = layoutfile::parseLayout(platform::readFile(file));
+        return static_cast<int>(std::count_if(records.begin(), records.end(), [](const auto &record) {
+            return record.type() == layoutfile::RecordType::BarGraph;
+        }));
+    };
+    // An empty design replaces nothing.
+    const std::array<int, 5> expected[] = {{0, 0, 0, 0, 0}, {1, 0, 0, 0, 0}, {2, 1, 1, 0, 0},
+                                           {3, 2, 2, 1, 0}, {4, 3, 3, 2, 1}, {5, 4, 4, 3, 2}};
+    for (int count = 0; count < 6; ++count) {
+        prompts.expectQuestion(Clear, true);
+        w.run("mnuNew");
+        for (int i = 0; i < count; ++i)
+            w.addBar(10 * i, 40 * i);
+        w.window.files().saveWorkspace();
+        EXPECT_EQ(
+            (std::array{bars("MORVELWorkspace.VGL"), bars("MORVELWorkspace.bak"), bars("MORVELBackup.VGL"),
+                        bars("MORVELBackup2.VGL"), bars("MORVELBackup3.VGL")}),
+            expected[count]);
+    }
 }
 
 TEST_F(FileCommands, LoadAsksWhatBecomesOfTheDesign)
