@@ -55,6 +55,14 @@ QTreeWidgetItem *newItem(QTreeWidgetItem *parent, const QString &key, const QStr
     return item;
 }
 
+QList<QTreeWidgetItem *> newGroups(VariableIcons &icons)
+{
+    QList<QTreeWidgetItem *> groups;
+    for (const VariableGroupNode &group : VariableGroups)
+        groups.append(newItem(nullptr, group.key(), QLatin1String(group.text), icons.of(group.art)));
+    return groups;
+}
+
 void addDetails(QTreeWidgetItem *parent, const std::vector<VariableDetail> &details, int index,
                 VariableIcons &icons)
 {
@@ -143,13 +151,7 @@ void VariableTree::RegenerateVariableTree()
     const QSet<QString> open = expandedKeys(*m_tree);
     const QString current = m_tree->currentItem() ? keyOf(m_tree->currentItem()) : QString();
     VariableIcons icons;
-    QList<QTreeWidgetItem *> groups;
-    for (const VariableGroupNode &group : VariableGroups) {
-        auto *item = new QTreeWidgetItem({QLatin1String(group.text)});
-        item->setData(0, KeyRole, group.key());
-        item->setIcon(0, icons.of(group.art));
-        groups.append(item);
-    }
+    const QList<QTreeWidgetItem *> groups = newGroups(icons);
     const variables::VariableTable &table = m_context.catalogue.staging;
     for (std::size_t i = 1; i < table.size(); ++i) {
         const qint32 group = table[i].VariableType;
