@@ -10,10 +10,7 @@
 namespace {
 
 using namespace layoutfile;
-using test::bytes;
-using test::header;
-using test::withCrc;
-using test::withRecord;
+using namespace test;
 
 constexpr qint32 Largest = 0x7FFFFFFF, Smallest = -0x7FFFFFFF - 1;
 
@@ -28,8 +25,7 @@ QByteArray icon(const QByteArray &before, int size)
 // The frame alone: sync word, type, size, object 1.
 QByteArray frame(const char *type, qint32 size)
 {
-    return bytes("DCEBFA00") + bytes(type) + test::littleEndian(static_cast<quint32>(size), 4) +
-           bytes("0100");
+    return bytes("DCEBFA00") + bytes(type) + littleEndian(static_cast<quint32>(size), 4) + bytes("0100");
 }
 
 TEST(DamagedFile, onlyAWholeFileIsAccepted)

@@ -49,7 +49,6 @@ TEST(FailingDevice, aFullCardKeepsTheOldLayoutOrHoldsTheNewOneInItsPlace)
         ASSERT_TRUE(video.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         while (video.write(QByteArray(1024, 'v')) == 1024) {
         }
-
         d.addGauge(100, 100);
         saveTo(d, path, true, !fits);
         const QByteArray kept = platform::readFile(path);

@@ -27,10 +27,7 @@ inline QByteArray littleEndian(quint32 value, int size)
     return result;
 }
 
-inline QByteArray withCrc(const QByteArray &content)
-{
-    return content + littleEndian(layoutfile::modCRC(content), 4);
-}
+inline QByteArray withCrc(const QByteArray &file) { return file + littleEndian(layoutfile::modCRC(file), 4); }
 
 // One record behind `before`: sync word, type, stated size, object, payload and the sum of the stated size
 // and twelve bytes, as far as there are so many.

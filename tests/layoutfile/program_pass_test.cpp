@@ -27,17 +27,16 @@ variables::Catalogue someCatalogue()
 {
     variables::Catalogue catalogue;
     catalogue.units = {{},
-                       {"km/h", "", "value$1$0", "km/h"},
-                       {"double", "", "two$2$0", "2"},
-                       {"broken", "", "x+", "?"},
-                       {"forbidden", "", "x/2", "half"}};
+                       {"km/h", "", "a$1$0", ""},
+                       {"double", "", "a$2$0", ""},
+                       {"broken", "", "x+", ""},
+                       {"forbidden", "", "x/2", ""}};
     for (const int index : {2, 3, 4, 5, 10, 22, 6001, 6002, 6003, 6004, 6005}) {
         VariableRecord &variable = slot(catalogue, index);
         variable.VariableType = index > 6000 ? 4 : 1;
         variable.AllowTransformations = QStringList{"km/h", "broken", "double"};
         variable.ApplyTransformation = "km/h";
         variable.UseCustomTrans = index > 6000;
-        variable.CustomTransformation = "0";
     }
     return catalogue;
 }

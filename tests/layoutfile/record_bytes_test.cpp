@@ -12,7 +12,7 @@ struct Row
     int type;
     RecordBody body;
     const char *payload;
-    int statedSize = 0; // 0: the payload's own
+    qsizetype statedSize = bytes(payload).size();
 };
 
 constexpr common::Yuv White{235, 128, 127}, Red{81, 90, 240}, Black{16, 128, 240};
@@ -76,17 +76,13 @@ std::vector<Row> rows()
 }
 // clang-format on
 
-int statedSize(const Row &row)
-{
-    return row.statedSize != 0 ? row.statedSize : static_cast<int>(bytes(row.payload).size());
-}
-
 // The file of all rows, put together by hand.
 QByteArray wholeFile()
 {
     QByteArray file = test::header();
     for (const Row &row : rows())
-        file = test::withRecord(file, row.type, statedSize(row), row.type * 9, bytes(row.payload));
+        file = test::withRecord(file, row.type, static_cast<int>(row.statedSize), row.type * 9,
+                                bytes(row.payload));
     return test::withCrc(file);
 }
 
