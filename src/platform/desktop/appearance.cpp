@@ -15,10 +15,13 @@ namespace {
 struct Shades
 {
     QColor window, base, alternate, text, button, mid, dark, disabled, accent;
+    QColor chosen; // behind a chosen row, whose icons have to stand out from it
 };
 
-const Shades Light{0xf1f3f6, 0xffffff, 0xf6f8fa, 0x1d2530, 0xe9edf2, 0xc3cad4, 0x5b6b7f, 0x8f99a6, 0x1f7ae0};
-const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47, 0x1c1f24, 0x14161a, 0x7d8793, 0x2f7bd8};
+const Shades Light{0xf1f3f6, 0xffffff, 0xf6f8fa, 0x1d2530, 0xe9edf2,
+                   0xc3cad4, 0x5b6b7f, 0x8f99a6, 0x1f7ae0, 0xc9e0fb};
+const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47,
+                  0x1c1f24, 0x14161a, 0x7d8793, 0x4d9bf0, 0x1d4470};
 
 QPalette paletteOf(const Shades &shades)
 {
@@ -28,8 +31,8 @@ QPalette paletteOf(const Shades &shades)
     palette.setColor(QPalette::AlternateBase, shades.alternate);
     palette.setColor(QPalette::Mid, shades.mid);
     palette.setColor(QPalette::Dark, shades.dark);
-    palette.setColor(QPalette::Highlight, shades.accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Highlight, shades.chosen);
+    palette.setColor(QPalette::HighlightedText, shades.text);
     palette.setColor(QPalette::Link, shades.accent);
     palette.setColor(QPalette::ToolTipBase, shades.base);
     palette.setColor(QPalette::ToolTipText, shades.text);
@@ -57,9 +60,12 @@ void applyAppearance(QApplication &application, Theme theme)
     for (const QString &face : {ownFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")})
         QFont::insertSubstitution(face, libreFace);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QPalette palette = paletteOf(theme == Theme::Light ? Light : Dark);
+    const Shades &shades = theme == Theme::Light ? Light : Dark;
+    QPalette palette = paletteOf(shades);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    palette.setColor(QPalette::Highlight, shades.accent);
+    QApplication::setPalette(palette, "QProgressBar");
     application.setFont(QFont(ownFace, 9));
 }
 

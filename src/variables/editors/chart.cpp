@@ -95,7 +95,7 @@ void Chart::changeEvent(QEvent *event)
 void Chart::takeColours()
 {
     const QColor text = palette().color(QPalette::WindowText);
-    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor accent = palette().color(QPalette::Link);
     m_plot->setBackground(palette().brush(QPalette::Base));
     for (QCPAxis *axis : {m_plot->xAxis, m_plot->yAxis, m_plot->xAxis2, m_plot->yAxis2})
         colourAxis(*axis, text);
