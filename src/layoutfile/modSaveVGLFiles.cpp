@@ -18,12 +18,7 @@ using controls::OverlayControl;
 using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
 
-int countOf(const ControlList &controls, ControlType family)
-{
-    return static_cast<int>(
-        std::count_if(controls.begin(), controls.end(),
-                      [family](const OverlayControl *control) { return control->family().type == family; }));
-}
+bool isTrackMap(const OverlayControl *control) { return control->family().type == ControlType::TrackMap; }
 
 bool isFullFrame(const OverlayControl *control)
 {
@@ -31,27 +26,31 @@ bool isFullFrame(const OverlayControl *control)
            control->read("curDivisor") == controls::PropertyValue(qint32{1});
 }
 
-// The object total scales the progress bar; bar graphs count twice: deliberate.
-int objectTotal(const ControlList &controls)
-{
-    return static_cast<int>(controls.size()) + countOf(controls, ControlType::BarGraph);
-}
-
 DesignCounts countsOf(const ControlList &controls)
 {
-    return {controls.size(), countOf(controls, ControlType::TrackMap),
-            std::count_if(controls.begin(), controls.end(), isFullFrame)};
+    return {controls.size(), std::count_if(controls.begin(), controls.end(), &isTrackMap),
+            std::count_if(controls.begin(), controls.end(), &isFullFrame)};
+}
+
+// Bar graphs count twice on the progress bar: deliberate.
+int objectsOf(const OverlayControl *control)
+{
+    return control->family().type == ControlType::BarGraph ? 2 : 1;
 }
 
 void gatherControls(Gathering &save, const ControlList &controls, ProgressScope &progress)
 {
-    qsizetype done = 0;
+    int total = 0;
+    for (const OverlayControl *control : controls)
+        total += objectsOf(control);
+    int done = 0;
     for (OverlayControl *control : controls) {
         for (const FamilyRecord &record : familyRecords()) {
             if (record.family == control->family().type)
                 record.gather(*control, save);
         }
-        progress.advance(0, 25, ++done, objectTotal(controls));
+        done += objectsOf(control);
+        progress.advance(0, 25, done, total);
     }
 }
 
