@@ -13,7 +13,6 @@ TITLE = "MORVEL Configuration Tool"
 MAIN_WINDOW = re.compile(re.escape(TITLE) + r" - Version \d+\.\d+\.\d+")
 ALREADY_RUNNING = 3
 RED = (255, 0, 0)  # frame of the selected control
-CHOSEN = (201, 224, 251)  # behind a chosen row
 LOADED_RED = (255, 1, 3)  # what red becomes on its way through a file's Y, U and V
 DRAG_PICTURE = 28  # side of what hangs at the pointer, pixels right of it and below
 
@@ -139,12 +138,12 @@ class Tool:
     def drag_variable(self, initial: str, target: Point) -> None:
         """Drags the first variable of the first group that begins with this letter onto the canvas."""
         panel = self._variables_panel()
-        margin = panel.left + panel.width - 40  # right of all texts but long ones
+        margin = panel.left + panel.width - 40  # right of all texts but long ones: blue only in the chosen row
         self._desktop.click(panel.at(0.5, 0.8))  # below the last group
         self._desktop.key("Home")
-        group = self._desktop.wait("a chosen group of variables", lambda: self._chosen_rows(margin))
+        group = self._desktop.wait("a chosen group of variables", lambda: self._blue_rows(margin))
         self._desktop.key("Right", initial)
-        row = self._desktop.wait("a chosen variable", lambda: set(self._chosen_rows(margin)) - set(group))
+        row = self._desktop.wait("a chosen variable", lambda: set(self._blue_rows(margin)) - set(group))
 
         before = self._desktop.screen.rows()
         start = margin - 60, (min(row) + max(row)) // 2
@@ -168,9 +167,9 @@ class Tool:
         self._desktop.wait("the variables panel to come back", lambda: self._desktop.screen.rows() == shown)
         return panel
 
-    def _chosen_rows(self, column: int) -> list[int]:
+    def _blue_rows(self, column: int) -> list[int]:
         colours = self._desktop.screen.column(column)
-        return [y for y, colour in enumerate(colours) if colour == CHOSEN]
+        return [y for y, (red, _, blue) in enumerate(colours) if red < 215 and blue - red > 40]
 
     def load_last_layout(self) -> None:
         """Answers the question of a start with yes and waits for a gauge's red needle on the canvas."""
