@@ -6,7 +6,6 @@ import shutil
 import struct
 import subprocess
 import time
-import zlib
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple, Optional, TypeVar
 
@@ -14,7 +13,7 @@ T = TypeVar("T")
 Point = tuple[int, int]
 Colour = tuple[int, int, int]
 
-TOOLS = ("Xvfb", "openbox", "xdotool")
+TOOLS = ("Xvfb", "openbox", "xdotool", "import")
 SIZE = (1280, 800)
 LONGEST_WAIT = 30.0  # seconds
 POLL = 0.05
@@ -68,20 +67,6 @@ class Screen:
     def column(self, x: int) -> list[Colour]:
         """The colours of one column of pixels, from top to bottom."""
         return [(row[4 * x + 2], row[4 * x + 1], row[4 * x]) for row in self.rows()]
-
-    def save(self, path: Path) -> None:
-        """Writes the screen as a PNG picture."""
-
-        def chunk(kind: bytes, data: bytes) -> bytes:
-            return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-        lines = bytearray()
-        for row in self.rows():
-            rgb = bytearray(3 * self.width)
-            rgb[0::3], rgb[1::3], rgb[2::3] = row[2::4], row[1::4], row[0::4]
-            lines += b"\0" + rgb
-        head = chunk(b"IHDR", struct.pack(">2I5B", self.width, self.height, 8, 2, 0, 0, 0))
-        path.write_bytes(b"\x89PNG\r\n\x1a\n" + head + chunk(b"IDAT", zlib.compress(lines)) + chunk(b"IEND", b""))
 
 
 def _places(row: bytes, pixel: bytes) -> Iterator[int]:
@@ -144,6 +129,9 @@ class Desktop:
             raise Failure("the X server Xvfb did not start")
         self._environment["DISPLAY"] = self.display = f":{number}"
         self.screen = Screen(stage / "Xvfb_screen0")
+
+    def save_picture(self, path: Path) -> None:
+        subprocess.run(("import", "-window", "root", path), env=self._environment, check=False)
 
     def close(self) -> None:
         for process in reversed(self._processes):

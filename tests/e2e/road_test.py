@@ -134,7 +134,7 @@ def main() -> int:
         try:
             go(desktop, tool, home)
         except (Failure, Damage, subprocess.TimeoutExpired) as failure:
-            desktop.screen.save(picture)
+            desktop.save_picture(picture)
             print(f"failed: {failure}\nthe screen at that moment: {picture}", file=sys.stderr)
             return 1
     return 0
