@@ -169,7 +169,8 @@ void paintHatch(QPainter &painter, const QSize &size, const platform::Screen &sc
     const double tx = static_cast<double>(screen.tx);
     const double ty = static_cast<double>(screen.ty);
     const double end = size.width() * tx + size.height() * ty;
-    for (double i = 0; i <= end; i += Step) {
+    for (int n = 0; n * Step <= end; ++n) {
+        const double i = n * Step;
         const QPointF band[] = {{0, i / ty}, {0, (i + Band) / ty}, {(i + Band) / tx, 0}, {i / tx, 0}};
         painter.drawConvexPolygon(band, 4);
     }

@@ -23,9 +23,10 @@ int main(int argc, char **argv)
         return EXIT_FAILURE;
     const QStringList passed = shell::argumentsForProgram(QApplication::arguments().sliced(1));
     const int status = QProcess::execute(folder + QStringLiteral("/morvel-config"), passed);
-    if (status == shell::AlreadyRunning && !passed.isEmpty())
+    if (status == shell::AlreadyRunning && !passed.isEmpty()) {
         prompts.message(
             platform::Icon::Information, platform::ProductTitle,
             QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));
+    }
     return status;
 }

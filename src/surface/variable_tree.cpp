@@ -7,28 +7,19 @@
 #include "surface/variable_labels.h"
 #include "variables/edit_cycle.h"
 
-#include <QHash>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 namespace surface {
 
-// Loads each icon of the tree once.
-class VariableIcons
+const QIcon &VariableIcons::of(const char *art)
 {
-public:
-    const QIcon &of(const char *art)
-    {
-        const QLatin1String name(art);
-        QIcon &icon = m_icons[name];
-        if (icon.isNull())
-            icon = QIcon(QStringLiteral(":/variables/%1.png").arg(name));
-        return icon;
-    }
-
-private:
-    QHash<QLatin1String, QIcon> m_icons;
-};
+    const QLatin1String name(art);
+    QIcon &icon = m_icons[name];
+    if (icon.isNull())
+        icon = QIcon(QStringLiteral(":/variables/%1.png").arg(name));
+    return icon;
+}
 
 namespace {
 
@@ -117,6 +108,7 @@ VariableTree::VariableTree(const VariableTreeContext &context)
                 edit(keyOf(item));
         });
     }
+    connect(m_tree, &QTreeWidget::itemExpanded, this, &VariableTree::fillDetails);
     connect(m_tree, &QTreeWidget::itemPressed, this, [this](const QTreeWidgetItem *item) {
         emit used();
         // The prompt opens when the press is done, so that the tree does not wait for a release.
@@ -134,29 +126,38 @@ void VariableTree::makeSearchBox()
     connect(m_search, &QLineEdit::textChanged, this, &VariableTree::filter);
 }
 
-void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index, VariableIcons &icons) const
+void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index)
 {
     const variables::VariableRecord &record = m_context.catalogue.staging[index];
     const int number = static_cast<int>(index);
     QTreeWidgetItem *item =
-        newItem(group, variableKey("AVAILABLETYPE", number), variableText(record), icons.of("variable"));
+        newItem(group, variableKey("AVAILABLETYPE", number), variableText(record), m_icons.of("variable"));
     item->setData(0, IndexRole, number);
+    item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+}
+
+// Of hundreds of variables a few are ever opened; the lines below one are made when it is.
+void VariableTree::fillDetails(QTreeWidgetItem *item)
+{
+    if (!isVariable(*item) || item->childCount() > 0)
+        return;
+    const int index = item->data(0, IndexRole).toInt();
+    const auto &record = m_context.catalogue.staging[static_cast<std::size_t>(index)];
     addDetails(item,
-               variableDetails(record, number, m_context.catalogue.units, m_context.locale.decimalSeparator),
-               number, icons);
+               variableDetails(record, index, m_context.catalogue.units, m_context.locale.decimalSeparator),
+               index, m_icons);
 }
 
 void VariableTree::RegenerateVariableTree()
 {
     const QSet<QString> open = expandedKeys(*m_tree);
     const QString current = m_tree->currentItem() ? keyOf(m_tree->currentItem()) : QString();
-    VariableIcons icons;
-    const QList<QTreeWidgetItem *> groups = newGroups(icons);
+    const QList<QTreeWidgetItem *> groups = newGroups(m_icons);
     const variables::VariableTable &table = m_context.catalogue.staging;
     for (std::size_t i = 1; i < table.size(); ++i) {
         const qint32 group = table[i].VariableType;
         if (table[i].Available && group >= 1 && group <= groups.size())
-            addVariable(groups[group - 1], i, icons);
+            addVariable(groups[group - 1], i);
     }
     m_tree->clear();
     m_tree->addTopLevelItems(groups);

@@ -6,6 +6,8 @@
 #include "variables/catalogue.h"
 #include "variables/editors/variable_editors.h"
 
+#include <QHash>
+#include <QIcon>
 #include <QLineEdit>
 #include <QSet>
 #include <QTreeWidget>
@@ -22,6 +24,16 @@ struct VariableTreeContext
     const platform::Folders &folders;
     const platform::NumberLocale &locale;
     platform::Prompts &prompts;
+};
+
+// Loads each icon of the tree once.
+class VariableIcons
+{
+public:
+    const QIcon &of(const char *art);
+
+private:
+    QHash<QLatin1String, QIcon> m_icons;
 };
 
 // The functions panel: a search box and the tree of variables. It holds no state of its own but which
@@ -41,7 +53,8 @@ signals:
 
 private:
     void makeSearchBox();
-    void addVariable(QTreeWidgetItem *group, std::size_t index, class VariableIcons &icons) const;
+    void addVariable(QTreeWidgetItem *group, std::size_t index);
+    void fillDetails(QTreeWidgetItem *item);
     void edit(const QString &key);
     bool editRecord(const QString &role, int index);
     void filter(const QString &text);
@@ -49,6 +62,7 @@ private:
     void makeCurrent(const QString &key); // the line of this key, unless it lies in a closed branch
 
     VariableTreeContext m_context;
+    VariableIcons m_icons;
     variables::VariableEditors m_editors;
     QLineEdit *m_search;
     QTreeWidget *m_tree;                             // VarTree

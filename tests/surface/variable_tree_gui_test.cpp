@@ -33,11 +33,11 @@ TEST(VariableTree, ShowsAvailableVariablesInTheirGroupsAndKeepsOpenBranches)
     QTreeWidgetItem *gps = tree.topLevelItem(2);
     EXPECT_EQ(gps->text(0), "GPS variables");
     EXPECT_EQ(texts(gps), QStringList{"Latitude  (LATITUDE)"});
+    gps->setExpanded(true);
+    gps->child(0)->setExpanded(true);
     EXPECT_EQ(texts(gps->child(0)), (QStringList{"Advanced options", "units: []", "Variable Name: Latitude",
                                                  "Smoothed over: 2.5 seconds"}));
 
-    gps->setExpanded(true);
-    gps->child(0)->setExpanded(true);
     table[400].SmoothingTime = 0;
     w.design().refresh();
     gps = tree.topLevelItem(2);
