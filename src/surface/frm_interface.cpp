@@ -16,7 +16,6 @@ namespace surface {
 
 using controls::OverlayControl;
 using platform::skipFailures;
-using recorder::VideoStandard;
 
 namespace {
 
