@@ -3,6 +3,7 @@
 import datetime
 import struct
 import zlib
+from collections import namedtuple
 from pathlib import Path
 from typing import NamedTuple
 
@@ -34,57 +35,13 @@ class Layout(NamedTuple):
         return [record for record in self.records if record.type == kind]
 
 
-class BarGraph(NamedTuple):
-    """Type 5: the line of a bar in video pixels, how it looks and what it shows."""
-
-    start_x: int
-    start_y: int
-    end_x: int
-    end_y: int
-    opacity: int
-    width: int
-    y: int
-    u: int
-    v: int
-    minimum: float
-    maximum: float
-    default: float
-    variable: int
-    colour_variable: int
-    colour_minimum: float
-    colour_maximum: float
-
-
-class Gauge(NamedTuple):
-    """Type 6: pivot and needle in video pixels, angles in degrees, what it shows."""
-
-    centre_x: int
-    centre_y: int
-    length: int
-    width: int
-    y: int
-    u: int
-    v: int
-    minimum_angle: int
-    maximum_angle: int
-    minimum: float
-    maximum: float
-    default: float
-    variable: int
-    colour_variable: int
-    colour_minimum: float
-    colour_maximum: float
-
-
-class Variable(NamedTuple):
-    """Type 7: one variable of the catalogue."""
-
-    index: int
-    used: int
-    smoothing: float
-    maximum_change: float
-    program_offset: int
-    program_length: int
+VALUES = "minimum maximum default variable colour_variable colour_minimum colour_maximum"
+# Type 5: the line of a bar in video pixels, how it looks and what it shows.
+BarGraph = namedtuple("BarGraph", "start_x start_y end_x end_y opacity width y u v " + VALUES)
+# Type 6: pivot and needle in video pixels, angles in degrees, what it shows.
+Gauge = namedtuple("Gauge", "centre_x centre_y length width y u v minimum_angle maximum_angle " + VALUES)
+# Type 7: one variable of the catalogue.
+Variable = namedtuple("Variable", "index used smoothing maximum_change program_offset program_length")
 
 
 def bar_graph(record: Record) -> BarGraph:
