@@ -32,7 +32,8 @@ public:
     virtual const variables::Catalogue &catalogue() const = 0;
     virtual recorder::VideoStandard VideoType() const = 0;
     // A font to draw with; its files are made first where they are missing. Null, after a message, when they
-    // cannot be made from this request; throws RunTimeError when they can be neither written nor read.
+    // cannot be made from this request; throws RunTimeError when they can be neither written nor read. Never
+    // from painting: it may open a window and wait for it.
     virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request) = 0;
 
     // What stands below the inner area of `control`: background, grid and the controls beneath it.

@@ -15,7 +15,7 @@ struct Gathering
     RecordGroups groups;
     UsedVariables used;
     platform::Screen screen;
-    graphics::FontStore &fonts;
+    graphics::FontStore &fonts; // made without progress: a second window would take the place of the save's
 };
 
 // How the controls of one family become records and come back. To add a family: one file with these two

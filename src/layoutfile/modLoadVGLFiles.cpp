@@ -47,15 +47,30 @@ void buildControl(const FamilyRecord &family, const RecordBody &body, controls::
     platform::skipFailures([&] { control->AssignProperties(); });
 }
 
+using ObjectNames = std::set<std::pair<RecordType, qint16>>;
+
+// The gauge and the bitmap that a custom dial was split into for the recorder come back with the dial.
+ObjectNames dialParts(const Records &records)
+{
+    ObjectNames parts;
+    for (const LayoutRecord &record : records) {
+        if (const auto *dial = std::get_if<CustomDialRecord>(&record.body))
+            parts.insert({{RecordType::Bitmap, dial->bitmapObject}, {RecordType::Gauge, dial->gaugeObject}});
+    }
+    return parts;
+}
+
 void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
 {
+    const ObjectNames parts = dialParts(records);
     const qsizetype total = controlCount(records);
     qsizetype done = 0;
     for (const FamilyRecord &family : familyRecords()) {
         for (const LayoutRecord &record : records) {
             if (record.type() != family.type)
                 continue;
-            buildControl(family, record.body, context.surface);
+            if (!parts.contains({record.type(), record.object}))
+                buildControl(family, record.body, context.surface);
             progress.advance(50, 40, ++done, total);
         }
     }
@@ -64,22 +79,9 @@ void buildControls(const Records &records, const LoadContext &context, platform:
 // A picture for the eye only: one that cannot be written is no failure.
 QString writeThumbnail(const QByteArray &jpeg, const platform::Folders &folders)
 {
-    QFile file(folders.temporary + QStringLiteral("Thumb.jpg"));
+    QFile file(folders.inTemporary("Thumb.jpg"));
     const bool written = file.open(QIODevice::WriteOnly) && file.write(jpeg) == jpeg.size();
     return written ? file.fileName() : QString();
-}
-
-// The gauge and the bitmap that a custom dial was split into for the recorder come back with the dial.
-void dropDialParts(Records &records)
-{
-    std::set<std::pair<RecordType, qint16>> parts;
-    for (const LayoutRecord &record : records) {
-        if (const auto *dial = std::get_if<CustomDialRecord>(&record.body))
-            parts.insert({{RecordType::Bitmap, dial->bitmapObject}, {RecordType::Gauge, dial->gaugeObject}});
-    }
-    std::erase_if(records, [&parts](const LayoutRecord &record) {
-        return parts.contains({record.type(), record.object});
-    });
 }
 
 Records readRecords(const QByteArray &file, const platform::Folders &folders,
@@ -93,15 +95,17 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
             writeThumbnail(thumbnail->data.bytes, folders);
         progress.setValue(std::min(++read, ReadingEnds));
     }
-    dropDialParts(records);
     return records;
 }
 
-// The definition and message files follow the design. The design stands even when they cannot be written.
+// The definition and message files follow the design, each for itself. The design stands even when they
+// cannot be written.
 void writeTables(const LoadContext &context)
 {
     platform::reportFailures(context.prompts, [&] {
         platform::updateFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
+    });
+    platform::reportFailures(context.prompts, [&] {
         platform::updateFile(context.folders.MessagesFile(),
                              recorder::writeMessageTable(context.settings.MessageTable));
     });

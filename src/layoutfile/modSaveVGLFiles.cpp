@@ -28,8 +28,9 @@ bool isFullFrame(const OverlayControl *control)
 
 DesignCounts countsOf(const ControlList &controls)
 {
-    return {controls.size(), std::count_if(controls.begin(), controls.end(), &isTrackMap),
-            std::count_if(controls.begin(), controls.end(), &isFullFrame)};
+    return {.controls = controls.size(),
+            .trackMaps = std::count_if(controls.begin(), controls.end(), &isTrackMap),
+            .fullFrameSources = std::count_if(controls.begin(), controls.end(), &isFullFrame)};
 }
 
 // Bar graphs count twice on the progress bar: deliberate.

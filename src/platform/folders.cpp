@@ -13,13 +13,18 @@ QString withSeparator(const QString &folder)
     return folder.isEmpty() || folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
+void makePrivate(const QString &folder)
+{
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 QString privateFolder(const QString &parent, const QString &name)
 {
     if (parent.isEmpty())
         return {};
     const QString path = withSeparator(parent) + name;
-    QDir().mkpath(path);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    makePrivate(path);
     return withSeparator(path);
 }
 
@@ -41,6 +46,13 @@ QString Folders::GetAppDataFolder() const
         return {};
     const bool marked = FileExists(program + QStringLiteral("../hVault.Dat")) != 0;
     return applicationData + (marked ? QStringLiteral("hVault/") : QStringLiteral("Torvane/"));
+}
+
+QString Folders::inTemporary(const char *name) const
+{
+    if (!temporary.isEmpty() && !QDir(temporary).exists())
+        makePrivate(temporary);
+    return temporary + QLatin1String(name);
 }
 
 Folders desktopFolders(const QString &programFolder)

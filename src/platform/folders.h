@@ -28,6 +28,8 @@ struct Folders
     QString seeds() const { return program + QStringLiteral("defaults/"); }
     QString shippedFaces() const { return program + QStringLiteral("fonts/"); }
     QString inUserData(const char *name) const { return GetAppDataFolder() + QLatin1String(name); }
+    // The temporary folder is made again when somebody who clears caches has taken it away.
+    QString inTemporary(const char *name) const;
 };
 
 // The folders of the running program; creates the temporary and the cache folder, readable by this user only.

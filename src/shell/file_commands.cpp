@@ -10,7 +10,6 @@
 #include "platform/guards.h"
 #include "shell/save_rules.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -88,8 +87,7 @@ void FileCommands::backUpDesign()
 // The layout as it was written into a folder of its own; nothing when the save was refused.
 std::optional<QByteArray> FileCommands::savedApart(SaveKind kind, platform::Progress &progress)
 {
-    QDir().mkpath(m_state.folders.temporary); // whoever clears caches takes it away
-    const QTemporaryDir folder(m_state.folders.temporary + QStringLiteral("save"));
+    const QTemporaryDir folder(m_state.folders.inTemporary("save"));
     if (!folder.isValid())
         throw common::RunTimeError(folder.errorString());
     const QString path = folder.filePath(DefaultName);

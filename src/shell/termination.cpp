@@ -1,6 +1,7 @@
 #include "shell/termination.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QWidget>
 
@@ -32,8 +33,9 @@ void closeEverything()
         if (QApplication::activeModalWidget() == modal)
             break; // a long task: the main window puts its closing off until the end
     }
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible())
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (const QPointer<QWidget> &window : QList<QPointer<QWidget>>(all.begin(), all.end())) {
+        if (window && window->isVisible()) // the closing of one may take others along
             window->close();
     }
 }

@@ -35,8 +35,8 @@ void commitEdits(Catalogue &catalogue, const platform::Folders &folders, const p
 void writeCatalogueFiles(const Catalogue &catalogue, const platform::Folders &folders,
                          const platform::NumberLocale &locale)
 {
+    writeDefinitionFile(catalogue, folders); // what the next start reads comes first
     writeXvrFile(catalogue, folders, locale);
-    writeDefinitionFile(catalogue, folders);
 }
 
 } // namespace variables

@@ -60,6 +60,7 @@ TEST_F(Settings, savedValuesAreThereAtTheNextStart)
     EXPECT_TRUE(keys::Design.stored(next));
     EXPECT_FALSE(keys::Functions.stored(next));
     EXPECT_THROW(SettingsFile(folder.filePath("gone/x.cfg")).save(), common::RunTimeError);
+    EXPECT_THROW(SettingsFile(folder.path()).save(), common::RunTimeError); // there, but not to be read
 }
 
 } // namespace

@@ -21,7 +21,7 @@ struct Shades
 const Shades Light{0xf1f3f6, 0xffffff, 0xf6f8fa, 0x1d2530, 0xe9edf2,
                    0xc3cad4, 0x5b6b7f, 0x8f99a6, 0x1f7ae0, 0xc9e0fb};
 const Shades Dark{0x2b2f36, 0x22262c, 0x2f343c, 0xe6e9ee, 0x383e47,
-                  0x1c1f24, 0x14161a, 0x7d8793, 0x4d9bf0, 0x1d4470};
+                  0x1c1f24, 0x14161a, 0x7d8793, 0x4d9bf0, 0x16324f};
 
 QPalette paletteOf(const Shades &shades)
 {
@@ -65,6 +65,7 @@ void applyAppearance(QApplication &application, Theme theme)
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
     palette.setColor(QPalette::Highlight, shades.accent);
+    palette.setColor(QPalette::HighlightedText, theme == Theme::Light ? Qt::white : shades.dark);
     QApplication::setPalette(palette, "QProgressBar");
     application.setFont(QFont(ownFace, 9));
 }
