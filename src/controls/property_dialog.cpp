@@ -203,14 +203,18 @@ ColourVariableForm PropertyDialog::colourVariableForm() const
             m_colourMaximum->text()};
 }
 
-qint32 PropertyDialog::variableIndex(const QString &name) const
+qint32 PropertyDialog::variableIndex(const QString &name, qint32 stored) const
 {
-    return variables::findByName(m_control.host().catalogue().live, name);
+    const variables::VariableTable &table = m_control.host().catalogue().live;
+    const bool isVariable = stored > 0 && static_cast<std::size_t>(stored) < table.size();
+    if (isVariable && table[static_cast<std::size_t>(stored)].DisplayName == name)
+        return stored;
+    return variables::findByName(table, name);
 }
 
-qint32 PropertyDialog::colourVariableIndex(const ColourVariableForm &form) const
+qint32 PropertyDialog::colourVariableIndex(const ColourVariableForm &form, qint32 stored) const
 {
-    return form.row == 0 ? 0 : variableIndex(form.variable);
+    return form.row == 0 ? 0 : variableIndex(form.variable, stored);
 }
 
 void PropertyDialog::finishLayout()

@@ -72,8 +72,9 @@ protected:
     ColourVariableForm colourVariableForm() const;
 
     // The catalogue index of a typed or chosen name.
-    qint32 variableIndex(const QString &name) const;
-    qint32 colourVariableIndex(const ColourVariableForm &form) const;
+    // The variable of this name. What was not touched stays, also beside another variable of its name.
+    qint32 variableIndex(const QString &name, qint32 stored) const;
+    qint32 colourVariableIndex(const ColourVariableForm &form, qint32 stored) const;
 
     // The first message that applies to what is typed; nothing when all is well.
     virtual std::optional<QString> validate() const = 0;

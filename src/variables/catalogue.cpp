@@ -101,10 +101,13 @@ QString displayName(const VariableRecord &record, const UnitTable &units)
 
 int findByName(const VariableTable &table, const QString &name, NameField field)
 {
-    const QString wanted = name.section(QLatin1Char('['), 0, 0).trimmed().toUpper();
+    const auto comparable = [](const QString &text) {
+        return text.section(QLatin1Char('['), 0, 0).trimmed().toUpper();
+    };
+    const QString wanted = comparable(name);
     const auto found = std::find_if(table.begin(), table.end(), [&](const VariableRecord &record) {
         const QString &text = field == NameField::PhysicalName ? record.PhysicalName : record.BaseName;
-        return text.trimmed().toUpper() == wanted;
+        return comparable(text) == wanted;
     });
     return found == table.end() ? NotFound : static_cast<int>(found - table.begin());
 }

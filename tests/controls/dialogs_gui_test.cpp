@@ -123,6 +123,8 @@ TEST_F(GaugeProperties, CancelAndAnUntouchedApplyLeaveThemAsTheyAre)
 {
     control.write("newVarID", 10);
     control.write("newColourVariable", 2);
+    variables::VariableTable &table = w.world.state.catalogue.live;
+    table[2].DisplayName = table[3].DisplayName = table[10].DisplayName; // one name for all
     const QStringList before = control.Serialise();
     EXPECT_FALSE(pressed("cmdExit", "CenterX=5 PointerLen=9")->isVisible());
     EXPECT_EQ(control.Serialise(), before);

@@ -74,11 +74,13 @@ TEST(LookUps, namesIgnoreCaseBlanksAndUnitAndTheFirstMatchCounts)
     VariableTable table(LastIndex + 1);
     table[2].BaseName = " Speed ";
     table[2].PhysicalName = "GPS";
+    table[3].BaseName = "Lap [best]";
     table[9].BaseName = table[9].PhysicalName = "SPEED";
     const std::tuple<const char *, NameField, int> cases[] = {
-        {"speed [km/h]", NameField::BaseName, 2}, {"  sPeEd", NameField::BaseName, 2},
-        {"speed", NameField::PhysicalName, 9},    {"gps[", NameField::PhysicalName, 2},
-        {"gps", NameField::BaseName, 8000},       {"speed2", NameField::BaseName, 8000}};
+        {"speed [km/h]", NameField::BaseName, 2},   {"  sPeEd", NameField::BaseName, 2},
+        {"speed", NameField::PhysicalName, 9},      {"gps[", NameField::PhysicalName, 2},
+        {"lap [best] [s]", NameField::BaseName, 3}, {"gps", NameField::BaseName, 8000},
+        {"speed2", NameField::BaseName, 8000}};
     for (const auto &[name, field, expected] : cases)
         EXPECT_EQ(findByName(table, name, field), expected) << name;
 }

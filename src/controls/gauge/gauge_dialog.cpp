@@ -75,7 +75,7 @@ void GaugeDialog::write()
 {
     const GaugeForm typed = form();
     GaugeValues values = m_gauge.get();
-    values.curVarID = variableIndex(typed.variable);
+    values.curVarID = variableIndex(typed.variable, values.curVarID);
     values.curCenterX = toInteger<qint16>(parseNumber(typed.centerX));
     values.curCenterY = toInteger<qint16>(parseNumber(typed.centerY));
     values.curPointerLength = toInteger<quint8>(parseNumber(typed.pointerLength));
@@ -86,7 +86,7 @@ void GaugeDialog::write()
     values.curMin = detail::toSingle(parseNumber(typed.min));
     values.curMax = detail::toSingle(parseNumber(typed.max));
     values.curDefaultVal = detail::toSingle(parseNumber(typed.defaultVal));
-    values.curColourVariable = colourVariableIndex(typed.colourVariable);
+    values.curColourVariable = colourVariableIndex(typed.colourVariable, values.curColourVariable);
     values.curColourVarMin = detail::toSingle(parseNumber(typed.colourVariable.minimum));
     values.curColourVarMax = detail::toSingle(parseNumber(typed.colourVariable.maximum));
     m_gauge.set(values);
