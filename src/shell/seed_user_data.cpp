@@ -8,6 +8,8 @@ namespace shell {
 
 void seedUserData(const platform::Folders &folders)
 {
+    if (QFile::exists(folders.variablesFile()) || QFile::exists(folders.MessagesFile()))
+        return;
     const QString target = folders.GetAppDataFolder();
     QDir().mkpath(target);
     for (const QString &name : QDir(folders.seeds()).entryList(QDir::Files)) {

@@ -4,8 +4,9 @@
 
 namespace shell {
 
-// Copies each shipped definition file and background that the user data folder lacks; what is there stays as
-// it is. Throws RunTimeError when a file cannot be written.
+// Copies the shipped definition files and backgrounds into the folder of a new user; what is there stays as
+// it is. A user who has one of the definition files is not new: a lost one is told of at the start, never
+// replaced in silence by the shipped one. Throws RunTimeError when a file cannot be written.
 void seedUserData(const platform::Folders &folders);
 
 } // namespace shell

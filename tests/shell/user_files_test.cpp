@@ -36,19 +36,20 @@ protected:
     QString path(const char *name) const { return root.filePath(name); }
 };
 
-TEST_F(UserData, seedsFillWhatIsMissingAndOverwriteNothing)
+TEST_F(UserData, seedsAreForNewUsersAndOverwriteNothing)
 {
-    const platform::Folders folders{path("bin/"), path("new/home/"), {}, {}};
+    const platform::Folders folders{path("bin/"), path("home/"), {}, {}};
     QDir(root.path()).mkpath("bin/defaults");
-    platform::replaceFile(path("bin/defaults/vars.cfg"), "shipped");
-    platform::replaceFile(path("bin/defaults/back.bmp"), "picture");
+    QDir(root.path()).mkpath("home/Torvane");
+    for (const char *name : {"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg", "back.bmp"})
+        platform::replaceFile(folders.seeds() + name, "shipped");
+    platform::replaceFile(folders.inUserData("back.bmp"), "mine");
     seedUserData(folders);
-    EXPECT_EQ(platform::readFile(path("new/home/Torvane/vars.cfg")), "shipped");
-    platform::replaceFile(path("new/home/Torvane/vars.cfg"), "edited");
-    QFile::remove(path("new/home/Torvane/back.bmp"));
+    EXPECT_EQ(platform::readFile(folders.inUserData("back.bmp")), "mine");
+    EXPECT_EQ(platform::readFile(folders.variablesFile()), "shipped");
+    QFile::remove(folders.variablesFile());
     seedUserData(folders);
-    EXPECT_EQ(platform::readFile(path("new/home/Torvane/vars.cfg")), "edited");
-    EXPECT_EQ(platform::readFile(path("new/home/Torvane/back.bmp")), "picture");
+    EXPECT_FALSE(QFile::exists(folders.variablesFile()));
 }
 
 TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
