@@ -19,8 +19,10 @@ QString qtFilter(const QString &filter)
 {
     const QString caption = filter.section(QLatin1Char('|'), 0, 0);
     const QString pattern = filter.section(QLatin1Char('|'), 1, 1);
-    return QStringLiteral("%1 (%2 %3)")
-        .arg(caption.section(QLatin1Char('('), 0, 0).trimmed(), pattern, pattern.toLower());
+    QStringList patterns{pattern, pattern.toLower()};
+    patterns.removeDuplicates();
+    return QStringLiteral("%1 (%2)").arg(caption.section(QLatin1Char('('), 0, 0).trimmed(),
+                                         patterns.join(QLatin1Char(' ')));
 }
 
 QList<QUrl> sidePlaces()
