@@ -58,7 +58,7 @@ void Canvas::display(const QPixmap &picture, const CanvasRules &rules, bool dots
     m_backdrop.fill(Qt::black);
     QPainter painter(&m_backdrop);
     painter.drawPixmap(0, 0, picture);
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     if (dots)
         paintDots(painter, size, rules);
     update();

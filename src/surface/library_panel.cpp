@@ -49,6 +49,7 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
     m_list->setIconSize(PictureSize);
     m_list->setResizeMode(QListView::Adjust);
     m_list->setMovement(QListView::Static);
+    m_list->setDragEnabled(true); // out of the list, which the line above forbids as well
     m_list->setSpacing(4);
     m_list->setFont(font);
     addWidget(m_tree);

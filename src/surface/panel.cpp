@@ -28,7 +28,7 @@ Qt::CursorShape pointerOf(Qt::Edges edges)
 } // namespace
 
 Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
-    : QFrame(parent), m_title(new QLabel(title))
+    : QFrame(parent), m_title(new QLabel(title)), m_content(content)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -75,8 +75,9 @@ void Panel::mousePressEvent(QMouseEvent *event)
     raise();
     if (event->button() != Qt::LeftButton)
         return;
-    m_dragging = true;
     m_edges = edgesAt(event->position().toPoint());
+    m_dragging =
+        m_edges || event->position().y() < m_content->y(); // what the content passes on is not a drag
     m_grabbed = event->globalPosition().toPoint();
     m_before = geometry();
 }

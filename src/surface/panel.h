@@ -33,7 +33,8 @@ private:
     void follow(const QPoint &globalPosition);
 
     QLabel *m_title;
-    Qt::Edges m_edges; // being dragged; none means that the panel is moved
+    QWidget *m_content;
+    Qt::Edges m_edges; // being dragged; none means that the panel is moved by its title
     bool m_dragging = false;
     QPoint m_grabbed; // global position of the press
     QRect m_before;   // geometry at the press

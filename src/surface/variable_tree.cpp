@@ -123,7 +123,10 @@ void VariableTree::makeSearchBox()
     m_search->setPlaceholderText(QStringLiteral("Search variables"));
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
-    connect(m_search, &QLineEdit::textChanged, this, &VariableTree::filter);
+    connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_edited = 0;
+        filter(text);
+    });
 }
 
 void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index)
@@ -192,8 +195,10 @@ void VariableTree::filter(const QString &text)
         QTreeWidgetItem *group = m_tree->topLevelItem(i);
         bool anyMatch = false;
         for (int j = 0; j < group->childCount(); ++j) {
-            const bool match = group->child(j)->text(0).contains(text.trimmed(), Qt::CaseInsensitive);
-            group->child(j)->setHidden(!match);
+            QTreeWidgetItem *item = group->child(j);
+            const bool match = item->data(0, IndexRole).toInt() == m_edited ||
+                               item->text(0).contains(text.trimmed(), Qt::CaseInsensitive);
+            item->setHidden(!match);
             anyMatch = anyMatch || match;
         }
         group->setHidden(searching && !anyMatch);
@@ -215,6 +220,7 @@ void VariableTree::edit(const QString &key)
     platform::skipFailures([&] { changed = editRecord(line->role, line->index); });
     if (!changed)
         return;
+    m_edited = line->index;
     variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale);
     RegenerateVariableTree();
 }

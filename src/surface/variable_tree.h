@@ -65,7 +65,8 @@ private:
     VariableIcons m_icons;
     variables::VariableEditors m_editors;
     QLineEdit *m_search;
-    QTreeWidget *m_tree;                             // VarTree
+    QTreeWidget *m_tree; // VarTree
+    int m_edited = 0;    // stays in sight whatever its new name, until the search is another one
     std::optional<QSet<QString>> m_openBeforeSearch; // what a search that is under way goes back to
 };
 

@@ -1,5 +1,7 @@
 #include "support/design_window.h"
 
+#include <QAbstractItemView>
+
 namespace {
 
 using controls::Box;
@@ -22,6 +24,8 @@ void addFromCanvasPopup(DesignWindow &w, bool gauge, QPoint at)
 
 void addByLibraryDrop(DesignWindow &w, bool gauge, QPoint at)
 {
+    for (const char *name : {"trvControl", "lvControl"})
+        EXPECT_TRUE(w.window.findChild<QAbstractItemView *>(name)->dragEnabled()) << name;
     test::drop(w.canvas(), at, surface::LibraryMime, gauge ? "aANALOGDIAL" : "fBARGRAPH");
 }
 
