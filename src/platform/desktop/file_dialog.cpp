@@ -1,6 +1,7 @@
 #include "platform/desktop/file_dialog.h"
 
 #include <QDir>
+#include <QFileIconProvider>
 #include <QGridLayout>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -25,6 +26,19 @@ QString qtFilter(const QString &filter)
                                          patterns.join(QLatin1Char(' ')));
 }
 
+// Tells files by their names alone: a look into a pipe or a device may never end.
+class NamedFileIcons final : public QFileIconProvider
+{
+public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo &file) const override { return icon(file.isDir() ? Folder : File); }
+    QString type(const QFileInfo &file) const override
+    {
+        const QString kind = file.isDir() ? QStringLiteral("Folder") : QStringLiteral("File");
+        return QStringLiteral("%1 %2").arg(file.suffix().toUpper(), kind).trimmed();
+    }
+};
+
 QList<QUrl> sidePlaces()
 {
     QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
@@ -47,6 +61,8 @@ QList<QUrl> sidePlaces()
 FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode mode) : QFileDialog(parent)
 {
     setOption(DontUseNativeDialog); // the preview and the volumes need the same dialog everywhere
+    static NamedFileIcons icons;    // the dialog's worker threads use it to their end
+    setIconProvider(&icons);
     setAcceptMode(mode);
     setFileMode(mode == AcceptOpen ? ExistingFile : AnyFile);
     setWindowTitle(!request.title.isEmpty() ? request.title
