@@ -12,7 +12,7 @@ namespace variables {
 void commitEdits(Catalogue &catalogue, const platform::Folders &folders,
                  const platform::NumberLocale &locale);
 
-// Writes the XVR file and the definition file of the live table. Throws RunTimeError when one cannot be
+// Writes the definition file of the live table, then its XVR file. Throws RunTimeError when one cannot be
 // written.
 void writeCatalogueFiles(const Catalogue &catalogue, const platform::Folders &folders,
                          const platform::NumberLocale &locale);

@@ -34,8 +34,9 @@ public:
     QIcon icon(const QFileInfo &file) const override { return icon(file.isDir() ? Folder : File); }
     QString type(const QFileInfo &file) const override
     {
-        const QString kind = file.isDir() ? QStringLiteral("Folder") : QStringLiteral("File");
-        return QStringLiteral("%1 %2").arg(file.suffix().toUpper(), kind).trimmed();
+        if (file.isDir())
+            return QStringLiteral("Folder");
+        return QStringLiteral("%1 File").arg(file.suffix().toUpper()).trimmed();
     }
 };
 
