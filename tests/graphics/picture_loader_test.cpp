@@ -1,6 +1,4 @@
-#include "fuzz/targets.h"
 #include "graphics/picture_loader.h"
-#include "platform/file_replace.h"
 
 #include <QBuffer>
 #include <QDataStream>
@@ -134,21 +132,6 @@ TEST(Sampled, picksPixelsAtScaledPlaces)
     for (int i = 0; i < 21; ++i)
         EXPECT_EQ(picked.pixel(i % 3, i / 3), source.pixel(three[i % 3], seven[i / 3])) << i;
     EXPECT_TRUE(graphics::sampled(source, {0, 3}).isNull() && graphics::sampled(QImage(), {3, 3}).isNull());
-}
-
-// What fuzzing found worth keeping.
-TEST(GraphicsCorpus, keepsEveryPromise)
-{
-    for (const auto &[name, target] :
-         {std::pair{"fuzz_font", &fuzz::font}, {"fuzz_picture", &fuzz::picture}}) {
-        const QDir folder(QStringLiteral(FUZZ_CORPUS "/") + QLatin1String(name));
-        const QFileInfoList entries = folder.entryInfoList(QDir::Files);
-        EXPECT_FALSE(entries.isEmpty());
-        for (const QFileInfo &entry : entries) {
-            const QByteArray content = platform::readFile(entry.filePath());
-            EXPECT_TRUE(target(content)) << qPrintable(entry.filePath());
-        }
-    }
 }
 
 } // namespace

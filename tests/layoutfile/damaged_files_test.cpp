@@ -1,9 +1,5 @@
-#include "fuzz/targets.h"
 #include "layoutfile/layout_bytes.h"
 #include "layoutfile/settings_from_records.h"
-#include "platform/file_replace.h"
-
-#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -120,19 +116,6 @@ TEST(DamagedFile, settingsThatAreMissingOrThatNoRecorderHoldsStayButForTheChapte
     const QByteArray eight = bytes("0000803F 08") + QByteArray(64, '\x3F') + bytes("00 00000000");
     settingsFromRecords(parseLayout(withRecord(header(), 15, 74, 1, eight)), settings);
     EXPECT_EQ(settings.GearTable.size(), 7U);
-}
-
-TEST(Corpus, keepsItsPromises)
-{
-    const auto replay = [](const char *target, bool (*run)(QByteArrayView)) {
-        const QDir folder(QStringLiteral(FUZZ_CORPUS "/") + QLatin1String(target));
-        const QFileInfoList files = folder.entryInfoList(QDir::Files);
-        EXPECT_FALSE(files.isEmpty()) << target;
-        for (const QFileInfo &info : files)
-            EXPECT_TRUE(run(platform::readFile(info.filePath()))) << qPrintable(info.filePath());
-    };
-    replay("fuzz_layout", &fuzz::layout);
-    replay("fuzz_definitions", &fuzz::definitions);
 }
 
 } // namespace

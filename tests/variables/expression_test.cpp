@@ -1,9 +1,6 @@
-#include "fuzz/targets.h"
 #include "variables/expression/compiler.h"
 #include "variables/expression/evaluator.h"
 #include "variables/expression/string_building.h"
-
-#include <QDir>
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -125,18 +122,6 @@ TEST(Compiler, refusesWhatOutgrowsItsLimits)
     for (const char *part : {"-", "(", "sin(", "1+(", "2^-", "max(1,", "3var_0001^"})
         EXPECT_TRUE(program(QString(part).repeated(100'000)).isEmpty()) << part;
     EXPECT_EQ(program(QString(150, '(') + 'x' + QString(150, ')')), program("x"));
-}
-
-TEST(Corpus, equationsAndProgramsKeepTheirPromises)
-{
-    const QDir corpus(QStringLiteral(FUZZ_CORPUS "/fuzz_expression"));
-    const QStringList names = corpus.entryList(QDir::Files);
-    EXPECT_FALSE(names.isEmpty());
-    for (const QString &name : names) {
-        QFile file(corpus.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_TRUE(fuzz::expression(file.readAll())) << name.toStdString();
-    }
 }
 
 } // namespace
