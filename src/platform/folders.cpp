@@ -69,9 +69,10 @@ Folders desktopFolders(const QString &programFolder)
 
 int FileExists(const QString &path)
 {
-    QString name = path.section(QChar(0), 0, 0);
-    name.remove(QLatin1Char('"'));
-    return !name.isEmpty() && QFileInfo(name).isFile() ? -1 : 0;
+    const QString name = path.section(QChar(0), 0, 0);
+    const QString plain = QString(name).remove(QLatin1Char('"'));
+    const auto isFile = [](const QString &file) { return !file.isEmpty() && QFileInfo(file).isFile(); };
+    return isFile(name) || isFile(plain) ? -1 : 0;
 }
 
 void wipeFiles(const QString &folder, const QString &pattern)

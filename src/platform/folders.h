@@ -23,6 +23,7 @@ struct Folders
     QString FontFolder() const { return inUserData("FontFiles/"); }
     QString variablesFile() const { return inUserData("QLM6ConfigToolVars.cfg"); }
     QString workspaceFile() const { return inUserData("MORVELWorkspace.VGL"); }
+    QString recoveryFile() const { return inUserData("MORVELRecovery.VGL"); }
     QString defaultLayoutFile() const { return inUserData("MORVELDefault.VGL"); }
     QString pictureFolder() const { return inUserData("ImgTemp/"); } // copies of pictures that users chose
     QString seeds() const { return program + QStringLiteral("defaults/"); }
@@ -35,8 +36,8 @@ struct Folders
 // The folders of the running program; creates the temporary and the cache folder, readable by this user only.
 Folders desktopFolders(const QString &programFolder);
 
-// -1 when a file (of any attributes) is found under `path`, which may carry quotes and NUL-separated parts
-// (the first part counts); else 0.
+// -1 when a file (of any attributes) is found under `path`, which may carry NUL-separated parts (the first
+// part counts) and quotes, in its name or round it; else 0.
 int FileExists(const QString &path);
 
 // Deletes the files of `folder` that match `pattern` ("*.bmp"); what cannot be deleted stays.

@@ -8,4 +8,14 @@ void reportFailure(Prompts &prompts, const QString &reason)
                     QStringLiteral("The command could not be completed.\n%1").arg(reason));
 }
 
+void reportStanding(Prompts &prompts, const QString &path, Standing standing)
+{
+    if (standing == Standing::NotConfirmed) {
+        prompts.message(Icon::Warning, ProductTitle,
+                        QStringLiteral("%1\nwas saved, but not confirmed by the device. Save it again, or to "
+                                       "another place, before you take the card out.")
+                            .arg(path));
+    }
+}
+
 } // namespace platform

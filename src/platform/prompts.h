@@ -44,6 +44,20 @@ public:
     virtual std::optional<QFont> font(const QFont &initial) = 0;
 };
 
+// For what runs while nobody is there: shows nothing and takes every question for declined.
+class SilentPrompts final : public Prompts
+{
+public:
+    void message(Icon, const QString &, const QString &) override {}
+    bool ask(Icon, const QString &, const QString &) override { return false; }
+    std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return {}; }
+    QString input(const QString &, const QString &, const QString &) override { return {}; }
+    QString openFile(const FileRequest &) override { return {}; }
+    QString saveFile(const FileRequest &) override { return {}; }
+    std::optional<QRgb> colour(QRgb) override { return {}; }
+    std::optional<QFont> font(const QFont &) override { return {}; }
+};
+
 // The program's name in the title of every box that has no title of its own.
 inline const QString ProductTitle = QStringLiteral("MORVEL Configuration Tool");
 

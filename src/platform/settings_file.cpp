@@ -10,7 +10,7 @@ namespace platform {
 
 SettingsFile::SettingsFile(const QString &path) : m_path(path)
 {
-    if (QFileInfo::exists(path))
+    if (QFileInfo(path).isFile())
         m_wasRead = skipFailures([&] { m_ini = common::IniFile::parse(readFile(path)); });
 }
 

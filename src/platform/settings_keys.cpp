@@ -8,7 +8,6 @@ namespace platform {
 namespace {
 
 constexpr int NumberBuffer = 10;
-constexpr int TextBuffer = 100;
 
 bool present(const SettingsFile &file, const NumberKey &key)
 {
@@ -39,7 +38,7 @@ void NumberKey::write(SettingsFile &file, int value) const
 
 QString TextKey::read(const SettingsFile &file) const
 {
-    return file.read(QLatin1String(section), QLatin1String(key), QLatin1String(fallback), TextBuffer);
+    return file.read(QLatin1String(section), QLatin1String(key), QLatin1String(fallback), bufferSize);
 }
 
 void TextKey::write(SettingsFile &file, const QString &value) const

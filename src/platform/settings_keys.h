@@ -21,12 +21,13 @@ struct NumberKey
     void write(SettingsFile &file, int value) const;
 };
 
-// One text key, read into a buffer of 100 characters.
+// One text key, read into a buffer of a fixed size.
 struct TextKey
 {
     const char *section;
     const char *key;
     const char *fallback;
+    int bufferSize = 100; // characters
 
     QString read(const SettingsFile &file) const;
     void write(SettingsFile &file, const QString &value) const;
@@ -48,6 +49,7 @@ inline constexpr NumberKey ShowGrid{Tool, "SHOWGRID", 1};
 inline constexpr NumberKey SnapGrid{Tool, "SNAPGRID", 1};
 inline constexpr TextKey PalPicture{Tool, "PAL_BACKIMG", "PALVIDEOBackImg.bmp"};
 inline constexpr TextKey NtscPicture{Tool, "NTSC_BACKIMG", "NTSCVIDEOBackImg.bmp"};
+inline constexpr TextKey LayoutFolder{Tool, "LAYOUTFOLDER", "", 4096};
 
 // A top below 894 becomes 854: the smaller value is deliberate.
 inline constexpr PanelKeys Library{{"CONTROL", "LEFT", 0},

@@ -1,12 +1,18 @@
 #include "common/run_time_error.h"
 #include "platform/file_replace.h"
 #include "platform/folders.h"
+#include "platform/guards.h"
+#include "platform/process_lock.h"
+#include "platform/settings_file.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace {
@@ -24,22 +30,21 @@ protected:
     QString at(const char *name) const { return folder.filePath(name); }
     QStringList names() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
     // Replaces "f" where the folder takes no new files; permissions bind root to nothing, so as another user.
-    void replaceInClosedFolder()
+    void replaceInClosedFolder(const QString &keepIn)
     {
+        chmod(qPrintable(keepIn), 0777);
         const uid_t self = geteuid();
         ASSERT_EQ(chmod(qPrintable(folder.path()), 0555), 0);
         ASSERT_TRUE(self != 0 || seteuid(65534) == 0);
-        try {
-            replaceFile(at("f"), "new");
-        } catch (const common::RunTimeError &) {
-            refused = true;
-        }
+        refused = failureOf([&] { replaceFile(at("f"), "new", keepIn); }).value_or(QString());
         ASSERT_EQ(seteuid(self), 0);
         ASSERT_EQ(chmod(qPrintable(folder.path()), 0755), 0);
     }
 
+    static QByteArray ownerOf(const QString &lock) { return readFile(lock).split('\n')[0]; }
+
     QTemporaryDir folder;
-    bool refused = false;
+    QString refused; // the reason
 };
 
 TEST_F(Files, replacedFileIsWholeAndNothingStaysBesideIt)
@@ -53,17 +58,97 @@ TEST_F(Files, replacedFileIsWholeAndNothingStaysBesideIt)
 
 TEST_F(Files, closedFolderGetsTheNewContentInPlaceOrKeepsTheOldOne)
 {
+    const QTemporaryDir keep;
+    const QString keepIn = keep.path() + '/';
     put("f", "a much longer old content");
-    replaceInClosedFolder();
-    EXPECT_FALSE(refused);
+    replaceInClosedFolder(keepIn);
+    EXPECT_EQ(refused, "");
     EXPECT_EQ(readFile(at("f")), "new");
+    EXPECT_TRUE(QDir(keepIn).isEmpty());
     put("f", "old", 0444);
-    replaceInClosedFolder();
-    EXPECT_TRUE(refused);
+    replaceInClosedFolder(keepIn);
+    EXPECT_EQ(refused, at("f") + ": Permission denied");
+    put("f", "old");
+    replaceInClosedFolder(at("no folder/")); // where the old bytes cannot be kept, nothing is risked
+    EXPECT_NE(refused, "");
     EXPECT_THROW(replaceFile(at("f/below a file"), "new"), common::RunTimeError);
     EXPECT_EQ(readFile(at("f")), "old");
     EXPECT_EQ(names(), QStringList{"f"});
     EXPECT_THROW(readFile(at("missing")), common::RunTimeError);
+}
+
+TEST_F(Files, whatIsNoRegularFileIsNeitherReadNorReplaced)
+{
+    ASSERT_EQ(mkfifo(qPrintable(at("pipe")), 0666), 0);
+    ASSERT_TRUE(QFile::link(at("loop"), at("loop2")) && QFile::link(at("loop2"), at("loop")));
+    ASSERT_TRUE(QDir(folder.path()).mkdir("folder") && QFile::link("/dev/full", at("device")));
+    for (const char *name : {"pipe", "loop", "folder", "device"}) {
+        EXPECT_THROW(readFile(at(name)), common::RunTimeError) << name;
+        EXPECT_THROW(replaceFile(at(name), "x"), common::RunTimeError) << name;
+        EXPECT_THROW(replaceFile(at(name), "x", at("folder/")), common::RunTimeError) << name;
+        EXPECT_THROW(SettingsFile(at(name)).save(), common::RunTimeError) << name;
+    }
+    put("f", "old");
+    ASSERT_TRUE(QFile::link(at("f"), at("link")) && QFile::link(at("coming"), at("ahead")));
+    replaceFile(at("link"), "new");
+    replaceFile(at("ahead"), "new");
+    EXPECT_EQ(readFile(at("f")) + readFile(at("coming")), "newnew");
+    EXPECT_TRUE(QFileInfo(at("link")).isSymLink());
+}
+
+TEST_F(Files, whatAKilledSaveLeftGoesWithTheNextOneOrAtTheStart)
+{
+    put("f.morvel-new", "half");
+    replaceFile(at("f"), "new");
+    EXPECT_EQ(names(), QStringList{"f"});
+    put("g.morvel-new", "half");
+    removeStagedFiles(folder.path());
+    EXPECT_EQ(names(), QStringList{"f"});
+}
+
+TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
+{
+    using State = ProcessLock::State;
+    const QString path = at("lock");
+    const auto stateOver = [&](const QByteArray &content, int age, ProcessLock::SystemLock lock) {
+        put("lock", content);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime);
+        file.close();
+        return ProcessLock(path, lock).state();
+    };
+    const auto without = [](QFile &) { return ProcessLock::Answer::Unsupported; };
+    const QByteArray here = QSysInfo::machineHostName().toUtf8();
+    const QByteArray self = QByteArray::number(getpid()), parent = QByteArray::number(getppid());
+    // A system lock alone decides, whatever an earlier kind of lock left.
+    for (const char *content : {"", "1\nx\npitwall\n", "no lock"})
+        EXPECT_EQ(stateOver(content, 0, &ProcessLock::systemLock), State::Ours) << content;
+    const std::tuple<QByteArray, int, State> cases[] = {
+        {"", 0, State::Others},
+        {"", 60, State::Ours},
+        {"no lock", 60, State::Ours},
+        {"12", 60, State::Ours},
+        {parent + "\nmorvel-config\n" + here + "\n", 60, State::Others},
+        {self + "\nmorvel-config\n" + here + "\n", 0, State::Ours},
+        {"4194305\nmorvel-config\n" + here + "\n", 0, State::Ours}, // no process has this number
+        {parent + "\nmorvel-config\npitwall\n", 60, State::OtherHosts},
+    };
+    for (const auto &[content, age, state] : cases)
+        EXPECT_EQ(stateOver(content, age, without), state) << content.constData();
+    QFile::remove(path);
+    {
+        const ProcessLock lock(path, without);
+        EXPECT_EQ(ownerOf(path), self);
+        EXPECT_EQ(ProcessLock(path, without).state(), State::Ours); // the same process
+    }
+    EXPECT_FALSE(QFile::exists(path)); // other hosts can see that nobody holds it
+    ASSERT_TRUE(QDir(folder.path()).mkdir("lock"));
+    EXPECT_EQ(ProcessLock(path).state(), State::Others); // somebody may be making it
+    const timeval old[2] = {{1000, 0}, {1000, 0}};
+    ASSERT_EQ(utimes(qPrintable(path), old), 0);
+    EXPECT_EQ(ProcessLock(path).state(), State::Ours);
+    EXPECT_TRUE(QFileInfo(path).isFile());
 }
 
 TEST_F(Files, markerAboveTheProgramMovesTheUserDataAtOnce)
@@ -84,6 +169,8 @@ TEST_F(Files, existenceIsOfFilesOnly)
     const QString file = at(".hidden");
     for (const QString &found : {file, '"' + file + '"', file + QChar(0) + "other"})
         EXPECT_EQ(FileExists(found), -1) << qPrintable(found);
+    put("5\" disc", "");
+    EXPECT_EQ(FileExists(at("5\" disc")), -1);
     for (const QString &none : {QString(), QString("\"\""), folder.path(), file + 'x'})
         EXPECT_EQ(FileExists(none), 0) << qPrintable(none);
 }

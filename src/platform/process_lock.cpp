@@ -1,0 +1,135 @@
+#include "platform/process_lock.h"
+
+#include "platform/file_replace.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#include <sys/file.h>
+#endif
+
+namespace platform {
+
+namespace {
+
+constexpr qint64 NobodysAfter = 10; // seconds
+constexpr qint64 LongestOwner = 4096;
+
+struct Owner
+{
+    qint64 process;
+    QString host;
+};
+
+bool isYoung(const QFileInfo &file)
+{
+    return file.lastModified().secsTo(QDateTime::currentDateTime()) <= NobodysAfter;
+}
+
+// Three lines: the process, the program, the machine.
+std::optional<Owner> ownerIn(QFile &file)
+{
+    file.seek(0);
+    const QStringList lines = QString::fromUtf8(file.read(LongestOwner)).split(QLatin1Char('\n'));
+    bool isNumber = false;
+    const qint64 process = lines[0].toLongLong(&isNumber);
+    if (!isNumber || process <= 0 || lines.size() < 3 || lines[2].isEmpty())
+        return std::nullopt;
+    return Owner{process, lines[2]};
+}
+
+bool isAnotherAlive(qint64 process)
+{
+    if (process == QCoreApplication::applicationPid())
+        return false; // a number that came round again
+#ifdef Q_OS_UNIX
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+#else
+    return true;
+#endif
+}
+
+// Out of the way with a folder, a pipe or a link that leads nowhere.
+void moveAside(const QString &path)
+{
+    if (!QFile::remove(path) && !QDir().rmdir(path))
+        QFile::rename(path, unusedPath(path + QStringLiteral(".old")));
+}
+
+} // namespace
+
+ProcessLock::ProcessLock(const QString &path, SystemLock lock) : m_file(path)
+{
+    const QFileInfo found(path);
+    if ((found.exists() || found.isSymLink()) && !found.isFile()) {
+        if (found.exists() && isYoung(found)) {
+            m_state = State::Others;
+            return;
+        }
+        moveAside(path);
+    }
+    const bool isNew = !QFileInfo::exists(path);
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return;
+    const Answer answer = lock(m_file);
+    m_removes = answer == Answer::Unsupported;
+    if (answer == Answer::Busy)
+        m_state = State::Others;
+    else if (answer == Answer::Unsupported && !isNew)
+        m_state = stateByOwner();
+    if (m_state == State::Ours)
+        writeOwner();
+}
+
+ProcessLock::~ProcessLock()
+{
+    if (m_removes && m_state == State::Ours)
+        m_file.remove();
+}
+
+ProcessLock::State ProcessLock::stateByOwner()
+{
+    const auto owner = ownerIn(m_file);
+    if (!owner)
+        return isYoung(QFileInfo(m_file)) ? State::Others : State::Ours;
+    if (owner->host == QSysInfo::machineHostName())
+        return isAnotherAlive(owner->process) ? State::Others : State::Ours;
+    m_host = owner->host;
+    return State::OtherHosts;
+}
+
+void ProcessLock::takeOver()
+{
+    m_state = State::Ours;
+    writeOwner();
+}
+
+void ProcessLock::writeOwner()
+{
+    m_file.resize(0);
+    m_file.seek(0);
+    m_file.write(QStringLiteral("%1\nmorvel-config\n%2\n")
+                     .arg(QCoreApplication::applicationPid())
+                     .arg(QSysInfo::machineHostName())
+                     .toUtf8());
+}
+
+ProcessLock::Answer ProcessLock::systemLock(QFile &file)
+{
+#ifdef Q_OS_UNIX
+    if (::flock(file.handle(), LOCK_EX | LOCK_NB) == 0)
+        return Answer::Locked;
+    return errno == EWOULDBLOCK || errno == EINTR ? Answer::Busy : Answer::Unsupported;
+#else
+    Q_UNUSED(file);
+    return Answer::Unsupported;
+#endif
+}
+
+} // namespace platform
