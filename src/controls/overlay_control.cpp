@@ -144,10 +144,10 @@ void OverlayControl::mnuDelete_Click() { emit Delete(); }
 
 void OverlayControl::mnuProperties_Click()
 {
-    // The layout counts as changed whatever the user does in the dialog: deliberate.
-    m_host.UserControlChanged();
     if (m_family.showProperties)
         m_family.showProperties(*this);
+    // The layout counts as changed whatever the user did in the dialog: deliberate.
+    m_host.UserControlChanged();
 }
 
 QRect OverlayControl::innerRect() const

@@ -103,7 +103,9 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
 void writeTables(const LoadContext &context)
 {
     platform::reportFailures(context.prompts, [&] {
-        platform::updateFile(context.folders.variablesFile(), variables::saveDefinitions(context.catalogue));
+        if (!context.catalogue.definitionsLost)
+            platform::updateFile(context.folders.variablesFile(),
+                                 variables::saveDefinitions(context.catalogue));
     });
     platform::reportFailures(context.prompts, [&] {
         platform::updateFile(context.folders.MessagesFile(),

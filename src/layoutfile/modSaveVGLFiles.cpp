@@ -4,7 +4,6 @@
 #include "layoutfile/family_records.h"
 #include "layoutfile/program_pass.h"
 #include "layoutfile/save_checks.h"
-#include "platform/file_replace.h"
 #include "platform/guards.h"
 
 #include <algorithm>
@@ -17,6 +16,8 @@ using controls::ControlType;
 using controls::OverlayControl;
 using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
+
+bool checksCameras(SaveKind kind) { return kind == SaveKind::Command || kind == SaveKind::Workspace; }
 
 bool isTrackMap(const OverlayControl *control) { return control->family().type == ControlType::TrackMap; }
 
@@ -145,54 +146,54 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
         const graphics::Thumbnail made = graphics::thumbnailOf(context.surface.renderPreview());
         if (made.fault.isEmpty())
             groups.add(ThumbnailRecord{Bulk{made.jpeg}});
-        else if (kind != SaveKind::Backup)
+        else if (checksCameras(kind))
             context.prompts.message(platform::Icon::None, platform::ProductTitle, made.fault);
     });
 }
 
-// False when two cameras clash.
-bool writeLayout(const QString &path, SaveKind kind, const SaveContext &context, const ControlList &controls)
+// Nothing when two cameras clash.
+std::optional<QByteArray> gatheredLayout(SaveKind kind, const SaveContext &context,
+                                         const ControlList &controls)
 {
     Gathering save{{}, {}, context.screen, context.fonts};
-    gatherThumbnail(save.groups, kind, context);
+    if (kind != SaveKind::Recovery)
+        gatherThumbnail(save.groups, kind, context);
     ProgressScope progress(context.progress, kind == SaveKind::Command
                                                  ? QStringLiteral("Saving configuration.....")
                                                  : QStringLiteral("Saving workspace....."));
     gatherControls(save, controls, progress);
-    if (kind != SaveKind::Backup && sharesCamera(save.groups.of(RecordType::VideoSource)))
-        return false;
+    if (checksCameras(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
+        return std::nullopt;
     markSettings(save.used, context.settings);
     gatherVariables(save, context, progress);
     gatherSettings(save.groups, context.settings, progress);
-    platform::replaceFile(path, assembleLayout(save.groups, context.stamp));
+    QByteArray layout = assembleLayout(save.groups, context.stamp);
     progress.setValue(100);
-    return true;
+    return layout;
 }
 
 } // namespace
 
-SaveResult SaveVGL(const QString &path, SaveKind kind, const SaveContext &context)
+std::optional<QByteArray> layoutBytes(SaveKind kind, const SaveContext &context)
 {
     using platform::Icon;
-    if (path.isEmpty())
-        return SaveResult::NothingToDo;
     const ControlList controls = context.surface.controls();
     if (kind == SaveKind::Command) {
         if (const QString text = saveComplaint(countsOf(controls)); !text.isEmpty()) {
             context.prompts.message(Icon::Critical, platform::ProductTitle, text);
-            return SaveResult::Refused;
+            return std::nullopt;
         }
     }
     if (controls.isEmpty())
-        return SaveResult::NothingToDo;
-    if (!writeLayout(path, kind, context, controls)) {
+        return std::nullopt;
+    auto layout = gatheredLayout(kind, context, controls);
+    if (!layout) {
         context.prompts.message(
             Icon::Critical, platform::ProductTitle,
             QStringLiteral("Invalid configuration\n"
                            "Current configuration used same camera no for several video objects "));
-        return SaveResult::Refused;
     }
-    return SaveResult::Written;
+    return layout;
 }
 
 } // namespace layoutfile

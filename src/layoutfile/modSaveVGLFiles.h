@@ -10,6 +10,10 @@
 #include "recorder/recorder_settings.h"
 #include "variables/catalogue.h"
 
+#include <QByteArray>
+
+#include <optional>
+
 namespace layoutfile {
 
 struct SaveContext
@@ -28,13 +32,12 @@ struct SaveContext
 enum class SaveKind {
     Command,   // the user's Save: every check speaks
     Workspace, // at the closing of the window: silent, only the camera check speaks and refuses
-    Backup     // nothing speaks, cameras are not checked
+    Backup,    // nothing speaks, cameras are not checked
+    Recovery   // as a backup, and quick: no thumbnail
 };
 
-enum class SaveResult { Written, NothingToDo, Refused };
-
-// Writes the design as a layout file. Nothing is written when `path` is empty, the design is empty or a check
-// fails. Throws RunTimeError when the file cannot be written; the old file is then as it was.
-SaveResult SaveVGL(const QString &path, SaveKind kind, const SaveContext &context);
+// The design as a layout file. Nothing when the design is empty or a check refuses it; the check has spoken
+// then. Throws RunTimeError for what cannot be stored.
+std::optional<QByteArray> layoutBytes(SaveKind kind, const SaveContext &context);
 
 } // namespace layoutfile

@@ -82,9 +82,11 @@ CommandLine parseCommandLine(const QString &rawLine, const std::function<bool(co
         const QString value = unquoted(part.mid(1));
         const QChar letter = part.isEmpty() ? QChar() : part.front().toUpper();
         if (letter == QLatin1Char('F')) {
-            const QString path = platformPath(value);
-            if (path.endsWith(QLatin1String("VGL"), Qt::CaseInsensitive) && fileExists(path))
-                result.layoutToOpen = path;
+            // A quote may also belong to the name of the file.
+            for (const QString &path : {platformPath(part.mid(1).trimmed()), platformPath(value)}) {
+                if (path.endsWith(QLatin1String("VGL"), Qt::CaseInsensitive) && fileExists(path))
+                    result.layoutToOpen = path;
+            }
         } else if (letter == QLatin1Char('T')) {
             if (const auto standard = standardOf(value))
                 result.videoOverride = standard;

@@ -15,6 +15,10 @@ struct CommandLine
     std::optional<recorder::VideoStandard> videoOverride; // for this run
 };
 
+// The argument by which the launcher says that it was the launcher; it holds no slash and so means nothing
+// else.
+inline const QString LaunchedMark = QStringLiteral("--launched");
+
 // What the launcher passes on: a plain file, as a file manager names it, as /F and its path.
 QStringList argumentsForProgram(const QStringList &arguments);
 

@@ -8,16 +8,17 @@
 #include "platform/desktop/busy.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
+#include "platform/settings_keys.h"
+#include "shell/kept_designs.h"
 #include "shell/save_rules.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 namespace shell {
 
 using layoutfile::SaveKind;
-using layoutfile::SaveResult;
 using platform::Icon;
 using platform::ProductTitle;
 
@@ -28,26 +29,6 @@ const QString SaveFilter = QStringLiteral("VGL Files(*.VGL)|*.VGL");
 const QString DefaultName = QStringLiteral("DEFAULT.VGL");
 
 enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
-
-layoutfile::SaveContext saveContext(ProgramState &state, surface::frmInterface &design,
-                                    platform::Prompts &prompts, platform::Progress &progress)
-{
-    return {design,   state.catalogue, state.settings, state.fonts, prompts,
-            progress, state.stamp,     state.screen,   state.locale};
-}
-
-// The newest backup has no number; the two before it are 2 and 3.
-void rotateBackups(const platform::Folders &folders)
-{
-    const QString newest = folders.inUserData("MORVELBackup.VGL");
-    const QString second = folders.inUserData("MORVELBackup2.VGL");
-    const QString third = folders.inUserData("MORVELBackup3.VGL");
-    if (!QFile::exists(newest))
-        return;
-    QFile::remove(third);
-    QFile::rename(second, third);
-    QFile::rename(newest, second);
-}
 
 } // namespace
 
@@ -75,24 +56,16 @@ bool FileCommands::clearDesign()
 
 void FileCommands::backUpDesign()
 {
-    if (m_design.controls().isEmpty())
-        return;
     platform::NoProgress silent;
-    if (const auto backup = savedApart(SaveKind::Backup, silent)) {
-        rotateBackups(m_state.folders); // only now: a backup that fails must not cost an older one
-        platform::replaceFile(m_state.folders.inUserData("MORVELBackup.VGL"), *backup);
-    }
+    if (const auto layout = layoutBytes(SaveKind::Backup, m_prompts, silent))
+        keepAsBackup(*layout, m_state.folders);
 }
 
-// The layout as it was written into a folder of its own; nothing when the save was refused.
-std::optional<QByteArray> FileCommands::savedApart(SaveKind kind, platform::Progress &progress)
+std::optional<QByteArray> FileCommands::layoutBytes(SaveKind kind, platform::Prompts &prompts,
+                                                    platform::Progress &progress)
 {
-    const QTemporaryDir folder(m_state.folders.inTemporary("save"));
-    if (!folder.isValid())
-        throw common::RunTimeError(folder.errorString());
-    const QString path = folder.filePath(DefaultName);
-    const auto result = layoutfile::SaveVGL(path, kind, saveContext(m_state, m_design, m_prompts, progress));
-    return result == SaveResult::Written ? std::optional(platform::readFile(path)) : std::nullopt;
+    return layoutfile::layoutBytes(kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts,
+                                          prompts, progress, m_state.stamp, m_state.screen, m_state.locale});
 }
 
 void FileCommands::mnuLoadConfig()
@@ -123,14 +96,38 @@ void FileCommands::LoadProfile()
         {QStringLiteral("Load Layout"), m_lastFolder, OpenFilter, {}, [&folders](const QString &file) {
              return QImage(layoutfile::ExtractThumbnail(file, folders));
          }});
-    if (path.isEmpty())
+    if (!path.isEmpty())
+        load(path);
+}
+
+// The program's own files say nothing about where a user keeps layouts.
+void FileCommands::rememberFolder(const QString &path)
+{
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (folder != QDir(m_state.folders.GetAppDataFolder()))
+        m_lastFolder = folder.path();
+}
+
+void FileCommands::readLastFolder()
+{
+    const QString folder =
+        platform::keys::LayoutFolder.read(platform::SettingsFile(m_state.folders.ConfigFile()));
+    if (QFileInfo(folder).isDir())
+        m_lastFolder = folder;
+}
+
+void FileCommands::keepLastFolder() const
+{
+    platform::SettingsFile file(m_state.folders.ConfigFile());
+    if (m_lastFolder.isEmpty() || platform::keys::LayoutFolder.read(file) == m_lastFolder)
         return;
-    m_lastFolder = QFileInfo(path).absolutePath();
-    load(path);
+    platform::keys::LayoutFolder.write(file, m_lastFolder);
+    file.save();
 }
 
 void FileCommands::load(const QString &path)
 {
+    rememberFolder(path);
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
         const layoutfile::LoadContext context{m_design, m_state.catalogue, m_state.settings, m_prompts,
@@ -166,15 +163,24 @@ bool FileCommands::passesComplexityGate()
     return !question || m_prompts.ask(Icon::Warning, ProductTitle, *question);
 }
 
+bool FileCommands::mayLoseVariables()
+{
+    return !m_state.catalogue.definitionsLost ||
+           m_prompts.ask(
+               Icon::Warning, ProductTitle,
+               QStringLiteral("No variable definitions are loaded, the layout will hold none. Do you "
+                              "want to continue ?"));
+}
+
 void FileCommands::mnuSaveConfig()
 {
-    if (!passesComplexityGate())
+    if (!mayLoseVariables() || !passesComplexityGate())
         return;
     const QString path =
         m_prompts.saveFile({QStringLiteral("Save Layout"), m_lastFolder, SaveFilter, DefaultName, {}});
     if (path.isEmpty())
         return;
-    m_lastFolder = QFileInfo(path).absolutePath();
+    rememberFolder(path);
     for (const auto &question : {longNameQuestion(path), recorderNameQuestion(path, &isVolumeRoot)}) {
         if (question && !m_prompts.ask(Icon::Information, ProductTitle, *question))
             return;
@@ -183,34 +189,68 @@ void FileCommands::mnuSaveConfig()
         m_design.setCaption(QFileInfo(path).completeBaseName());
 }
 
-// The chosen path only ever receives a whole file.
 bool FileCommands::save(const QString &path)
 {
     bool written = false;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
-        if (const auto layout = savedApart(SaveKind::Command, busy)) {
-            platform::replaceFile(path, *layout);
+        if (const auto layout = layoutBytes(SaveKind::Command, m_prompts, busy)) {
+            const QString keepIn = m_state.folders.GetAppDataFolder();
+            platform::reportStanding(m_prompts, path, platform::replaceFile(path, *layout, keepIn));
             written = true;
         }
     });
     return written;
 }
 
-void FileCommands::saveWorkspace()
+void FileCommands::saveRecovery()
 {
-    platform::reportFailures(m_prompts, [this] {
-        platform::Busy busy(&m_window);
-        const QString workspace = m_state.folders.workspaceFile();
-        QByteArray previous;
-        platform::skipFailures([&] { previous = platform::readFile(workspace); });
-        const auto result = layoutfile::SaveVGL(workspace, SaveKind::Workspace,
-                                                saveContext(m_state, m_design, m_prompts, busy));
-        if (result == SaveResult::Refused)
-            backUpDesign();
-        if (result == SaveResult::Written && !previous.isEmpty())
-            platform::replaceFile(m_state.folders.inUserData("MORVELWorkspace.bak"), previous);
-    });
+    const QString path = m_state.folders.recoveryFile();
+    platform::NoProgress silent;
+    if (const auto layout = layoutBytes(SaveKind::Recovery, m_prompts, silent))
+        platform::StagedFile(path, *layout, platform::Flush::None).commit();
+    else
+        QFile::remove(path);
+}
+
+// What the next start offers. A design that is refused, or that has lost its variables, is a backup.
+void FileCommands::keepDesign(platform::Prompts &prompts, QByteArray &layout)
+{
+    platform::Busy busy(&m_window);
+    std::optional<QByteArray> made;
+    if (!m_state.catalogue.definitionsLost)
+        made = layoutBytes(SaveKind::Workspace, prompts, busy);
+    const bool isWorkspace = made.has_value();
+    if (!made)
+        made = layoutBytes(SaveKind::Backup, prompts, busy);
+    layout = made.value_or(QByteArray());
+    if (layout.isEmpty())
+        return;
+    const platform::Folders &folders = m_state.folders;
+    platform::reportStanding(prompts, folders.GetAppDataFolder(),
+                             isWorkspace ? keepAsWorkspace(layout, folders) : keepAsBackup(layout, folders));
+}
+
+bool FileCommands::saveWorkspace(Leaving leaving)
+{
+    platform::SilentPrompts silent;
+    const bool sessionEnds = leaving == Leaving::SessionEnds;
+    platform::Prompts &prompts = sessionEnds ? silent : m_prompts;
+    QByteArray layout;
+    auto failure = platform::failureOf([&] { keepDesign(prompts, layout); });
+    QString place;
+    if (failure && !layout.isEmpty())
+        place = keepAnywhere(layout, m_state.folders);
+    if (!place.isEmpty())
+        failure->append(QStringLiteral("\nThe design is kept in\n") + place);
+    if (failure)
+        platform::reportFailure(prompts, *failure);
+    const bool isKept = !failure || (!place.isEmpty() && !sessionEnds); // nobody was told of the place
+    if (isKept)
+        QFile::remove(m_state.folders.recoveryFile());
+    return isKept || sessionEnds ||
+           prompts.ask(Icon::Warning, ProductTitle,
+                       QStringLiteral("The layout could not be saved. Do you want to leave anyway?"));
 }
 
 } // namespace shell

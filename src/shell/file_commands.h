@@ -7,6 +7,11 @@
 
 namespace shell {
 
+enum class Leaving {
+    ByCommand,
+    SessionEnds // nobody is there to answer
+};
+
 // The file commands of the main window. Each runs to its end inside the calling event; failures are reported
 // by the general error message.
 class FileCommands
@@ -22,14 +27,26 @@ public:
 
     // Loads a layout without asking and without clearing.
     void load(const QString &path);
-    // The silent save at the closing of the design window.
-    void saveWorkspace();
+    // The silent save at the closing of the design window. A design that cannot become the workspace is kept
+    // elsewhere, and the user is told where. False when it lies in no file and the user wants to stay.
+    bool saveWorkspace(Leaving leaving = Leaving::ByCommand);
+    // Writes the design where the next start finds it after a crash; an empty design leaves no such file.
+    // Throws RunTimeError.
+    void saveRecovery();
+
+    // The folder of the last layout, from one run to the next. Writing throws RunTimeError.
+    void readLastFolder();
+    void keepLastFolder() const;
 
 private:
     void LoadProfile();
+    void rememberFolder(const QString &path);
     bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
-    std::optional<QByteArray> savedApart(layoutfile::SaveKind kind, platform::Progress &progress);
+    void keepDesign(platform::Prompts &prompts, QByteArray &layout);
+    std::optional<QByteArray> layoutBytes(layoutfile::SaveKind kind, platform::Prompts &prompts,
+                                          platform::Progress &progress);
+    bool mayLoseVariables();
     bool passesComplexityGate();
     double CalculateComplexity() const;
     bool save(const QString &path);

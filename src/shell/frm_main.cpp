@@ -124,6 +124,8 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     setCentralWidget(m_design);
     connect(m_design, &surface::frmInterface::positionShown, m_position, &QLabel::setText);
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
+    for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
+        connect(m_design, change, &m_recovery, &Recovery::noteChange);
     connect(&m_design->panels(), &surface::PanelArea::visibilityChanged, this, &frmMain::refreshFromState);
     refreshFromState();
 }
@@ -144,6 +146,7 @@ QAction *frmMain::makeAction(const CommandRow &row)
     connect(made, &QAction::triggered, this, [this, run] {
         platform::reportFailures(m_prompts, [&] { run(*this); });
         refreshFromState();
+        m_recovery.noteChange();
     });
     return made;
 }
@@ -269,8 +272,16 @@ void frmMain::sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    m_files.saveWorkspace();
-    platform::reportFailures(m_prompts, [this] { m_design->saveGeometry(); });
+    const Leaving leaving = m_state.sessionEnds ? Leaving::SessionEnds : Leaving::ByCommand;
+    if (!m_files.saveWorkspace(leaving)) {
+        event->ignore();
+        return;
+    }
+    platform::SilentPrompts silent;
+    platform::reportFailures(m_state.sessionEnds ? silent : m_prompts, [this] {
+        m_design->saveGeometry();
+        m_files.keepLastFolder();
+    });
     platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
     event->accept();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/file_commands.h"
+#include "shell/recovery.h"
 #include "shell/variable_commands.h"
 
 #include <QLabel>
@@ -23,6 +24,7 @@ public:
 
     surface::frmInterface &design() { return *m_design; }
     FileCommands &files() { return m_files; }
+    Recovery &recovery() { return m_recovery; }
 
     // Caption, check marks and texts of the menus and the status bar.
     void refreshFromState();
@@ -44,6 +46,7 @@ private:
     platform::Prompts &m_prompts;
     surface::frmInterface *m_design;
     FileCommands m_files;
+    Recovery m_recovery{m_files};
     VariableCommands m_variables;
     QMenu m_addControl;   // shared by the menu bar and the canvas popup
     QMenu m_canvasPopup;  // mnuDropDown

@@ -1,32 +1,72 @@
-// What the desktop starts: gives a new user the shipped definition files, then runs the program. A plain file
-// argument, as a file manager passes it, opens that layout.
+// What the desktop starts: gives a new user the shipped definition files, then becomes the program. A plain
+// file argument, as a file manager passes it, opens that layout.
 
+#include "platform/become_program.h"
 #include "platform/desktop/appearance.h"
 #include "platform/desktop/qt_prompts.h"
 #include "platform/guards.h"
 #include "shell/command_line.h"
 #include "shell/seed_user_data.h"
-#include "shell/single_instance.h"
 
 #include <QApplication>
-#include <QProcess>
+
+#include <functional>
+
+namespace {
+
+using Saying = std::function<bool(platform::Prompts &)>;
+
+// Most starts have nothing to say and need no window for it.
+bool say(int argc, char **argv, const Saying &saying)
+{
+    const QApplication desktop(argc, argv);
+    platform::applyAppearance(*qApp);
+    platform::QtPrompts prompts;
+    return saying(prompts);
+}
+
+// What has to be said before the program can start; empty for nothing.
+Saying completeUserData(const platform::Folders &folders)
+{
+    const QString question = shell::missingFilesQuestion(folders);
+    if (!shell::isNewUser(folders) && question.isEmpty())
+        return {};
+    if (shell::isNewUser(folders)) {
+        const auto failure = platform::failureOf([&] { shell::seedUserData(folders); });
+        if (!failure)
+            return {};
+        return [reason = *failure](platform::Prompts &prompts) {
+            platform::reportFailure(prompts, reason);
+            return false;
+        };
+    }
+    return [folders, question](platform::Prompts &prompts) {
+        return !prompts.ask(platform::Icon::Question, platform::ProductTitle, question) ||
+               platform::reportFailures(prompts, [&] { shell::seedUserData(folders); });
+    };
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
-    QApplication desktop(argc, argv);
-    platform::applyAppearance(desktop);
-    platform::QtPrompts prompts;
-    const QString folder = QApplication::applicationDirPath();
-    const bool seeded =
-        platform::reportFailures(prompts, [&] { shell::seedUserData(platform::desktopFolders(folder)); });
-    if (!seeded)
-        return EXIT_FAILURE;
-    const QStringList passed = shell::argumentsForProgram(QApplication::arguments().sliced(1));
-    const int status = QProcess::execute(folder + QStringLiteral("/morvel-config"), passed);
-    if (status == shell::AlreadyRunning && !passed.isEmpty()) {
-        prompts.message(
-            platform::Icon::Information, platform::ProductTitle,
-            QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));
+    QString program;
+    QStringList passed;
+    Saying first;
+    {
+        const QCoreApplication self(argc, argv);
+        const QString folder = QCoreApplication::applicationDirPath();
+        program = folder + QStringLiteral("/morvel-config");
+        passed = shell::argumentsForProgram(QCoreApplication::arguments().sliced(1));
+        passed.prepend(shell::LaunchedMark);
+        first = completeUserData(platform::desktopFolders(folder));
     }
-    return status;
+    if (first && !say(argc, argv, first))
+        return EXIT_FAILURE;
+    const QString reason = platform::becomeProgram(program, passed);
+    say(argc, argv, [&](platform::Prompts &prompts) {
+        platform::reportFailure(prompts, QStringLiteral("%1: %2").arg(program, reason));
+        return false;
+    });
+    return EXIT_FAILURE;
 }

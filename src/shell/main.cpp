@@ -12,20 +12,21 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("morvel-config"));
     QApplication::setApplicationVersion(QStringLiteral(MORVEL_VERSION));
     const platform::Folders folders = platform::desktopFolders(QApplication::applicationDirPath());
-    const shell::SingleInstance instance(folders.GetAppDataFolder());
-    if (!instance.isFirst())
-        return shell::AlreadyRunning;
-
+    const shell::StartUpInput input{folders, platform::userNumberLocale(), platform::systemStamp(),
+                                    QApplication::arguments().sliced(1)};
     platform::registerShippedFaces(folders.shippedFaces());
     platform::applyAppearance(application);
     platform::QtPrompts prompts;
-    shell::StartUp start(
-        {folders, platform::userNumberLocale(), platform::systemStamp(), QApplication::arguments().sliced(1)},
-        prompts);
+    const shell::SingleInstance instance(folders.GetAppDataFolder(), prompts);
+    if (!instance.isFirst()) {
+        shell::tellOfRunningInstance(input.arguments, prompts);
+        return EXIT_SUCCESS;
+    }
+    shell::StartUp start(input, prompts);
     if (!start.run())
         return EXIT_FAILURE;
     if (start.window()->isHidden())
         return EXIT_SUCCESS; // closed while it was starting
-    shell::closeOnTermination(&application);
+    shell::closeOnTermination(&application, start.sessionEnds());
     return QApplication::exec();
 }

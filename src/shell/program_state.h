@@ -21,6 +21,7 @@ struct ProgramState
     variables::Catalogue catalogue;
     recorder::RecorderSettings settings;
     recorder::MessageTable startMessages{}; // as read at start
+    bool sessionEnds = false;               // the windows close without anybody to answer a question
 };
 
 } // namespace shell

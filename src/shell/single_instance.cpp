@@ -1,24 +1,32 @@
 #include "shell/single_instance.h"
 
+#include "shell/command_line.h"
+
 #include <QDir>
 
 namespace shell {
 
-namespace {
+using platform::ProcessLock;
 
-bool lock(QLockFile &file)
+SingleInstance::SingleInstance(const QString &dataFolder, platform::Prompts &prompts,
+                               ProcessLock::SystemLock lock)
+    : m_lock((QDir().mkpath(dataFolder), dataFolder + QStringLiteral("morvel-config.lock")), lock)
 {
-    file.setStaleLockTime(0); // only a dead owner makes a lock stale
-    // A folder that cannot be written to locks nobody out.
-    return file.tryLock() || file.error() != QLockFile::LockFailedError;
+    if (m_lock.state() != ProcessLock::State::OtherHosts)
+        return;
+    const QString question =
+        QStringLiteral("The tool seems to be open on %1. Do you want to start it here?").arg(m_lock.host());
+    if (prompts.ask(platform::Icon::Question, platform::ProductTitle, question))
+        m_lock.takeOver();
 }
 
-} // namespace
-
-SingleInstance::SingleInstance(const QString &dataFolder)
-    : m_lock((QDir().mkpath(dataFolder), dataFolder + QStringLiteral("morvel-config.lock"))),
-      m_first(lock(m_lock))
+void tellOfRunningInstance(const QStringList &arguments, platform::Prompts &prompts)
 {
+    if (arguments.contains(LaunchedMark) && arguments.size() > 1) {
+        prompts.message(
+            platform::Icon::Information, platform::ProductTitle,
+            QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));
+    }
 }
 
 } // namespace shell

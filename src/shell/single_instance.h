@@ -1,23 +1,27 @@
 #pragma once
 
-#include <QLockFile>
+#include "platform/process_lock.h"
+#include "platform/prompts.h"
+
+#include <QStringList>
 
 namespace shell {
 
-// What the program exits with when another instance works on the same user data.
-inline constexpr int AlreadyRunning = 3;
-
-// The lock of the one instance per user and data folder; the lock of a dead process is taken over.
+// The one instance per user and data folder. Where the file system cannot tell whether the process of another
+// machine still runs, the user is asked.
 class SingleInstance
 {
 public:
-    explicit SingleInstance(const QString &dataFolder);
+    SingleInstance(const QString &dataFolder, platform::Prompts &prompts,
+                   platform::ProcessLock::SystemLock lock = &platform::ProcessLock::systemLock);
 
-    bool isFirst() const { return m_first; }
+    bool isFirst() const { return m_lock.state() == platform::ProcessLock::State::Ours; }
 
 private:
-    QLockFile m_lock;
-    bool m_first;
+    platform::ProcessLock m_lock;
 };
+
+// A second start is silent, unless the launcher was to open a layout: then somebody waits for it.
+void tellOfRunningInstance(const QStringList &arguments, platform::Prompts &prompts);
 
 } // namespace shell

@@ -4,7 +4,9 @@
 #include "platform/file_replace.h"
 #include "platform/guards.h"
 #include "platform/settings_keys.h"
+#include "shell/definitions.h"
 #include "shell/frm_start_splash.h"
+#include "shell/kept_designs.h"
 #include "variables/definition_file.h"
 #include "variables/expression/compiler.h"
 
@@ -40,6 +42,7 @@ bool StartUp::run()
         return false;
     showWindows();
     chooseFirstLayout();
+    m_window->recovery().begin();
     return true;
 }
 
@@ -55,6 +58,9 @@ void StartUp::makeFolders()
 {
     QDir().mkpath(m_state.folders.pictureFolder());
     QDir().mkpath(m_state.folders.FontFolder());
+    for (const QString &folder : {m_state.folders.GetAppDataFolder(), m_state.folders.pictureFolder(),
+                                  m_state.folders.FontFolder(), m_state.folders.temporary})
+        platform::removeStagedFiles(folder);
 }
 
 void StartUp::missingFile(const QString &name)
@@ -71,13 +77,22 @@ bool StartUp::loadVariables()
         missingFile(QStringLiteral("QLM6ConfigToolVars.cfg"));
         return false;
     }
-    // A damaged file is told of, and the program goes on with what it has.
+    m_state.catalogue.definitionsLost = true; // until they are loaded
     platform::reportFailures(m_prompts, [&] {
         if (variables::loadDefinitions(platform::readFile(path), m_state.catalogue) ==
             variables::DefinitionStatus::Corrupted)
             m_prompts.message(Icon::None, platform::ProductTitle, variables::CorruptedDefinitions);
     });
+    if (m_state.catalogue.definitionsLost)
+        replaceLostDefinitions();
     return true;
+}
+
+// The program goes on with what it has, or with the shipped definitions.
+void StartUp::replaceLostDefinitions()
+{
+    if (platform::reportFailures(m_prompts, [&] { keepDamagedDefinitions(m_state.folders); }))
+        platform::reportFailures(m_prompts, [&] { restoreDefaultDefinitions(m_state, m_prompts, nullptr); });
 }
 
 bool StartUp::loadMessages()
@@ -108,6 +123,7 @@ bool StartUp::checkExpressions()
 void StartUp::showWindows()
 {
     m_window = std::make_unique<frmMain>(m_state, m_prompts);
+    m_window->files().readLastFolder();
     frmStartSplash splash(m_state.folders, nullptr);
     splash.show();
     splash.repaint();
@@ -126,13 +142,21 @@ void StartUp::showWindows()
 
 void StartUp::chooseFirstLayout()
 {
-    if (!m_commandLine.layoutToOpen.isEmpty()) {
+    const platform::Folders &folders = m_state.folders;
+    const QString lastLayout = QStringLiteral("Do you want to load last layout ?");
+    const bool isNamed = !m_commandLine.layoutToOpen.isEmpty();
+    if (hasRecovery(folders)) {
+        if (!isNamed && offerLayout(folders.recoveryFile(), lastLayout))
+            return;
+        platform::reportFailures(m_prompts, [&] { keepRecoveryAsBackup(folders); });
+    }
+    if (isNamed) {
         m_window->files().load(m_commandLine.layoutToOpen);
         return;
     }
-    if (offerLayout(m_state.folders.workspaceFile(), QStringLiteral("Do you want to load last layout ?")))
+    if (offerLayout(folders.workspaceFile(), lastLayout))
         return;
-    offerLayout(m_state.folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
+    offerLayout(folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
 }
 
 bool StartUp::offerLayout(const QString &path, const QString &question)

@@ -26,11 +26,13 @@ public:
     // False when a file that the program cannot do without is missing; the message has been shown.
     bool run();
     frmMain *window() { return m_window.get(); }
+    bool &sessionEnds() { return m_state.sessionEnds; }
 
 private:
     void readSettings();
     void makeFolders();
     bool loadVariables();
+    void replaceLostDefinitions();
     bool loadMessages();
     bool checkExpressions();
     void missingFile(const QString &name);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <QWidget>
 
@@ -13,6 +14,17 @@
 #endif
 
 namespace shell {
+
+namespace {
+
+void listenToSession(QObject *owner, bool &sessionEnds)
+{
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, owner,
+        [&sessionEnds](QSessionManager &) { sessionEnds = true; }, Qt::DirectConnection);
+}
+
+} // namespace
 
 #ifdef Q_OS_UNIX
 namespace {
@@ -42,23 +54,26 @@ void closeEverything()
 
 } // namespace
 
-void closeOnTermination(QObject *owner)
+void closeOnTermination(QObject *owner, bool &sessionEnds)
 {
+    listenToSession(owner, sessionEnds);
     std::array<int, 2> pair{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair.data()) != 0)
         return;
     signalDescriptor = pair[0];
     auto *notifier = new QSocketNotifier(pair[1], QSocketNotifier::Read, owner);
-    QObject::connect(notifier, &QSocketNotifier::activated, owner, [](QSocketDescriptor descriptor) {
-        char byte = 0;
-        [[maybe_unused]] const auto count = ::read(static_cast<int>(descriptor), &byte, 1);
-        closeEverything();
-    });
+    QObject::connect(notifier, &QSocketNotifier::activated, owner,
+                     [&sessionEnds](QSocketDescriptor descriptor) {
+                         char byte = 0;
+                         [[maybe_unused]] const auto count = ::read(static_cast<int>(descriptor), &byte, 1);
+                         sessionEnds = true;
+                         closeEverything();
+                     });
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, &tellEventLoop);
 }
 #else
-void closeOnTermination(QObject *) {}
+void closeOnTermination(QObject *owner, bool &sessionEnds) { listenToSession(owner, sessionEnds); }
 #endif
 
 } // namespace shell

@@ -17,10 +17,6 @@ public:
     void mnuRestoreDefaultVar();
 
 private:
-    // Takes over the definitions of a file and writes them to the user data folder. A damaged file is told of
-    // and changes nothing.
-    void replaceDefinitions(const QString &path);
-
     ProgramState &m_state;
     platform::Prompts &m_prompts;
     surface::frmInterface &m_design;

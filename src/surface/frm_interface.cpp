@@ -142,7 +142,7 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
     showControl(*control);
     drawBack(*control);
     control->setFocus();
-    m_changed = true;
+    emit designChanged();
 }
 
 void frmInterface::connectControl(OverlayControl *control)
@@ -159,7 +159,7 @@ void frmInterface::connectControl(OverlayControl *control)
     connect(control, &OverlayControl::Resize, this, resize);
     connect(control, &OverlayControl::Delete, this, [this, control] {
         m_registry.unload(control);
-        m_changed = true;
+        emit designChanged();
     });
     connect(control, &OverlayControl::Reposition, this,
             [this, control](float x, float y) { reposition(*control, x, y); });
@@ -176,7 +176,7 @@ void frmInterface::MoveTo(OverlayControl &control, QPointF start, QPointF now)
     control.moveTo(moved.Left, moved.Top);
     control.updatePosition();
     drawBack(control);
-    m_changed = true;
+    emit designChanged();
     showPosition(control);
 }
 
@@ -186,7 +186,7 @@ void frmInterface::ResizeTo(OverlayControl &control, controls::Handle handle, QP
     control.setBox(control.resizedBox(wanted, handle));
     control.applyResize();
     drawBack(control);
-    m_changed = true;
+    emit designChanged();
     showPosition(control);
 }
 
@@ -196,7 +196,7 @@ void frmInterface::reposition(OverlayControl &control, float x, float y)
         control.moveTo(x, y);
     else
         control.moveTo(x * screen().tx, y * screen().ty);
-    m_changed = true;
+    emit designChanged();
 }
 
 void frmInterface::showPosition(const OverlayControl &control)

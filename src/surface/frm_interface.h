@@ -77,13 +77,14 @@ public:
     void showGroupMenu(const QPoint &globalPosition) override;
     void ResetControlGridColour() override;
     void RefreshBackground() override;
-    void UserControlChanged() override { m_changed = true; }
+    void UserControlChanged() override { emit designChanged(); }
 
 signals:
     void positionShown(const QString &text);
     void controlMenuRequested(controls::OverlayControl *control, const QPoint &globalPosition);
     void canvasMenuRequested(const QPoint &globalPosition);
     void groupMenuRequested(const QPoint &globalPosition);
+    void designChanged(); // by a user's hand
     void layoutChanged(); // the layout's caption, standard or settings may differ now
 
 private:
@@ -117,7 +118,6 @@ private:
     quint32 m_labelColour = 0;
     bool m_IsPlayMode = false;
     bool m_capturing = false;
-    bool m_changed = false;
     QPointF m_lastMousePosition; // twips
     QString m_caption;
 };

@@ -78,6 +78,9 @@ struct Catalogue
     VariableTable live = VariableTable(LastIndex + 1);
     VariableTable staging = VariableTable(LastIndex + 1);
     UnitTable units = UnitTable(1);
+    // The user's definitions could not be read at the start. Until others are loaded the definition files stay
+    // as they are: what lies here is not what the user had.
+    bool definitionsLost = false;
 };
 
 // Whether the recorder has a variable of this index at all.

@@ -233,6 +233,7 @@ DefinitionStatus loadDefinitions(const QByteArray &bytes, Catalogue &catalogue)
     catalogue.units = std::move(units);
     fillTable(std::move(runs), catalogue.live);
     SetupVariables(catalogue);
+    catalogue.definitionsLost = false;
     return DefinitionStatus::Loaded;
 }
 

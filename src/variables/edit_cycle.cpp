@@ -12,13 +12,15 @@ namespace {
 void writeXvrFile(const Catalogue &catalogue, const platform::Folders &folders,
                   const platform::NumberLocale &locale)
 {
-    platform::replaceFile(folders.inUserData("QLM6ConfigTool.XVR"),
-                          writeXvr(catalogue.live, locale.decimalSeparator));
+    if (!catalogue.definitionsLost)
+        platform::replaceFile(folders.inUserData("QLM6ConfigTool.XVR"),
+                              writeXvr(catalogue.live, locale.decimalSeparator));
 }
 
 void writeDefinitionFile(const Catalogue &catalogue, const platform::Folders &folders)
 {
-    platform::replaceFile(folders.variablesFile(), saveDefinitions(catalogue));
+    if (!catalogue.definitionsLost)
+        platform::replaceFile(folders.variablesFile(), saveDefinitions(catalogue));
 }
 
 } // namespace

@@ -13,22 +13,17 @@ inline QString pathIn(DesignWindow &d, const char *name)
     return d.world.root.filePath(QLatin1String(name));
 }
 
-inline layoutfile::SaveResult save(DesignWindow &d, const QString &path, controls::ControlSurface &surface,
-                                   layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
+// Nothing for a refused save.
+inline std::optional<QByteArray> save(DesignWindow &d, controls::ControlSurface &surface,
+                                      layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
 {
     shell::ProgramState &state = d.world.state;
     platform::NoProgress progress;
-    return layoutfile::SaveVGL(path, kind,
-                               {surface, state.catalogue, state.settings, state.fonts, d.world.prompts,
-                                progress, state.stamp, state.screen});
+    return layoutfile::layoutBytes(kind, {surface, state.catalogue, state.settings, state.fonts,
+                                          d.world.prompts, progress, state.stamp, state.screen});
 }
 
-inline QByteArray savedDesign(DesignWindow &d)
-{
-    const QString path = pathIn(d, "saved.VGL");
-    EXPECT_EQ(save(d, path, d.design()), layoutfile::SaveResult::Written);
-    return platform::readFile(path);
-}
+inline QByteArray savedDesign(DesignWindow &d) { return save(d, d.design()).value(); }
 
 inline void loadDesign(DesignWindow &d, const QByteArray &file)
 {

@@ -10,7 +10,8 @@ namespace {
 using namespace shell;
 using recorder::VideoStandard;
 
-const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl", "c.VGL", "/x/a.txt", "/x/fooVGL"};
+const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl", "c.VGL",
+                         "/x/a.txt",        "/x/fooVGL",      "/me/12\" disc.VGL"};
 
 TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
 {
@@ -24,6 +25,7 @@ TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
         {{"/F c.VGL "}, "c.VGL", None},
         {{"/F/x/fooVGL"}, "/x/fooVGL", None},
         {{"/F/x/a.txt"}, "", None},
+        {{"/F/me/12\" disc.VGL"}, "/me/12\" disc.VGL", None},
         {{"/Fc.VGL", "/F/me/DEFAULT.VGL", "/Fmissing.VGL"}, "/me/DEFAULT.VGL", None},
         {{"/t", "pal"}, "", VideoStandard::Pal},
         {{"/T\" Ntsc \""}, "", VideoStandard::Ntsc},

@@ -81,6 +81,68 @@ TEST_F(FileCommands, KeepTheWorkspaceBeforeTheLastAndTheThreeNewestClearedDesign
     }
 }
 
+TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowOpen)
+{
+    const platform::Folders &folders = w.world.state.folders;
+    w.addBar(100, 100);
+    platform::replaceFile(folders.recoveryFile(), "left");
+    const QString general = "The command could not be completed.\n";
+    const QString refused = general + folders.workspaceFile() + ": not a regular file";
+    const QString places[] = {folders.inUserData("MORVELBackup.VGL"),
+                              folders.inTemporary("MORVELWorkspace.VGL")};
+    QDir().mkpath(folders.workspaceFile());
+    for (const QString &place : places) {
+        prompts.expectMessage(refused + "\nThe design is kept in\n" + place);
+        EXPECT_TRUE(w.window.files().saveWorkspace());
+        EXPECT_EQ(count(place), 1);
+        EXPECT_FALSE(QFile::exists(folders.recoveryFile()));
+        QFile::remove(place);
+        QDir().mkpath(place);
+    }
+    for (const bool leaves : {false, true}) {
+        prompts.expectMessage(refused);
+        prompts.expectQuestion("The layout could not be saved. Do you want to leave anyway?", leaves);
+        EXPECT_EQ(w.window.close(), leaves);
+        EXPECT_EQ(w.window.isVisible(), !leaves);
+    }
+    EXPECT_TRUE(w.window.files().saveWorkspace(shell::Leaving::SessionEnds)); // and nobody is asked
+}
+
+TEST_F(FileCommands, ABackupThatFailsCostsNoOlderOne)
+{
+    const platform::Folders &folders = w.world.state.folders;
+    const QString newest = folders.inUserData("MORVELBackup.VGL"),
+                  third = folders.inUserData("MORVELBackup3.VGL");
+    QDir().mkpath(newest);
+    platform::replaceFile(third, "oldest");
+    w.addBar(100, 100);
+    prompts.expectQuestion(Clear, true);
+    prompts.expectMessage({});
+    w.run("mnuNew");
+    EXPECT_EQ(w.design().controls().size(), 1);
+    EXPECT_EQ(platform::readFile(third), "oldest");
+}
+
+TEST_F(FileCommands, BeginInTheFolderOfTheLastLayout)
+{
+    const QString card = path("card");
+    QDir().mkpath(card);
+    test::writeLayout(card + "/A.VGL", 1);
+    test::writeLayout(w.world.state.folders.workspaceFile(), 1);
+    const auto proposed = [this] {
+        prompts.expectSaveFile({});
+        w.run("mnuSaveConfig");
+        return prompts.lastFileRequest().folder;
+    };
+    w.window.files().load(card + "/A.VGL");
+    EXPECT_EQ(proposed(), card);
+    w.window.files().load(w.world.state.folders.workspaceFile()); // the program's own folder does not count
+    EXPECT_EQ(proposed(), card);
+    EXPECT_TRUE(w.window.close());
+    EXPECT_EQ(platform::keys::LayoutFolder.read(platform::SettingsFile(w.world.state.folders.ConfigFile())),
+              card);
+}
+
 TEST_F(FileCommands, LoadAsksWhatBecomesOfTheDesign)
 {
     test::writeLayout(path("TWO.VGL"), 2);

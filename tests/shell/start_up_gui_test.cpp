@@ -1,10 +1,13 @@
+#include "layoutfile/layout_file.h"
 #include "platform/file_replace.h"
+#include "platform/guards.h"
 #include "shell/start_up.h"
 #include "support/design_window.h"
 #include "surface/library_panel.h"
 #include "surface/panel_area.h"
 #include "variables/definition_file.h"
 
+#include <QDir>
 #include <QToolButton>
 
 namespace {
@@ -62,12 +65,97 @@ TEST_F(Start, EndsWithAMessageWhenAFileIsMissing)
     }
 }
 
-TEST_F(Start, GoesOnWithADamagedCatalogue)
+TEST_F(Start, WithADamagedCatalogueKeepsAllFilesAsTheyAre)
 {
-    platform::replaceFile(folders.variablesFile(), "no catalogue at all");
-    world.prompts.expectMessage("The variable file appears to be corrupted, cannot continue operation");
+    const QByteArray shipped = platform::readFile(folders.variablesFile());
+    const QString backup = folders.inUserData("MORVELBackup.VGL");
+    const auto startDamaged = [&](const QByteArray &damaged, bool restores) {
+        platform::replaceFile(folders.variablesFile(), damaged);
+        world.prompts.expectMessage("The variable file appears to be corrupted, cannot continue operation");
+        world.prompts.expectQuestion("Do you want to restore default variable information?", restores);
+        ASSERT_TRUE(start());
+    };
+    startDamaged("first", false);
+    test::writeLayout(folders.inUserData("TWO.VGL"), 2);
+    platform::replaceFile(folders.workspaceFile(), "of better days");
+    program->window()->files().load(folders.inUserData("TWO.VGL"));
+    world.prompts.expectQuestion(
+        "No variable definitions are loaded, the layout will hold none. Do you want to "
+        "continue ?",
+        false);
+    action("mnuSaveConfig").trigger();
+    EXPECT_TRUE(program->window()->close());
+    EXPECT_EQ(platform::readFile(folders.variablesFile()), "first");
+    EXPECT_EQ(platform::readFile(folders.workspaceFile()), "of better days");
+    EXPECT_TRUE(layoutfile::IsValidVGL(platform::readFile(backup)));
+
+    QFile::remove(folders.workspaceFile());
+    startDamaged("first", false);
+    startDamaged("second", false);
+    platform::replaceFile(folders.program + "QLM6ConfigToolVars.cfg", shipped);
+    startDamaged("second", true);
+    EXPECT_EQ(platform::readFile(folders.variablesFile()), shipped);
+    EXPECT_EQ(QDir(folders.GetAppDataFolder()).entryList({"*.damaged*"}),
+              (QStringList{"QLM6ConfigToolVars.damaged", "QLM6ConfigToolVars.damaged2"}));
+    design().addControl(ControlType::BarGraph, {4500, 3000});
+    EXPECT_TRUE(program->window()->close());
+    EXPECT_TRUE(layoutfile::IsValidVGL(platform::readFile(folders.workspaceFile())));
+}
+
+TEST_F(Start, OffersWhatARunLeftThatDidNotComeToItsEnd)
+{
+    const QString left = folders.recoveryFile(), backup = folders.inUserData("MORVELBackup.VGL");
+    const QString named = folders.inUserData("NAMED.VGL");
+    test::writeLayout(named, 3);
+    const auto leave = [&] {
+        test::writeLayout(left, 1);
+        test::writeLayout(folders.workspaceFile(), 2);
+        QFile::remove(backup);
+    };
+    leave();
+    world.prompts.expectQuestion(LastQuestion, true);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(design().controls().size(), 1);
+    EXPECT_TRUE(program->window()->close());
+    EXPECT_FALSE(QFile::exists(left));
+
+    for (const QStringList &arguments : {QStringList{}, QStringList{"/F" + named}}) {
+        leave();
+        const QByteArray recovered = platform::readFile(left);
+        if (arguments.isEmpty()) {
+            world.prompts.expectQuestion(LastQuestion, false);
+            world.prompts.expectQuestion(LastQuestion, true);
+        }
+        ASSERT_TRUE(start(arguments));
+        EXPECT_EQ(design().controls().size(), arguments.isEmpty() ? 2 : 3);
+        EXPECT_EQ(platform::readFile(backup), recovered);
+    }
+    leave();
+    platform::replaceFile(left, "half a file");
+    world.prompts.expectQuestion(LastQuestion, true);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(design().controls().size(), 2);
+    EXPECT_FALSE(QFile::exists(backup));
+}
+
+TEST_F(Start, KeepsTheDesignSafeFromEveryFinishedChangeOn)
+{
     EXPECT_TRUE(start());
-    EXPECT_TRUE(program->window()->isVisible() && program->window()->isEnabled());
+    const auto kept = [&] {
+        qsizetype gauges = 0;
+        platform::skipFailures([&] {
+            for (const auto &record : layoutfile::parseLayout(platform::readFile(folders.recoveryFile())))
+                gauges += record.type() == layoutfile::RecordType::Gauge;
+        });
+        return gauges;
+    };
+    for (int i = 1; i <= 2; ++i) {
+        design().addControl(ControlType::Gauge, {1500.0 * i, 1500});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return kept() == i; }));
+    }
+    design().controls()[0]->mnuDelete_Click();
+    design().controls()[0]->mnuDelete_Click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !QFile::exists(folders.recoveryFile()); }));
 }
 
 TEST_F(Start, ChoosesTheFirstLayout)

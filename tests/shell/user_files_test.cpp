@@ -1,7 +1,9 @@
 #include "platform/file_replace.h"
+#include "shell/command_line.h"
 #include "shell/save_rules.h"
 #include "shell/seed_user_data.h"
 #include "shell/single_instance.h"
+#include "support/scripted_prompts.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -33,44 +35,61 @@ class UserData : public testing::Test
 {
 protected:
     QTemporaryDir root;
+    test::ScriptedPrompts prompts;
     QString path(const char *name) const { return root.filePath(name); }
 };
 
-TEST_F(UserData, seedsAreForNewUsersAndOverwriteNothing)
+TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
 {
     const platform::Folders folders{path("bin/"), path("home/"), {}, {}};
     QDir(root.path()).mkpath("bin/defaults");
-    QDir(root.path()).mkpath("home/Torvane");
+    EXPECT_TRUE(isNewUser(folders));
     for (const char *name : {"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg", "back.bmp"})
         platform::replaceFile(folders.seeds() + name, "shipped");
+    QDir(root.path()).mkpath("home/Torvane");
+    EXPECT_FALSE(isNewUser(folders)); // cut short as it was
     platform::replaceFile(folders.inUserData("back.bmp"), "mine");
+    EXPECT_TRUE(missingFilesQuestion(folders).contains("QLM6ConfigToolVars.cfg\nQLM6ConfigToolMessages.cfg"));
     seedUserData(folders);
     EXPECT_EQ(platform::readFile(folders.inUserData("back.bmp")), "mine");
     EXPECT_EQ(platform::readFile(folders.variablesFile()), "shipped");
+    EXPECT_EQ(missingFilesQuestion(folders), "");
     QFile::remove(folders.variablesFile());
-    seedUserData(folders);
-    EXPECT_FALSE(QFile::exists(folders.variablesFile()));
+    const QString question = missingFilesQuestion(folders);
+    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()) && !question.contains("Messages"));
+    QFile::remove(folders.seeds() + "QLM6ConfigToolVars.cfg");
+    EXPECT_EQ(missingFilesQuestion(folders), ""); // nothing to offer
 }
 
 TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
 {
     const pid_t child = fork();
     if (child == 0) {
-        const SingleInstance crashing(path("a/"));
+        const SingleInstance crashing(path("a/"), prompts);
         _exit(crashing.isFirst() ? 0 : 1);
     }
     int status = -1;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     ASSERT_TRUE(status == 0 && QFile::exists(path("a/morvel-config.lock")));
     {
-        const SingleInstance first(path("a/"));
+        const SingleInstance first(path("a/"), prompts);
         EXPECT_TRUE(first.isFirst()); // the lock of the crashed one is taken over
-        EXPECT_FALSE(SingleInstance(path("a/")).isFirst());
-        EXPECT_TRUE(SingleInstance(path("b/")).isFirst());
+        EXPECT_FALSE(SingleInstance(path("a/"), prompts).isFirst());
+        EXPECT_TRUE(SingleInstance(path("b/"), prompts).isFirst());
     }
-    EXPECT_TRUE(SingleInstance(path("a/")).isFirst());
+    EXPECT_TRUE(SingleInstance(path("a/"), prompts).isFirst());
     platform::replaceFile(path("file"), "");
-    EXPECT_TRUE(SingleInstance(path("file/")).isFirst()); // what cannot be locked locks nobody out
+    EXPECT_TRUE(SingleInstance(path("file/"), prompts).isFirst()); // what cannot be locked locks nobody out
+    const auto without = [](QFile &) { return platform::ProcessLock::Answer::Unsupported; };
+    for (const bool yes : {false, true}) {
+        platform::replaceFile(path("a/morvel-config.lock"), "7\nmorvel-config\npitwall\n");
+        prompts.expectQuestion("The tool seems to be open on pitwall. Do you want to start it here?", yes);
+        EXPECT_EQ(SingleInstance(path("a/"), prompts, without).isFirst(), yes);
+    }
+    tellOfRunningInstance({"/F/x.VGL"}, prompts);
+    tellOfRunningInstance({LaunchedMark}, prompts);
+    prompts.expectMessage("The tool is already open. Load the layout there with File, Load Layout.");
+    tellOfRunningInstance({LaunchedMark, "/F/x.VGL"}, prompts);
 }
 
 } // namespace

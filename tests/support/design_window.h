@@ -92,6 +92,7 @@ inline void writeLayout(const QString &path, int bars)
     for (int i = 0; i < bars; ++i)
         w.addBar(10 * i, 40 * i);
     w.window.files().saveWorkspace();
+    QFile::remove(path);
     EXPECT_TRUE(QFile::copy(w.world.state.folders.workspaceFile(), path));
 }
 
