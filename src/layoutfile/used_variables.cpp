@@ -1,22 +1,17 @@
 #include "layoutfile/used_variables.h"
 
-#include "common/number_text.h"
-#include "common/rounding.h"
-
-#include <QStringList>
+#include "variables/expression/variable_name.h"
 
 namespace layoutfile {
 
 namespace {
 
 constexpr qint32 AlwaysStored = 10;
-constexpr int IndexDigits = 4;
 
 void markNamed(UsedVariables &used, const QString &equation)
 {
-    const QStringList pieces = equation.toUpper().split(QLatin1String("VAR_"));
-    for (const QString &piece : pieces.sliced(1))
-        used.mark(common::toIntegerClamped<qint32>(common::leadingNumber(piece.left(IndexDigits))));
+    for (const int variable : variables::expression::namedVariables(equation))
+        used.mark(variable);
 }
 
 } // namespace

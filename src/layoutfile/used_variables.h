@@ -22,8 +22,8 @@ private:
 // stores.
 void markSettings(UsedVariables &used, const recorder::RecorderSettings &settings);
 
-// What the equations of used user variables name as "var_" and four digits. One pass in index order: a user
-// variable that only a later one names is not looked into.
+// What the equations of used user variables name. One pass in index order: a user variable that only a later
+// one names is not looked into.
 void markReferences(UsedVariables &used, const variables::VariableTable &table);
 
 } // namespace layoutfile

@@ -1,5 +1,7 @@
 #include "variables/transformation_entries.h"
 
+#include "variables/expression/variable_name.h"
+
 namespace variables {
 
 std::vector<VariableEntry> variableEntries(const VariableTable &table)
@@ -8,7 +10,7 @@ std::vector<VariableEntry> variableEntries(const VariableTable &table)
     for (std::size_t i = 0; i < table.size(); ++i) {
         if (table[i].Enabled)
             entries.push_back(
-                {QStringLiteral("VAR_%1").arg(i, 4, 10, QLatin1Char('0')), table[i].DisplayName});
+                {expression::variableName(static_cast<int>(i)).toUpper(), table[i].DisplayName});
     }
     return entries;
 }

@@ -69,7 +69,7 @@ inline constexpr std::array<EquationEntry, 32> FunctionEntries{
 
 struct VariableEntry
 {
-    QString text; // VAR_ and the index as four digits
+    QString text; // its name in equations, in capitals
     QString meaning;
 };
 

@@ -2,7 +2,7 @@
 
 #include "common/rounding.h"
 #include "variables/expression/compiler.h"
-#include "variables/expression/string_building.h"
+#include "variables/expression/variable_name.h"
 #include "variables/number_parser.h"
 
 #include <QLocale>
@@ -81,8 +81,7 @@ QString polynomialText(const Coefficients &coefficients)
 
 QString polynomialText(const Coefficients &coefficients, int variable)
 {
-    const QString name = QStringLiteral("var_") + QString::fromStdString(expression::indexText(variable));
-    return polynomialText(coefficients).replace(QLatin1Char('x'), name);
+    return polynomialText(coefficients).replace(QLatin1Char('x'), expression::variableName(variable));
 }
 
 Conversion readConversion(const QString &text)

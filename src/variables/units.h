@@ -27,7 +27,7 @@ QString numberText(double value, int digits);
 
 // The polynomial as an equation in x; empty when all coefficients are 0.
 QString polynomialText(const Coefficients &coefficients);
-// The same in "var_" and the index in four digits.
+// The same in the name of this variable.
 QString polynomialText(const Coefficients &coefficients, int variable);
 
 // The conversion text of a unit, read: "-$c1$c0" (line), "-$c3$c2$c1$c0" (cubic) or an equation in x. Any

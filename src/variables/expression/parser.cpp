@@ -1,5 +1,7 @@
 #include "variables/expression/parser.h"
 
+#include "variables/expression/variable_name.h"
+
 #include <bit>
 #include <charconv>
 
@@ -8,8 +10,6 @@ namespace variables::expression {
 namespace {
 
 constexpr int DeepestNesting = 200; // of parentheses and functions
-constexpr std::string_view VariablePrefix = "var_";
-constexpr std::ptrdiff_t IndexDigits = 4;
 
 // Spreadsheets write two of the comparisons in another way.
 struct Spelling

@@ -2,7 +2,7 @@
 
 #include "common/number_text.h"
 #include "variables/expression/program.h"
-#include "variables/expression/string_building.h"
+#include "variables/expression/variable_name.h"
 
 #include <bit>
 #include <string>
@@ -60,7 +60,7 @@ bool Rebuilder::step(const Instruction &instruction)
 std::string Rebuilder::variableText(quint32 indexLessOne) const
 {
     const int index = static_cast<int>(indexLessOne) + 1;
-    return index == m_variable ? "u" : "VAR_" + indexText(index);
+    return index == m_variable ? "u" : variableName(index).toUpper().toStdString();
 }
 
 bool Rebuilder::call(const Instruction &instruction)

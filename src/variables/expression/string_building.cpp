@@ -1,12 +1,13 @@
 #include "variables/expression/string_building.h"
 
+#include "variables/expression/variable_name.h"
+
 #include <array>
 
 namespace variables::expression {
 
 namespace {
 
-constexpr std::size_t IndexDigits = 4;
 constexpr char WordMark = '#';
 
 bool isLetter(char c) { return c >= 'a' && c <= 'z'; }
@@ -83,20 +84,12 @@ void replaceInput(std::string &text, char input, std::string_view name)
 
 } // namespace
 
-std::string indexText(int index)
-{
-    std::string digits = std::to_string(index);
-    if (digits.size() < IndexDigits)
-        digits.insert(0, IndexDigits - digits.size(), '0');
-    return digits;
-}
-
 std::string StringBuilding(const QString &text, int variableIndex, const platform::NumberLocale &locale)
 {
     const bool plain =
         locale.decimalSeparator == QLatin1String(".") && locale.listSeparator == QLatin1String(",");
     std::string result = lowered(plain ? text : withPlainMarks(text, locale));
-    const std::string name = "var_" + indexText(variableIndex);
+    const std::string name = variableName(variableIndex).toStdString();
     replaceVehicleConstants(result);
     replaceInput(result, 'u', name);
     replaceInput(result, 'x', name);

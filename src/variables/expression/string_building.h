@@ -14,7 +14,4 @@ namespace variables::expression {
 // become "?".
 std::string StringBuilding(const QString &text, int variableIndex, const platform::NumberLocale &locale);
 
-// The four digits by which equations name a variable behind "var_": 0042.
-std::string indexText(int index);
-
 } // namespace variables::expression
