@@ -54,18 +54,18 @@ TEST(Compiler, writesTheBytesOfTheRecorder)
 }
 
 // What an equation is worth where x is 3 and var_0012 is -2.
-TEST(Compiler, followsTheHabitsOfSpreadsheets)
+TEST(Compiler, bindsOperatorsAsInTheGrammar)
 {
     const std::pair<const char *, double> cases[] = {
-        {"2+3*4", 14},         {"7-2-1", 4},          {"8/4/2", 1},
-        {"2^3^2", 64},         {"-2^2", -4},          {"2^-1", 0.5},
-        {"2^-x^2", 1.0 / 512}, {"-x^2*2", -18},       {"--x", 3},
-        {"2*-x-+1", -7},       {"2x^2", 18},          {"6/2x", 1},
-        {"2^2x", 64},          {"-2var_0012^2", -8},  {"5e-2*1E+2+.5+5.", 10.5},
-        {"1+2<4", 1},          {"3<2==0", 1},         {"x=3", 1},
-        {"x<>3", 0},           {"x!=3", 0},           {"x>=4", 0},
-        {"1 Or 2 And 4", 1},   {"(1 or 2) and 4", 0}, {"5 xor 3 or 8", 14},
-        {"x and 1<2", 1},      {"2.6 and 3", 3},      {"1 / 0", 0},
+        {"2+3*4", 14},         {"7-2-1", 4},         {"8/4/2", 1},
+        {"2^3^2", 64},         {"-2^2", -4},         {"2^-1", 0.5},
+        {"2^-x^2", 1.0 / 512}, {"-x^2*2", -18},      {"--x", 3},
+        {"2*-x-+1", -7},       {"2x^2", 18},         {"6/2x", 1},
+        {"2^2x", 64},          {"-2var_0012^2", -8}, {"5e-2*1E+2+.5+5.", 10.5},
+        {"1+2<4", 1},          {"3<2==0", 1},        {"x==3", 1},
+        {"x!=3", 0},           {"x>=4", 0},          {"1 Or 2 And 4", 1},
+        {"(1 or 2) and 4", 0}, {"5 xor 3 or 8", 14}, {"x and 1<2", 1},
+        {"2.6 and 3", 3},      {"1 / 0", 0},
     };
     std::vector<float> values(Owner + 1);
     values[Owner] = 3;
@@ -75,6 +75,16 @@ TEST(Compiler, followsTheHabitsOfSpreadsheets)
         EXPECT_EQ(result.status, RunStatus::Ended) << equation;
         EXPECT_FLOAT_EQ(result.value, static_cast<float>(expected)) << equation;
     }
+}
+
+TEST(Compiler, numbersReachAsFarAsTheirTypes)
+{
+    const std::pair<const char *, double> cases[] = {{"-2147483648 or 0", -2147483648.0},
+                                                     {"2147483520 and -1", 2147483520},
+                                                     {"1+1e38*(1e-50+1e-400+0.0001e-99999)", 1},
+                                                     {"1e38*1e-45", 1.401298e-7}};
+    for (const auto &[equation, expected] : cases)
+        EXPECT_FLOAT_EQ(Standard(program(equation)).value, static_cast<float>(expected)) << equation;
 }
 
 TEST(Evaluator, knowsEveryFunction)
@@ -95,11 +105,11 @@ TEST(Evaluator, knowsEveryFunction)
 TEST(Compiler, refusesWhatIsNoEquation)
 {
     for (const char *equation :
-         {"",          " ",        "()",       "1+",      "*2",          "1 2",     "2 x",
-          "2(3)",      "3sin(x)",  "(1",       "1)",      "1..2",        "1e",      "x u",
-          "1,2",       "#",        "\xC3\xA9", "temp",    "sqr(2)",      "sin",     "sin()",
-          "sin(1,2)",  "max(1)",   "sum()",    "if(1,2)", "if(1,2,3,4)", "max(1,)", "var_12",
-          "var_00123", "var_0000", "var_8001", "Var_",    "1e39",        "1and2",   "x!3"})
+         {"",         " ",           "()",      "1+",     "*2",        "1 2",      "2 x",      "2(3)",
+          "3sin(x)",  "(1",          "1)",      "1..2",   "1e",        "x u",      "1,2",      "#",
+          "\xC3\xA9", "temp",        "sqr(2)",  "sin",    "sin()",     "sin(1,2)", "max(1)",   "sum()",
+          "if(1,2)",  "if(1,2,3,4)", "max(1,)", "var_12", "var_00123", "var_0000", "var_8001", "Var_",
+          "1e39",     "1and2",       "x!3",     "x=3",    "x<>3",      "10.1e38",  "1e400"})
         EXPECT_TRUE(program(equation).isEmpty()) << equation;
     EXPECT_TRUE(program(QString("1+2") + QChar(0)).isEmpty());
     QByteArray bytes("kept");

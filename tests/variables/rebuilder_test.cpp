@@ -116,8 +116,7 @@ public:
                    expression(depth - 1) + ", " + expression(depth - 1) + ")";
         default:
             return expression(depth - 1) + " " +
-                   oneOf({"<=", ">=", "!=", "==", "<", ">", "+", "-", "*", "/", "^", "And", "or", "XOR",
-                          "<>"}) +
+                   oneOf({"<=", ">=", "!=", "==", "<", ">", "+", "-", "*", "/", "^", "And", "or", "XOR"}) +
                    oneOf({" ", " -"}) + expression(depth - 1);
         }
     }

@@ -2,6 +2,7 @@
 
 #include "variables/expression/variable_name.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 
@@ -10,14 +11,6 @@ namespace variables::expression {
 namespace {
 
 constexpr int DeepestNesting = 200; // of parentheses and functions
-
-// Spreadsheets write two of the comparisons in another way.
-struct Spelling
-{
-    std::string_view text;
-    Op code;
-};
-constexpr std::array<Spelling, 2> OtherSpellings{{{"<>", Op::NotEqual}, {"=", Op::Equal}}};
 
 bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -55,12 +48,6 @@ const OperationRow *symbolAt(std::string_view text, std::size_t &length)
             length = row.text.size();
         }
     }
-    for (const Spelling &other : OtherSpellings) {
-        if (other.text.size() > length && startsWith(text, other.text)) {
-            found = operationRow(static_cast<quint32>(other.code));
-            length = other.text.size();
-        }
-    }
     return found;
 }
 
@@ -71,6 +58,20 @@ const FunctionRow *functionNamed(std::string_view name)
             return &row;
     }
     return nullptr;
+}
+
+// Whether a number that fits no 32-bit float lies too close to 0, not too far from it.
+bool isTooSmall(std::string_view number)
+{
+    const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), mantissa);
+    const std::size_t firstDigit = number.find_first_of("123456789");
+    double exponent = 0;
+    if (mantissa < number.size()) {
+        const std::size_t sign = number[mantissa + 1] == '+' ? 1 : 0;
+        std::from_chars(number.data() + mantissa + 1 + sign, number.data() + number.size(), exponent);
+    }
+    return static_cast<double>(point) + exponent < static_cast<double>(firstDigit);
 }
 
 class Parser
@@ -167,7 +168,9 @@ bool Parser::number(quint32 slot)
 {
     float value = 0;
     const auto [end, error] = std::from_chars(m_at, m_end, value);
-    if (error != std::errc())
+    if (error == std::errc::result_out_of_range && isTooSmall({m_at, static_cast<std::size_t>(end - m_at)}))
+        value = 0;
+    else if (error != std::errc())
         return false;
     m_at = end;
     if (!put(slot, Op::LoadConstant, std::bit_cast<quint32>(value)))

@@ -11,7 +11,7 @@ namespace variables::expression {
 //   equation    = disjunction
 //   disjunction = conjunction { ("or" | "xor") conjunction }
 //   conjunction = comparison { "and" comparison }
-//   comparison  = sum { ("<=" | ">=" | "!=" | "<>" | "==" | "=" | "<" | ">") sum }
+//   comparison  = sum { ("<=" | ">=" | "!=" | "==" | "<" | ">") sum }
 //   sum         = product { ("+" | "-") product }
 //   product     = signed { ("*" | "/") signed }
 //   signed      = { "-" | "+" } power
@@ -31,8 +31,9 @@ namespace variables::expression {
 // Each value is placed in the slot that its position on the stack gives, from slot 1. A minus before a plain
 // value (a number, a variable, a function) is the negation function, before anything else it is 0 - (...).
 
-// Turns the text of an equation into words. False when it is no equation, when a number does not fit a 32-bit
-// float, or when the program outgrows its words or its stack. Any text may be passed.
+// Turns the text of an equation into words; a number too small for a 32-bit float is 0. False when it is no
+// equation, when a number is too large for a 32-bit float, or when the program outgrows its words or its
+// stack. Any text may be passed.
 bool parse(std::string_view text, WordProgram &program);
 
 } // namespace variables::expression
