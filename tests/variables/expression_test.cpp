@@ -117,7 +117,8 @@ TEST(Compiler, refusesWhatIsNoEquation)
     EXPECT_EQ(bytes, "kept");
     // What the run with all variables 0 cannot finish.
     for (const char *equation :
-         {"sqrt(x-1)", "exp(100)", "1e38*10", "0^-1", "(-8)^(1/3)", "atanh(1)", "3e9 and 1"})
+         {"sqrt(x-1)", "exp(100)", "1e38*10", "0^-1", "(-8)^(1/3)", "atanh(1)", "3e9 and 1", "1 or 3e9",
+          "-3e9 xor 1", "1 and -3e9", "2147483648 or 1", "1 or 2147483648"})
         EXPECT_TRUE(program(equation).isEmpty()) << equation;
 }
 
@@ -132,6 +133,14 @@ TEST(Compiler, refusesWhatOutgrowsItsLimits)
     for (const char *part : {"-", "(", "sin(", "1+(", "2^-", "max(1,", "3var_0001^"})
         EXPECT_TRUE(program(QString(part).repeated(100'000)).isEmpty()) << part;
     EXPECT_EQ(program(QString(150, '(') + 'x' + QString(150, ')')), program("x"));
+    // A compound minus needs six words.
+    for (const auto &[words, grown] : {std::pair(250, 256), {252, 252}, {254, 254}, {256, 256}}) {
+        WordProgram full;
+        while (full.size() < words)
+            full.append(FirstSlot, Op::Nothing);
+        EXPECT_EQ(full.subtractFromZero(0, FirstSlot), grown > words) << words;
+        EXPECT_EQ(full.size(), grown);
+    }
 }
 
 } // namespace

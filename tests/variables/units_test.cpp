@@ -38,6 +38,7 @@ TEST(Conversion, formsAreToldApartByTheirSigns)
     const std::pair<const char *, const char *> cases[] = {
         {"value$1$0", ""}, // the raw value needs no program
         {"value$1,0$-0.0", ""},
+        {"K$1$273.15", "01120B00 021433938843 0106 0119"},
         {"", ""},
         {"a$1$2$3", ""}, // a polynomial of zeros is no equation
         {"1 $ 2,5 $ -1", "011400002040 02120B00 0108 02140000803F 0107 0119"},

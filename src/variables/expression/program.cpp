@@ -33,7 +33,7 @@ bool WordProgram::append(quint32 slot, Op code, quint32 operand)
 bool WordProgram::subtractFromZero(int from, quint32 slot)
 {
     const int zero = wordsOf(*operationRow(static_cast<quint32>(Op::LoadConstant)));
-    if (m_size + zero > MostWords)
+    if (m_size + zero + HeadWords > MostWords)
         return false;
     for (int at = from; at < m_size;) {
         quint32 *word = m_words.data() + at;

@@ -45,7 +45,7 @@ public:
     // False when the program is full or the slot lies outside the stack.
     bool append(quint32 slot, Op code, quint32 operand = 0);
     // Puts "0 -" before everything from word `from` on: what stands there moves up by one slot. False as
-    // above.
+    // above; a program without room for it stays as it is.
     bool subtractFromZero(int from, quint32 slot);
 
     int size() const { return m_size; } // in words
