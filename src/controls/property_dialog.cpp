@@ -124,19 +124,21 @@ QComboBox *PropertyDialog::addVariable(const char *name, const QString &label, q
 void PropertyDialog::fillVariables(QComboBox &list, qint32 variable) const
 {
     const variables::VariableTable &table = m_control.host().catalogue().live;
-    for (const variables::VariableRecord &record : table) {
-        if (record.Available)
-            list.addItem(record.DisplayName);
+    const auto addRow = [&](std::size_t index) {
+        list.addItem(table[index].DisplayName, static_cast<qint32>(index));
+    };
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (table[i].Available)
+            addRow(i);
     }
     list.setMaxVisibleItems(20);
     if (variable <= 0 || static_cast<std::size_t>(variable) >= table.size()) {
         list.setCurrentIndex(0);
         return;
     }
-    const QString stored = table[static_cast<std::size_t>(variable)].DisplayName;
-    if (list.findText(stored) < 0)
-        list.addItem(stored);
-    list.setCurrentText(stored);
+    if (list.findData(variable) < 0)
+        addRow(static_cast<std::size_t>(variable));
+    list.setCurrentIndex(list.findData(variable));
 }
 
 ColourSwatch *PropertyDialog::addColour(const char *name, const char *resetName, const QString &label,
@@ -199,22 +201,7 @@ QString PropertyDialog::shown(float value) const
 
 ColourVariableForm PropertyDialog::colourVariableForm() const
 {
-    return {m_colourVariable->currentIndex(), m_colourVariable->currentText(), m_colourMinimum->text(),
-            m_colourMaximum->text()};
-}
-
-qint32 PropertyDialog::variableIndex(const QString &name, qint32 stored) const
-{
-    const variables::VariableTable &table = m_control.host().catalogue().live;
-    const bool isVariable = stored > 0 && static_cast<std::size_t>(stored) < table.size();
-    if (isVariable && table[static_cast<std::size_t>(stored)].DisplayName == name)
-        return stored;
-    return variables::findByName(table, name);
-}
-
-qint32 PropertyDialog::colourVariableIndex(const ColourVariableForm &form, qint32 stored) const
-{
-    return form.row == 0 ? 0 : variableIndex(form.variable, stored);
+    return {chosenVariable(*m_colourVariable), m_colourMinimum->text(), m_colourMaximum->text()};
 }
 
 void PropertyDialog::finishLayout()

@@ -22,8 +22,7 @@ quint8 alphaFromPercent(const QString &percent, quint8 stored);
 // What a colour-variable group holds as typed.
 struct ColourVariableForm
 {
-    int row = 0; // 0 is "None"
-    QString variable;
+    qint32 variable = 0; // catalogue index; 0 is "None"
     QString minimum;
     QString maximum;
 };
@@ -60,7 +59,8 @@ protected:
     void addGroup(const QString &title);
     QLineEdit *addNumber(const char *name, const QString &label, const QString &text,
                          const QString &unit = {});
-    // The list of available variables; a stored variable that is not offered any more is still shown.
+    // The list of available variables; a stored variable that is not offered any more is still shown. Each
+    // row carries its catalogue index, since several variables may have one name.
     QComboBox *addVariable(const char *name, const QString &label, qint32 variable);
     ColourSwatch *addColour(const char *name, const char *resetName, const QString &label, quint32 colour);
     // "None" or a variable that changes the colour of `swatch`'s graphic between two limits.
@@ -69,12 +69,9 @@ protected:
 
     // A float as a field shows it, with the locale's decimal mark.
     QString shown(float value) const;
+    // The catalogue index of the chosen row; 0 for "None".
+    static qint32 chosenVariable(const QComboBox &list) { return list.currentData().toInt(); }
     ColourVariableForm colourVariableForm() const;
-
-    // The catalogue index of a typed or chosen name.
-    // The variable of this name. What was not touched stays, also beside another variable of its name.
-    qint32 variableIndex(const QString &name, qint32 stored) const;
-    qint32 colourVariableIndex(const ColourVariableForm &form, qint32 stored) const;
 
     // The first message that applies to what is typed; nothing when all is well.
     virtual std::optional<QString> validate() const = 0;

@@ -66,6 +66,10 @@ QString bracketed(const QString &name, const QString &unit)
     return name + QLatin1String(" [") + unit + QLatin1Char(']');
 }
 
+// The two forms in which names are compared: as they stand, and without what may be a unit.
+QString whole(const QString &name) { return name.trimmed().toUpper(); }
+QString cut(const QString &name) { return whole(name.section(QLatin1Char('['), 0, 0)); }
+
 } // namespace
 
 bool isPermitted(int index)
@@ -101,15 +105,21 @@ QString displayName(const VariableRecord &record, const UnitTable &units)
 
 int findByName(const VariableTable &table, const QString &name, NameField field)
 {
-    const auto comparable = [](const QString &text) {
-        return text.section(QLatin1Char('['), 0, 0).trimmed().toUpper();
+    struct Comparison
+    {
+        QString (*ofName)(const QString &);
+        QString (*ofRecord)(const QString &);
     };
-    const QString wanted = comparable(name);
-    const auto found = std::find_if(table.begin(), table.end(), [&](const VariableRecord &record) {
-        const QString &text = field == NameField::PhysicalName ? record.PhysicalName : record.BaseName;
-        return comparable(text) == wanted;
-    });
-    return found == table.end() ? NotFound : static_cast<int>(found - table.begin());
+    for (const Comparison &by : {Comparison{whole, whole}, {cut, whole}, {cut, cut}}) {
+        const QString wanted = by.ofName(name);
+        const auto found = std::find_if(table.begin(), table.end(), [&](const VariableRecord &record) {
+            return by.ofRecord(field == NameField::PhysicalName ? record.PhysicalName : record.BaseName) ==
+                   wanted;
+        });
+        if (found != table.end())
+            return static_cast<int>(found - table.begin());
+    }
+    return NotFound;
 }
 
 std::size_t findUnit(const UnitTable &units, const QString &unitName)

@@ -94,8 +94,9 @@ QString displayName(const VariableRecord &record, const UnitTable &units);
 
 enum class NameField { BaseName, PhysicalName };
 
-// The slot whose name is `name`, cut at its first "[", without regard to case and blanks at the ends;
-// NotFound when there is none. Slots are scanned from 0.
+// The slot of a typed or stored name, compared without regard to case and blanks at the ends: the whole
+// names, else `name` cut at its first "[" with the whole names, else both cut. NotFound when there is none.
+// Slots are scanned from 0. What is chosen from a list is not looked up: rows carry their index.
 int findByName(const VariableTable &table, const QString &name, NameField field = NameField::BaseName);
 
 // The row of `unitName`, compared exactly; 0, the blank row, when there is none.

@@ -90,6 +90,9 @@ struct BarProperties : Properties<BarGraphDialog, BarGraph>
 
 TEST_F(GaugeProperties, AreShownAndAllWrittenByApply)
 {
+    w.world.addVariable(15, "Accel [lat]");
+    w.world.addVariable(16, "Accel [long]");
+    w.world.addVariable(22, "Speed [GPS]");
     control.write("newVarID", 3);
     control.write("newMin", 0.5F);
     GaugeDialog dialog(control);
@@ -97,13 +100,13 @@ TEST_F(GaugeProperties, AreShownAndAllWrittenByApply)
     EXPECT_EQ(list(dialog, "cmbVariable").currentText(), "Engine speed []");
     EXPECT_EQ(shown(dialog), "CenterX=170 CenterY=270 ColourVarMax=0 ColourVarMin=0 DefaultVal=0 Max=160 "
                              "MaxAngle=120 Min=0,5 MinAngle=-120 PointerLen=65 PointerWidth=4");
-    list(dialog, "cmbVariable").setCurrentText("Speed []");
-    list(dialog, "cmbColourVariable").setCurrentText("Time stamp []");
+    list(dialog, "cmbVariable").setCurrentText("Speed [GPS] []");
+    list(dialog, "cmbColourVariable").setCurrentText("Accel [long] []");
     type(dialog, "CenterX=300 CenterY=210 PointerLen=80 PointerWidth=7 MinAngle=-90 MaxAngle=95 Min=-2,5 "
                  "Max=12.25 DefaultVal=3 ColourVarMin=10 ColourVarMax=2x0a");
     press(dialog, "cmdAdd");
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(control.Serialise().join(' '), "2550 2550 2 300 210 80 7 0 -90 95 -2,5 12,25 3 10 10 20");
+    EXPECT_EQ(control.Serialise().join(' '), "2550 2550 22 300 210 80 7 0 -90 95 -2,5 12,25 3 16 10 20");
     EXPECT_EQ(control.box(), (Box{3225, 1875, 2550, 2550}));
 }
 

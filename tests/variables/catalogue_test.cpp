@@ -69,18 +69,23 @@ TEST(SetupVariables, displayNamesCarryTheUnitInForce)
     EXPECT_EQ(catalogue.live[7].DisplayName, " []");
 }
 
-TEST(LookUps, namesIgnoreCaseBlanksAndUnitAndTheFirstMatchCounts)
+TEST(LookUps, wholeNamesComeBeforeThoseWithoutTheirUnit)
 {
     VariableTable table(LastIndex + 1);
     table[2].BaseName = " Speed ";
     table[2].PhysicalName = "GPS";
     table[3].BaseName = "Lap [best]";
+    table[4].BaseName = "Speed [GPS]";
+    table[5].BaseName = "Accel [lat]";
+    table[6].BaseName = "Accel [long]";
+    table[7].BaseName = "Accel";
     table[9].BaseName = table[9].PhysicalName = "SPEED";
     const std::tuple<const char *, NameField, int> cases[] = {
         {"speed [km/h]", NameField::BaseName, 2},   {"  sPeEd", NameField::BaseName, 2},
         {"speed", NameField::PhysicalName, 9},      {"gps[", NameField::PhysicalName, 2},
         {"lap [best] [s]", NameField::BaseName, 3}, {"gps", NameField::BaseName, 8000},
-        {"speed2", NameField::BaseName, 8000}};
+        {"speed2", NameField::BaseName, 8000},      {" speed [gps]", NameField::BaseName, 4},
+        {"accel [long]", NameField::BaseName, 6},   {"accel [g]", NameField::BaseName, 7}};
     for (const auto &[name, field, expected] : cases)
         EXPECT_EQ(findByName(table, name, field), expected) << name;
 }

@@ -80,7 +80,7 @@ void BarGraphDialog::showLine(int barType)
 BarGraphForm BarGraphDialog::form() const
 {
     BarGraphForm form;
-    form.variable = m_variable->currentText();
+    form.variable = chosenVariable(*m_variable);
     form.barType = m_barType->currentIndex();
     form.startX = m_startX->text();
     form.startY = m_startY->text();
@@ -101,7 +101,7 @@ void BarGraphDialog::write()
     const BarGraphForm typed = form();
     const platform::Screen &screen = m_bar.host().screen();
     BarGraphValues values = m_bar.get();
-    values.curVarID = variableIndex(typed.variable, values.curVarID);
+    values.curVarID = typed.variable;
     values.curBarWidth = toInteger<quint8>(parseNumber(typed.barWidth));
     values.curColour.setPacked(typed.colour);
     values.curMin = detail::toSingle(parseNumber(typed.min));
@@ -115,7 +115,7 @@ void BarGraphDialog::write()
     values.curTop = toInteger<qint16>(startY * static_cast<double>(screen.ty));
     const auto length = toInteger<qint16>(values.isHorizontal() ? parseNumber(typed.endX) - startX
                                                                 : parseNumber(typed.endY) - startY);
-    values.curColourVariable = colourVariableIndex(typed.colourVariable, values.curColourVariable);
+    values.curColourVariable = typed.colourVariable.variable;
     values.curColourVarMin = detail::toSingle(parseNumber(typed.colourVariable.minimum));
     values.curColourVarMax = detail::toSingle(parseNumber(typed.colourVariable.maximum));
     m_length = length;

@@ -8,7 +8,7 @@ namespace controls {
 // What the dialog of the bar graph holds, as typed.
 struct BarGraphForm
 {
-    QString variable;
+    qint32 variable = 0; // catalogue index
     int barType = 0;
     QString startX, startY, endX, endY, barWidth; // pixels
     quint32 colour = 0;

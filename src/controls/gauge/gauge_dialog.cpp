@@ -56,7 +56,7 @@ GaugeDialog::GaugeDialog(Gauge &gauge)
 GaugeForm GaugeDialog::form() const
 {
     GaugeForm form;
-    form.variable = m_variable->currentText();
+    form.variable = chosenVariable(*m_variable);
     form.centerX = m_centerX->text();
     form.centerY = m_centerY->text();
     form.pointerLength = m_pointerLen->text();
@@ -75,7 +75,7 @@ void GaugeDialog::write()
 {
     const GaugeForm typed = form();
     GaugeValues values = m_gauge.get();
-    values.curVarID = variableIndex(typed.variable, values.curVarID);
+    values.curVarID = typed.variable;
     values.curCenterX = toInteger<qint16>(parseNumber(typed.centerX));
     values.curCenterY = toInteger<qint16>(parseNumber(typed.centerY));
     values.curPointerLength = toInteger<quint8>(parseNumber(typed.pointerLength));
@@ -86,7 +86,7 @@ void GaugeDialog::write()
     values.curMin = detail::toSingle(parseNumber(typed.min));
     values.curMax = detail::toSingle(parseNumber(typed.max));
     values.curDefaultVal = detail::toSingle(parseNumber(typed.defaultVal));
-    values.curColourVariable = colourVariableIndex(typed.colourVariable, values.curColourVariable);
+    values.curColourVariable = typed.colourVariable.variable;
     values.curColourVarMin = detail::toSingle(parseNumber(typed.colourVariable.minimum));
     values.curColourVarMax = detail::toSingle(parseNumber(typed.colourVariable.maximum));
     m_gauge.set(values);

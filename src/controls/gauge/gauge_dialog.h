@@ -8,7 +8,7 @@ namespace controls {
 // What the dialog of the gauge holds, as typed.
 struct GaugeForm
 {
-    QString variable;
+    qint32 variable = 0;      // catalogue index
     QString centerX, centerY; // canvas pixels
     QString pointerLength, pointerWidth;
     quint32 colour = 0;
