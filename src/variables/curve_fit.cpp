@@ -40,13 +40,12 @@ double valueAt(const Coefficients &coefficients, double x)
 }
 
 // The elimination meets a zero only when rounding is kind; so what cannot be solved is told beforehand.
-void requireDistinct(const QList<QPointF> &points, int degree)
+bool hasSingleCurve(const QList<QPointF> &points, int degree)
 {
     std::set<double> distinct;
     for (const QPointF &point : points)
         distinct.insert(point.x());
-    if (static_cast<int>(distinct.size()) <= degree)
-        throw common::RunTimeError(QStringLiteral("Division by zero"));
+    return static_cast<int>(distinct.size()) > degree;
 }
 
 double Standard_deviation(const QList<QPointF> &points, const Coefficients &coefficients, int degree)
@@ -74,21 +73,22 @@ QList<QPointF> fitPoints(const QList<QStringList> &rows)
 
 int fitDegree(qsizetype points) { return std::min(static_cast<int>(points) - 1, HighestDegree); }
 
-std::optional<QString> fitComplaint(qsizetype points, int degree)
+std::optional<QString> fitComplaint(const QList<QPointF> &points, int degree)
 {
-    if (points > MostFitPoints)
+    if (points.size() > MostFitPoints)
         return QStringLiteral("Maxmium of 25 data points");
-    if (points == 0)
+    if (points.isEmpty())
         return QStringLiteral("Not enough data");
-    if (points < degree + 1)
+    if (points.size() < degree + 1)
         return QStringLiteral("Not Enough Data");
+    if (!hasSingleCurve(points, degree))
+        return QStringLiteral("Not enough different values of Input X");
     return std::nullopt;
 }
 
 CurveFit fitCurve(const QList<QPointF> &points)
 {
     const int degree = fitDegree(points.size());
-    requireDistinct(points, degree);
     std::vector<double> x;
     std::vector<double> y;
     for (const QPointF &point : points) {

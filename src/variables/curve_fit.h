@@ -21,9 +21,9 @@ QList<QPointF> fitPoints(const QList<QStringList> &rows);
 // 3 from five points on, below that one less than the points.
 int fitDegree(qsizetype points);
 
-// What is said in place of an equation; nothing when there are points enough for the degree, and not too
-// many.
-std::optional<QString> fitComplaint(qsizetype points, int degree);
+// What is said in place of an equation; nothing when there are points enough for their degree, not too many,
+// and enough of them at different x.
+std::optional<QString> fitComplaint(const QList<QPointF> &points, int degree);
 
 struct CurveFit
 {
@@ -32,7 +32,7 @@ struct CurveFit
 };
 
 // The best polynomial through points that fitComplaint() has nothing to say about. Throws RunTimeError when
-// there is none (too many points at the same x) or it does not fit a number.
+// it does not fit a number.
 CurveFit fitCurve(const QList<QPointF> &points);
 
 // The equation in x, and its standard deviation to three decimals.

@@ -29,10 +29,19 @@ struct FitWindow
         QGuiApplication::clipboard()->setText(text);
         press(Qt::Key_V, Qt::ControlModifier);
     }
+    QPoint at(int row, int column) const
+    {
+        return grid->visualRect(grid->model()->index(row, column)).center();
+    }
     void click(int row, int column)
     {
-        const QPoint at = grid->visualRect(grid->model()->index(row, column)).center();
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, at(row, column));
+    }
+    void drag(QWidget *pressed, QPoint from, QPoint to)
+    {
+        QTest::mousePress(pressed, Qt::LeftButton, {}, from);
+        QTest::mouseMove(pressed, to);
+        QTest::mouseRelease(pressed, Qt::LeftButton, {}, to);
     }
     void menu(const char *entry) { window.findChild<QAction *>(QLatin1String(entry))->trigger(); }
     QStringList row(int number) const { return grid->cells()[number]; }
@@ -54,6 +63,12 @@ TEST(CurveFitWindow, isFilledFromTheKeyboard)
     fit.keys("1.5", Qt::Key_Return);
     fit.keys("6.5", Qt::Key_Left);
     EXPECT_EQ(fit.label(), QStringLiteral("1.5     std dev=0"));
+    fit.press(Qt::Key_Up);
+    fit.press(Qt::Key_Delete);
+    EXPECT_FALSE(fit.ok->isEnabled());
+    QTest::keyClicks(fit.cell, "1");
+    EXPECT_TRUE(fit.ok->isEnabled()); // before the cell is left
+    fit.press(Qt::Key_Down);
     fit.keys("3", Qt::Key_Up);
     EXPECT_EQ(fit.label(), QStringLiteral("2.5*x - 1     std dev=0"));
     EXPECT_EQ(fit.cell->text(), QStringLiteral("1"));
@@ -77,15 +92,20 @@ TEST(CurveFitWindow, goesWhereTheMousePoints)
     EXPECT_EQ(fit.cell->geometry(), fit.grid->visualRect(fit.grid->model()->index(0, 0)));
 
     // A drag out of the current cell selects a block, and the popup menu works on it.
-    const QPoint start = fit.cell->rect().center();
-    const QPoint end = fit.cell->mapFromParent(fit.grid->visualRect(fit.grid->model()->index(2, 1)).center());
-    QTest::mousePress(fit.cell, Qt::LeftButton, {}, start);
-    QTest::mouseMove(fit.cell, end);
-    QTest::mouseRelease(fit.cell, Qt::LeftButton, {}, end);
+    fit.drag(fit.cell, fit.cell->rect().center(), fit.cell->mapFromParent(fit.at(2, 1)));
     fit.menu("mnuCopy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\t\r\n\t\r\n\t4"));
     fit.menu("mnuDelete");
     EXPECT_EQ(fit.row(2), (QStringList{"", ""}));
+
+    // A paste fills the block from its first cell, whichever way it was dragged.
+    fit.drag(fit.grid->viewport(), fit.at(1, 0), fit.at(3, 1));
+    fit.paste("1\t2\n3\t4");
+    fit.click(0, 0);
+    fit.drag(fit.grid->viewport(), fit.at(5, 1), fit.at(4, 0));
+    fit.paste("5\t6");
+    EXPECT_EQ(fit.row(1) + fit.row(2) + fit.row(4), (QStringList{"1", "2", "3", "4", "5", "6"}));
+    EXPECT_EQ(fit.row(3) + fit.row(5), (QStringList{"", "", "", ""}));
 }
 
 TEST(CurveFitWindow, cutsCopiesAndPastesBlocks)
@@ -123,9 +143,20 @@ TEST(CurveFitWindow, givesNoEquationWhereThereIsNone)
 
     FitWindow same;
     same.paste("1\t1\n1\t2");
-    EXPECT_EQ(same.label(), QString());
+    EXPECT_EQ(same.label(), QStringLiteral("Not enough different values of Input X"));
     EXPECT_FALSE(same.ok->isEnabled());
     EXPECT_EQ(same.chart->points().size(), 2);
+
+    FitWindow large;
+    large.paste("1e200\t1\n2\t2");
+    EXPECT_EQ(large.label(), QStringLiteral("No curve can be calculated from this table"));
+}
+
+TEST(CurveFitWindow, showsTheWholeCurve)
+{
+    FitWindow fit;
+    fit.paste("0\t0\n4\t0\n1\t3"); // a parabola up to 4
+    EXPECT_GT(fit.chart->range().bottom(), 4);
 }
 
 } // namespace

@@ -53,21 +53,30 @@ TEST(CurveFit, minimisesTheSquares)
     EXPECT_EQ(fitText(fit).toStdString(), "4.43x^2 - 2.06     std dev=2.869");
 }
 
-TEST(CurveFit, isARunTimeErrorWhereThereIsNoSingleCurve)
+TEST(CurveFit, isARunTimeErrorWhereNumbersOverflow)
 {
-    for (const QList<QPointF> &points : {QList<QPointF>{{1, 1}, {1, 2}},
-                                         {{0.1, 1}, {0.1, 2}, {0.3, 5}, {0.3, 6}, {0.7, 1}, {0.7, 2}},
-                                         {{1e200, 1}, {2, 2}, {3, 3}}})
-        EXPECT_THROW(fitCurve(points), common::RunTimeError) << points.size();
+    EXPECT_THROW(fitCurve({{1e200, 1}, {2, 2}, {3, 3}}), common::RunTimeError);
 }
 
-TEST(CurveFit, saysWhatIsWrongWithTheNumberOfPoints)
+TEST(CurveFit, saysWhatIsWrongWithThePoints)
 {
-    EXPECT_EQ(fitComplaint(0, fitDegree(0)), QStringLiteral("Not enough data"));
-    EXPECT_EQ(fitComplaint(3, 3), QStringLiteral("Not Enough Data"));
-    EXPECT_EQ(fitComplaint(26, fitDegree(26)), QStringLiteral("Maxmium of 25 data points"));
-    for (const qsizetype points : {1, 4, 5, 25})
-        EXPECT_EQ(fitComplaint(points, fitDegree(points)), std::nullopt) << points;
+    const auto complaint = [](const QList<QPointF> &points) {
+        return fitComplaint(points, fitDegree(points.size())).value_or("none").toStdString();
+    };
+    const auto points = [](int count) {
+        QList<QPointF> line;
+        for (int i = 0; i < count; ++i)
+            line.append({0.5 * i, 1});
+        return line;
+    };
+    EXPECT_EQ(complaint({}), "Not enough data");
+    EXPECT_EQ(fitComplaint(points(3), 3), QStringLiteral("Not Enough Data"));
+    EXPECT_EQ(complaint(points(26)), "Maxmium of 25 data points");
+    for (const int count : {1, 4, 5, 25})
+        EXPECT_EQ(complaint(points(count)), "none") << count;
+    for (const QList<QPointF> &repeated :
+         {QList<QPointF>{{1, 1}, {1, 2}}, {{0.1, 1}, {0.1, 2}, {0.3, 5}, {0.3, 6}, {0.7, 1}, {0.7, 2}}})
+        EXPECT_EQ(complaint(repeated), "Not enough different values of Input X") << repeated.size();
 }
 
 TEST(FitPoints, countOnlyWhereBothCellsHoldText)

@@ -85,6 +85,13 @@ void Chart::draw(const QList<QPointF> &points, const QList<QPointF> &curve, cons
     m_plot->replot();
 }
 
+QRectF Chart::range() const
+{
+    const QCPRange x = m_plot->xAxis->range();
+    const QCPRange y = m_plot->yAxis->range();
+    return {x.lower, y.lower, x.size(), y.size()};
+}
+
 void Chart::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);

@@ -25,6 +25,7 @@ public:
 
     const QList<QPointF> &points() const { return m_points; }
     const QList<QPointF> &curve() const { return m_curve; }
+    QRectF range() const; // what the axes show
 
 protected:
     void changeEvent(QEvent *event) override;

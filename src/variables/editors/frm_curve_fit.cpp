@@ -60,11 +60,7 @@ frmCurveFit::frmCurveFit(const platform::NumberLocale &locale, QWidget *parent)
     layout->addWidget(m_equation);
     const DialogButtons buttons = addButtons(*this, "cmdOk", "cmdCancel");
     m_accept = buttons.accept;
-    connect(m_accept, &QPushButton::clicked, this, [this] {
-        m_grid->commit();
-        if (m_fit)
-            accept();
-    });
+    connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_grid, &PointGrid::changed, this, &frmCurveFit::Recalculate);
     Recalculate();
     m_grid->setFocus();
@@ -80,12 +76,11 @@ std::optional<Coefficients> frmCurveFit::run()
 void frmCurveFit::Recalculate()
 {
     QList<QPointF> points;
-    QString text;
+    QString text = QStringLiteral("No curve can be calculated from this table");
     m_fit.reset();
     platform::skipFailures([&] {
         points = fitPoints(m_grid->cells());
-        const int degree = fitDegree(points.size());
-        if (const auto complaint = fitComplaint(points.size(), degree)) {
+        if (const auto complaint = fitComplaint(points, fitDegree(points.size()))) {
             text = *complaint;
             return;
         }
@@ -103,7 +98,7 @@ void frmCurveFit::DrawGraph(const QList<QPointF> &points, const std::optional<Cu
     QList<QPointF> curve;
     if (fit)
         curve = curveSamples(fit->coefficients, range.left(), range.right(), CurveSteps);
-    m_chart->draw(points, curve, range);
+    m_chart->draw(points, curve, rangeOf(points + curve)); // between two points it may go beyond them
 }
 
 } // namespace variables

@@ -39,6 +39,7 @@ PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decima
     m_edit->setAlignment(Qt::AlignRight);
     new NumericKeys(m_edit, decimalSeparator);
     m_edit->installEventFilter(this);
+    connect(m_edit, &QLineEdit::textEdited, this, &PointGrid::changed);
     connect(m_edit, &QLineEdit::editingFinished, this, &PointGrid::commit);
 
     m_menu->setObjectName(QStringLiteral("mnuPop"));
@@ -48,10 +49,8 @@ PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decima
     addEntry("mnuDelete", QStringLiteral("&Delete"), QKeySequence::Delete, &PointGrid::deleteBlock);
 
     connect(this, &QTableWidget::currentCellChanged, this, [this](int, int, int row, int column) {
-        const bool different = setCell(row, column, m_edit->text());
+        setCell(row, column, m_edit->text());
         showCell();
-        if (different)
-            emit changed();
     });
     setCurrentCell(0, 0);
 }
@@ -74,6 +73,7 @@ QList<QStringList> PointGrid::cells() const
             texts.append(cell(row, column));
         rows.append(texts);
     }
+    rows[currentRow()][currentColumn()] = m_edit->text();
     return rows;
 }
 
@@ -92,11 +92,7 @@ bool PointGrid::setCell(int row, int column, const QString &text)
     return true;
 }
 
-void PointGrid::commit()
-{
-    if (setCell(currentRow(), currentColumn(), m_edit->text()))
-        emit changed();
-}
+void PointGrid::commit() { setCell(currentRow(), currentColumn(), m_edit->text()); }
 
 void PointGrid::showCell()
 {
@@ -227,6 +223,7 @@ bool PointGrid::restoreCell()
         return false;
     m_edit->setText(stored);
     m_edit->selectAll();
+    emit changed();
     return true;
 }
 
@@ -240,7 +237,6 @@ void PointGrid::cut()
 
 void PointGrid::copy()
 {
-    commit();
     const QTableWidgetSelectionRange selected = block();
     QList<QStringList> rows;
     for (int row = selected.topRow(); row <= selected.bottomRow(); ++row)
@@ -248,9 +244,11 @@ void PointGrid::copy()
     QGuiApplication::clipboard()->setText(tableText(rows));
 }
 
+// After a selection by mouse the current cell is any corner of the block.
 void PointGrid::paste()
 {
-    fill(currentRow(), currentColumn(), tableRows(QGuiApplication::clipboard()->text()));
+    const QTableWidgetSelectionRange selected = block();
+    fill(selected.topRow(), selected.leftColumn(), tableRows(QGuiApplication::clipboard()->text()));
 }
 
 void PointGrid::deleteBlock()
@@ -263,6 +261,7 @@ void PointGrid::deleteBlock()
 // Cells beyond the grid are dropped.
 void PointGrid::fill(int top, int left, const QList<QStringList> &rows)
 {
+    commit();
     bool different = false;
     for (qsizetype row = 0; row < rows.size() && top + row < rowCount(); ++row) {
         for (qsizetype column = 0; column < rows[row].size() && left + column < columnCount(); ++column)

@@ -17,13 +17,11 @@ class PointGrid final : public QTableWidget
 public:
     PointGrid(int rows, const QStringList &headers, const QString &decimalSeparator);
 
-    // All rows as typed.
+    // All rows as typed, with what stands in the edit box.
     QList<QStringList> cells() const;
-    // Takes over what stands in the edit box.
-    void commit();
 
 signals:
-    void changed(); // the text of a cell is another one
+    void changed(); // the text of a cell or of the edit box is another one
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -39,6 +37,7 @@ private:
     void moveBy(int rows, int columns, bool extend);
     void extendTo(const QModelIndex &corner);
     void showCell();
+    void commit(); // stores what stands in the edit box
 
     QTableWidgetSelectionRange block() const;
     QString cell(int row, int column) const;
