@@ -5,6 +5,7 @@
 #include "shell/frm_start_splash.h"
 #include "shell/version.h"
 #include "surface/panel_area.h"
+#include "variables/edit_cycle.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -272,13 +273,14 @@ void frmMain::sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    const Leaving leaving = m_state.sessionEnds ? Leaving::SessionEnds : Leaving::ByCommand;
-    if (!m_files.saveWorkspace(leaving)) {
+    platform::SilentPrompts silent;
+    platform::Prompts &prompts = m_state.sessionEnds ? silent : m_prompts;
+    variables::writePendingEdits(m_state.catalogue, m_state.folders, m_state.locale, prompts);
+    if (!m_files.saveWorkspace(m_state.sessionEnds ? Leaving::SessionEnds : Leaving::ByCommand)) {
         event->ignore();
         return;
     }
-    platform::SilentPrompts silent;
-    platform::reportFailures(m_state.sessionEnds ? silent : m_prompts, [this] {
+    platform::reportFailures(prompts, [this] {
         m_design->saveGeometry();
         m_files.keepLastFolder();
     });

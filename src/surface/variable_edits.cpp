@@ -4,6 +4,7 @@
 #include "common/rounding.h"
 #include "variables/number_parser.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace surface {
@@ -11,6 +12,12 @@ namespace surface {
 using variables::VariableRecord;
 
 namespace {
+
+bool beginsWithNumber(const QString &text, const QString &decimalMark)
+{
+    const QString number = QStringLiteral("^\\s*[-+]?([.,]|%1)?[0-9]");
+    return QRegularExpression(number.arg(QRegularExpression::escape(decimalMark))).match(text).hasMatch();
+}
 
 // Stores what was typed; an empty answer is a cancel. Throws RunTimeError for a number past all bounds.
 bool storeNumber(float &field, const QString &answer)
@@ -37,10 +44,10 @@ std::optional<VariableLine> variableLine(const QString &key)
 bool editMaximumRoc(VariableRecord &record, platform::Prompts &prompts, const QString &decimalMark)
 {
     const QString current = common::shortestText(record.MaximumROC, decimalMark);
-    return storeNumber(record.MaximumROC,
-                       prompts.input(QStringLiteral("Maximum rate of change"),
-                                     QStringLiteral("Please inputs a new maximum rate of change ") + current,
-                                     current));
+    const QString answer =
+        prompts.input(QStringLiteral("Maximum rate of change"),
+                      QStringLiteral("Please inputs a new maximum rate of change ") + current, current);
+    return beginsWithNumber(answer, decimalMark) && storeNumber(record.MaximumROC, answer);
 }
 
 bool editName(VariableRecord &record, platform::Prompts &prompts)

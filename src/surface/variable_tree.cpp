@@ -221,7 +221,7 @@ void VariableTree::edit(const QString &key)
     if (!changed)
         return;
     m_edited = line->index;
-    variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale);
+    variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale, m_context.prompts);
     RegenerateVariableTree();
 }
 

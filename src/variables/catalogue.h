@@ -81,6 +81,7 @@ struct Catalogue
     // The user's definitions could not be read at the start. Until others are loaded the definition files stay
     // as they are: what lies here is not what the user had.
     bool definitionsLost = false;
+    bool hasUnwrittenEdits = false; // the files in the user data folder are older than `live`
 };
 
 // Whether the recorder has a variable of this index at all.

@@ -25,20 +25,35 @@ void writeDefinitionFile(const Catalogue &catalogue, const platform::Folders &fo
 
 } // namespace
 
-void commitEdits(Catalogue &catalogue, const platform::Folders &folders, const platform::NumberLocale &locale)
+void commitEdits(Catalogue &catalogue, const platform::Folders &folders, const platform::NumberLocale &locale,
+                 platform::Prompts &prompts)
 {
     catalogue.live = catalogue.staging;
     SetupVariables(catalogue);
     catalogue.staging = catalogue.live;
-    platform::skipFailures([&] { writeXvrFile(catalogue, folders, locale); });
-    platform::skipFailures([&] { writeDefinitionFile(catalogue, folders); });
+    catalogue.hasUnwrittenEdits = true;
+    writePendingEdits(catalogue, folders, locale, prompts);
 }
 
-void writeCatalogueFiles(const Catalogue &catalogue, const platform::Folders &folders,
+void writePendingEdits(Catalogue &catalogue, const platform::Folders &folders,
+                       const platform::NumberLocale &locale, platform::Prompts &prompts)
+{
+    if (!catalogue.hasUnwrittenEdits)
+        return;
+    const auto writeDefinitions = [&] { writeDefinitionFile(catalogue, folders); };
+    // Both files mostly fail for the same reason, which is told once.
+    if (platform::reportFailures(prompts, [&] { writeXvrFile(catalogue, folders, locale); }))
+        catalogue.hasUnwrittenEdits = !platform::reportFailures(prompts, writeDefinitions);
+    else
+        platform::skipFailures(writeDefinitions);
+}
+
+void writeCatalogueFiles(Catalogue &catalogue, const platform::Folders &folders,
                          const platform::NumberLocale &locale)
 {
     writeDefinitionFile(catalogue, folders); // what the next start reads comes first
     writeXvrFile(catalogue, folders, locale);
+    catalogue.hasUnwrittenEdits = false;
 }
 
 } // namespace variables

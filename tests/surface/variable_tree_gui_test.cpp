@@ -46,7 +46,7 @@ TEST(VariableTree, ShowsAvailableVariablesInTheirGroupsAndKeepsOpenBranches)
     EXPECT_EQ(gps->child(0)->child(3)->text(0), "Smoothed over: None Set");
 }
 
-TEST(VariableTree, APressEditsAndWritesBothFilesAsFarAsItCan)
+TEST(VariableTree, APressEditsAndWritesBothFilesAsSoonAsItCan)
 {
     DesignWindow w;
     const platform::Folders &folders = w.world.state.folders;
@@ -58,8 +58,11 @@ TEST(VariableTree, APressEditsAndWritesBothFilesAsFarAsItCan)
         QTreeWidgetItem *speed = tree.topLevelItem(0)->child(0);
         return detail == 0 ? speed->child(0)->child(0) : speed->child(detail);
     };
+    bool fails = false;
     const auto answer = [&](int detail, const QString &typed) {
         w.world.prompts.expectInput(typed);
+        if (fails)
+            w.world.prompts.expectMessage({});
         test::click(*tree.viewport(), tree.visualItemRect(lineOf(detail)).center());
         QCoreApplication::processEvents();
         return lineOf(detail)->text(0);
@@ -69,9 +72,19 @@ TEST(VariableTree, APressEditsAndWritesBothFilesAsFarAsItCan)
     EXPECT_EQ(answer(0, "1e99"), noLimit);
     EXPECT_FALSE(QFile::exists(folders.variablesFile()));
 
-    QDir().mkpath(folders.inUserData("QLM6ConfigTool.XVR/in the way"));
+    // Each file is written for itself; what could not be written is told of and tried again.
+    const QString xvr = folders.inUserData("QLM6ConfigTool.XVR");
+    QDir().mkpath(xvr + "/in the way");
+    fails = true;
     EXPECT_EQ(answer(0, "2,5"), "Maximum rate of change: 2.5");
+    EXPECT_EQ(w.world.prompts.shown().back().icon, platform::Icon::Critical);
+    EXPECT_TRUE(QFile::exists(folders.variablesFile()));
+    fails = false;
+    for (const char *noNumber : {"abc", "-", " ", ",e5", "--2"})
+        EXPECT_EQ(answer(0, noNumber), "Maximum rate of change: 2.5") << noNumber;
+    QDir(xvr).removeRecursively();
     EXPECT_EQ(answer(3, "0.5"), "Smoothed over: 0.5 seconds");
+    EXPECT_TRUE(QFile::exists(xvr));
     EXPECT_EQ(answer(2, " Pace "), "Variable Name: Pace");
     EXPECT_EQ(tree.currentItem(), lineOf(2));
     EXPECT_EQ(w.world.prompts.shown().back().text, "Please inputs a new name for Speed");
@@ -79,6 +92,16 @@ TEST(VariableTree, APressEditsAndWritesBothFilesAsFarAsItCan)
     loadDefinitions(platform::readFile(folders.variablesFile()), stored);
     EXPECT_EQ(stored.live[2].DisplayName, "Pace []");
     EXPECT_EQ(stored.live[2].MaximumROC, 2.5F);
+
+    QFile::remove(xvr);
+    QFile::remove(folders.variablesFile());
+    QDir().mkpath(folders.variablesFile());
+    fails = true;
+    EXPECT_EQ(answer(3, "abc"), "Smoothed over: None Set");
+    QDir().rmdir(folders.variablesFile());
+    w.window.close();
+    loadDefinitions(platform::readFile(folders.variablesFile()), stored);
+    EXPECT_EQ(stored.live[2].SmoothingTime, 0);
 }
 
 TEST(VariableTree, TheSearchIsOverWhenItsBoxIsEmpty)
