@@ -13,8 +13,13 @@ constexpr std::array<char16_t, 32> HighControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+constexpr char16_t ArabicDecimalMark = 0x066B;
+
 char toByte(char16_t unit)
 {
+    // A "?" in place of the mark would make another number of 0.1: all that reads numbers takes ".".
+    if (unit == ArabicDecimalMark)
+        return '.';
     if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
         return static_cast<char>(unit);
     const auto found = std::find(HighControls.begin(), HighControls.end(), unit);

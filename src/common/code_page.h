@@ -9,7 +9,7 @@ namespace common {
 // leaves unassigned stand for the control characters of the same number, so that every byte survives.
 QString fromCodePage(QByteArrayView bytes);
 
-// Characters outside the page become "?".
+// Characters outside the page become "?", but for the Arabic decimal mark, which becomes ".".
 QByteArray toCodePage(const QString &text);
 
 } // namespace common

@@ -12,4 +12,10 @@ QString shortestText(float value, const QString &decimalMark = QStringLiteral(".
 // rest is ignored; 0 when there is none. "12.5px" is 12.5, "abc" is 0.
 double leadingNumber(const QString &text);
 
+// Whether some locale writes this character between whole and fraction: ".", "," and the Arabic mark.
+constexpr bool isDecimalMark(char32_t character)
+{
+    return character == U'.' || character == U',' || character == U'\u066B';
+}
+
 } // namespace common

@@ -11,6 +11,10 @@ struct NumberLocale
     QString listSeparator = QStringLiteral(",");
 };
 
+// The marks of a locale with this decimal mark. One that number fields do not read (common::isDecimalMark),
+// as a user can set it on some desktops, counts as ".".
+NumberLocale numberLocale(const QString &decimalMark);
+
 NumberLocale userNumberLocale();
 
 } // namespace platform

@@ -23,6 +23,21 @@ QString kept(const QString &text, Keep keep)
     return result;
 }
 
+// The same with "." and the digits 0 to 9, in capitals.
+QString withPlainDigits(const QString &text)
+{
+    QString plain;
+    for (const char32_t c : text.toUcs4()) {
+        if (common::isDecimalMark(c))
+            plain.append(QLatin1Char('.'));
+        else if (QChar::isDigit(c))
+            plain.append(QString::number(QChar::digitValue(c)));
+        else
+            plain.append(QString::fromUcs4(&c, 1).toUpper());
+    }
+    return plain;
+}
+
 bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
 // "05" is 0.05: divided by 10 until below 1, then once more for every leading zero.
@@ -40,8 +55,7 @@ double fractionValue(const QString &digits)
 
 double parseNumber(const QString &text)
 {
-    QString number = text;
-    number = number.replace(QLatin1Char(','), QLatin1Char('.')).trimmed().toUpper().left(LongestNumber);
+    QString number = withPlainDigits(text.trimmed()).left(LongestNumber);
     const bool negative = number.startsWith(QLatin1Char('-'));
     if (negative)
         number.remove(0, 1);
@@ -66,8 +80,8 @@ double parseNumber(const QString &text)
 
 bool isNumericKey(QChar key, const QString &decimalSeparator)
 {
-    static const QString accepted = QStringLiteral("0123456789.,-\b\r");
-    return accepted.contains(key) || decimalSeparator.contains(key);
+    static const QString accepted = QStringLiteral(".,-\b\r");
+    return key.isDigit() || accepted.contains(key) || decimalSeparator.contains(key);
 }
 
 } // namespace variables

@@ -15,6 +15,7 @@ TEST(CodePage, everyByteSurvivesAndForeignCharactersBecomeQuestionMarks)
     EXPECT_EQ(toCodePage(fromCodePage(all)), all);
     EXPECT_EQ(fromCodePage("\x80 \x9E \xB0\x43 \xFF"), QString("€ ž °C ÿ"));
     EXPECT_EQ(toCodePage("“5 µ” Ω 😀!"), "\x93\x35 \xB5\x94 ? ?!");
+    EXPECT_EQ(toCodePage("0\u066B1"), "0.1"); // must not become 1
 }
 
 TEST(FixedText, isTextThenOneNulThenBlanks)

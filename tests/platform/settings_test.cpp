@@ -1,5 +1,6 @@
 #include "common/run_time_error.h"
 #include "platform/file_replace.h"
+#include "platform/locale.h"
 #include "platform/settings_keys.h"
 
 #include <QTemporaryDir>
@@ -44,6 +45,17 @@ TEST_F(Settings, numbersAreReadAndPulledIntoTheirBounds)
         EXPECT_EQ(key.read(file), expected) << key.section << ' ' << key.key << ' ' << text;
     }
     EXPECT_EQ(keys::VideoType.read(fileOf("")), 1); // a new user's standard
+}
+
+TEST(Locale, itsMarksAreOnesThatNumbersAreReadWith)
+{
+    const std::tuple<QString, QString, QString> cases[] = {
+        {",", ",", ";"}, {".", ".", ","}, {"\u066B", "\u066B", ","}, {" , ", ",", ";"},
+        {"", ".", ","},  {"'", ".", ","}, {"\u2396", ".", ","},      {"..", ".", ","}};
+    for (const auto &[mark, decimal, list] : cases) {
+        EXPECT_EQ(numberLocale(mark).decimalSeparator, decimal);
+        EXPECT_EQ(numberLocale(mark).listSeparator, list);
+    }
 }
 
 TEST_F(Settings, savedValuesAreThereAtTheNextStart)

@@ -9,7 +9,8 @@ using namespace variables;
 TEST(NumberParser, readsBothDecimalMarksWhateverTheLocale)
 {
     for (const char *text :
-         {"1,5", "1.5", "  1.5E0 ", "+1.5", "1.500", "1.5.9", "1.5E", "1.5Exyz", "15E-1", ".15e+1 km"})
+         {"1,5", "1.5", "  1.5E0 ", "+1.5", "1.500", "1.5.9", "1.5E", "1.5Exyz", "15E-1", ".15e+1 km",
+          "\u0661\u066B\u0665", "\u06F1\u066B\u06F5", "\u0967.\u096B", "\U00011137.5"})
         EXPECT_DOUBLE_EQ(parseNumber(text), 1.5) << text;
     for (const char *text : {"", "   ", "-", "km", "E5", "0.0"})
         EXPECT_EQ(parseNumber(text), 0) << text;
@@ -31,7 +32,8 @@ TEST(NumberParser, fieldsTakeOnlyWhatNumbersAreMadeOf)
         EXPECT_TRUE(isNumericKey(QLatin1Char(key), ".")) << int{key};
     for (const char key : {'e', '+', ' ', '\n', '\0'})
         EXPECT_FALSE(isNumericKey(QLatin1Char(key), ".")) << int{key};
-    EXPECT_TRUE(isNumericKey(QChar(0x066B), QString(QChar(0x066B))));
+    for (const char16_t key : u"\u0660\u06F9\u066B") // digits and the mark between them
+        EXPECT_TRUE(key == 0 || isNumericKey(QChar(key), "\u066B")) << int{key};
 }
 
 } // namespace

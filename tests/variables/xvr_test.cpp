@@ -35,15 +35,31 @@ TEST(Xvr, aBlockIsWrittenLineByLineAndReadBack)
     EXPECT_TRUE(written.startsWith(head) && written.contains(middle)) << written.toStdString();
     EXPECT_TRUE(written.endsWith(tail)) << written.toStdString();
 
+    catalogue.live[2].CustomUnits = "µm";
+
     // The block is lost as the last one, and read where the sentinel's comes behind it. Only whole corners
     // are the same: those of the filter are written with the locale's mark and read with ".".
     catalogue.live[2].FilterHighVal = 12;
     ASSERT_TRUE(read(writeXvr(catalogue.live, ","), catalogue));
-    EXPECT_EQ(catalogue.staging[2].IndexNumber, 0);
+    EXPECT_EQ(catalogue.staging[2].IndexNumber + catalogue.staging[LastIndex].IndexNumber, 0);
     catalogue.live[LastIndex].IndexNumber = LastIndex;
     ASSERT_TRUE(read(writeXvr(catalogue.live, ","), catalogue));
     EXPECT_TRUE(catalogue.staging[2] == catalogue.live[2]);
     EXPECT_EQ(catalogue.staging[LastIndex].IndexNumber, LastIndex);
+}
+
+TEST(Xvr, aDecimalMarkOutsideTheCodePageIsWrittenAsAPoint)
+{
+    const QString mark = "\u066B";
+    Catalogue catalogue;
+    catalogue.live[2].IndexNumber = 2;
+    catalogue.live[2].SmoothingTime = 0.1F;
+    catalogue.live[2].CustomTransformation = "1" + mark + "5*u";
+    catalogue.live[LastIndex].IndexNumber = LastIndex;
+    test::ScriptedPrompts prompts;
+    ASSERT_TRUE(readXvr(writeXvr(catalogue.live, mark), {}, XvrKind::Variables, catalogue, mark, prompts));
+    EXPECT_EQ(catalogue.staging[2].SmoothingTime, 0.1F);
+    EXPECT_EQ(catalogue.staging[2].CustomTransformation, "1.5*u");
 }
 
 TEST(Xvr, whatDoesNotFitAFieldIsPassedOver)
