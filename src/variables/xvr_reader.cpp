@@ -3,11 +3,12 @@
 #include "common/rounding.h"
 #include "platform/guards.h"
 #include "variables/xvr.h"
+#include "variables/xvr_fields.h"
 
 #include <QDomDocument>
+#include <QHash>
 
-#include <algorithm>
-#include <array>
+#include <concepts>
 #include <functional>
 
 namespace variables {
@@ -20,70 +21,31 @@ using common::toSingle;
 using platform::skipFailures;
 
 // Texts gathered for the record that is being read, by tag. Tags are compared without regard to case.
-template <std::size_t N>
-class Slots
+class Texts
 {
 public:
-    explicit Slots(const std::array<const char *, N> &tags) : m_tags(tags) {}
-
-    void store(const QString &tag, const QString &text)
+    void store(const QString &tag, const QString &text) { m_texts.insert(tag.toCaseFolded(), text); }
+    QString operator[](const char *tag) const
     {
-        for (std::size_t i = 0; i < N; ++i) {
-            if (tag.compare(QLatin1String(m_tags[i]), Qt::CaseInsensitive) == 0)
-                m_texts[i] = text;
-        }
+        return m_texts.value(QString::fromLatin1(tag).toCaseFolded());
     }
-    const QString &operator[](const char *tag) const
-    {
-        const auto found = std::find(m_tags.begin(), m_tags.end(), std::string_view(tag));
-        return m_texts[static_cast<std::size_t>(found - m_tags.begin())];
-    }
-    void clear() { m_texts.fill(QString()); }
+    void clear() { m_texts.clear(); }
 
 private:
-    std::array<const char *, N> m_tags;
-    std::array<QString, N> m_texts;
+    QHash<QString, QString> m_texts;
 };
-
-constexpr std::array<const char *, 25> VariableTags{"ConstantName",
-                                                    "IndexNumber",
-                                                    "PhysicalName",
-                                                    "BaseName",
-                                                    "Enabled",
-                                                    "AlwaysOn",
-                                                    "Available",
-                                                    "VariableType",
-                                                    "Description",
-                                                    "DefaultMin",
-                                                    "DefaultMax",
-                                                    "SmoothingTime",
-                                                    "MaximumROC",
-                                                    "AllowTransformations",
-                                                    "ApplyTransformation",
-                                                    "FilterDesign",
-                                                    "Calculus",
-                                                    "FilterLowVal",
-                                                    "FilterHighVal",
-                                                    "FilterRipple",
-                                                    "FilterOrder",
-                                                    "UseCustomTrans",
-                                                    "CustomTransformation",
-                                                    "CustomUnits",
-                                                    "Misc"};
-constexpr std::array<const char *, 4> UnitTags{"UnitName", "Description", "Conversion", "Uniit"};
 
 // The walk of both files: depth first, a text goes to the slot of its parent's name, a node with two children
 // or more is a group, and at that moment the record gathered before it is complete. The document is no node.
-template <std::size_t N>
-void walk(const QDomNode &node, Slots<N> &slots_, const std::function<void()> &recordComplete)
+void walk(const QDomNode &node, Texts &texts, const std::function<void()> &recordComplete)
 {
     if (node.nodeType() == QDomNode::TextNode) // not of a CDATA section
-        slots_.store(node.parentNode().nodeName(), node.nodeValue());
+        texts.store(node.parentNode().nodeName(), node.nodeValue());
     const QDomNodeList children = node.childNodes();
     if (children.count() >= 2)
         recordComplete();
     for (int i = 0; i < children.count(); ++i)
-        walk(children.at(i), slots_, recordComplete);
+        walk(children.at(i), texts, recordComplete);
 }
 
 // A number in the system's own form. Throws RunTimeError for a text that is none.
@@ -96,72 +58,63 @@ double localNumber(QString text, const QString &decimalSeparator)
     return value;
 }
 
-class RecordBuilder
+// Reads the fields of one block. A field whose text does not fit it keeps its start value.
+class BlockReader
 {
 public:
-    RecordBuilder(const Slots<25> &texts, const QString &decimalSeparator)
+    BlockReader(const Texts &texts, const QString &decimalSeparator)
         : m_texts(texts), m_decimalSeparator(decimalSeparator)
     {
     }
 
-    // A field whose text does not fit it keeps its start value.
-    VariableRecord record() const
+    void number(const char *tag, auto &value)
     {
-        VariableRecord r;
-        skipFailures([&] { r.IndexNumber = toInteger<qint32>(local("IndexNumber")); });
-        r.PhysicalName = m_texts["PhysicalName"];
-        r.BaseName = m_texts["BaseName"];
-        r.Enabled = number("Enabled") != 0;
-        r.AlwaysOn = number("AlwaysOn") != 0;
-        r.Available = number("Available") != 0;
-        skipFailures([&] { r.VariableType = toInteger<qint32>(local("VariableType")); });
-        r.Description = m_texts["Description"];
-        skipFailures([&] { r.DefaultMin = toSingle(local("DefaultMin")); });
-        skipFailures([&] { r.DefaultMax = toSingle(local("DefaultMax")); });
-        skipFailures([&] { r.SmoothingTime = toSingle(local("SmoothingTime")); });
-        skipFailures([&] { r.MaximumROC = toSingle(local("MaximumROC")); });
-        r.AllowTransformations = m_texts["AllowTransformations"].split(QLatin1Char('#'));
-        r.ApplyTransformation = m_texts["ApplyTransformation"];
-        skipFailures([&] { r.FilterDesign = toInteger<qint32>(number("FilterDesign")); });
-        skipFailures([&] { r.calculus = toInteger<qint32>(number("Calculus")); });
-        skipFailures([&] { r.FilterLowVal = toSingle(number("FilterLowVal")); });
-        skipFailures([&] { r.FilterHighVal = toSingle(number("FilterHighVal")); });
-        skipFailures([&] { r.FilterRipple = toSingle(number("FilterRipple")); });
-        skipFailures([&] { r.FilterOrder = toInteger<qint32>(number("FilterOrder")); });
-        r.UseCustomTrans = number("UseCustomTrans") != 0;
-        r.CustomTransformation = m_texts["CustomTransformation"];
-        r.CustomTransformation.replace(QLatin1Char('#'), QLatin1Char('\r'))
-            .replace(QLatin1Char('$'), QLatin1Char('\n'));
-        r.CustomUnits = m_texts["CustomUnits"];
-        skipFailures([&] { r.Misc = toInteger<quint8>(number("Misc")); });
-        return r;
+        skipFailures([&] { convert(leadingNumber(m_texts[tag]), value); });
     }
+    void localNumber(const char *tag, auto &value)
+    {
+        skipFailures([&] { convert(variables::localNumber(m_texts[tag], m_decimalSeparator), value); });
+    }
+    void text(const char *tag, QString &value) { value = m_texts[tag]; }
+    void list(const char *tag, QStringList &value) { value = m_texts[tag].split(QLatin1Char('#')); }
+    void equation(const char *tag, QString &value)
+    {
+        value = m_texts[tag];
+        value.replace(QLatin1Char('#'), QLatin1Char('\r')).replace(QLatin1Char('$'), QLatin1Char('\n'));
+    }
+    void label(const char *tag, QString &value) { text(tag, value); }
 
 private:
-    double number(const char *tag) const { return leadingNumber(m_texts[tag]); }
-    double local(const char *tag) const { return localNumber(m_texts[tag], m_decimalSeparator); }
+    static void convert(double number, bool &value) { value = number != 0; }
+    static void convert(double number, float &value) { value = toSingle(number); }
+    static void convert(double number, std::integral auto &value)
+    {
+        value = toInteger<std::decay_t<decltype(value)>>(number);
+    }
 
-    const Slots<25> &m_texts;
+    const Texts &m_texts;
     const QString &m_decimalSeparator;
 };
 
 VariableTable readVariables(const QDomDocument &document, const QString &decimalSeparator)
 {
     VariableTable table(LastIndex + 1);
-    Slots<25> texts(VariableTags);
-    const RecordBuilder builder(texts, decimalSeparator);
-    const auto store = [&] {
-        if (!texts["IndexNumber"].isEmpty()) {
-            VariableRecord record = builder.record();
-            if (record.IndexNumber >= 0 && record.IndexNumber <= LastIndex)
-                table[static_cast<std::size_t>(record.IndexNumber)] = std::move(record);
-        }
-        texts.clear();
+    Texts texts;
+    const auto gathered = [&] {
+        VariableRecord record;
+        visitXvr(record, BlockReader(texts, decimalSeparator));
+        return record;
     };
-    walk(document.documentElement(), texts, store);
-    const bool sentinel = builder.record().IndexNumber == LastIndex;
-    if (sentinel && table[LastIndex].IndexNumber == 0)
-        store();
+    walk(document.documentElement(), texts, [&] {
+        const bool hasIndex = !texts["IndexNumber"].isEmpty();
+        VariableRecord record = gathered();
+        if (hasIndex && record.IndexNumber >= 0 && record.IndexNumber <= LastIndex)
+            table[static_cast<std::size_t>(record.IndexNumber)] = std::move(record);
+        texts.clear();
+    });
+    VariableRecord last = gathered();
+    if (last.IndexNumber == LastIndex && table[LastIndex].IndexNumber == 0)
+        table[LastIndex] = std::move(last);
     return table;
 }
 
@@ -170,7 +123,7 @@ VariableTable readVariables(const QDomDocument &document, const QString &decimal
 UnitTable readUnits(const QDomDocument &document)
 {
     UnitTable units(1);
-    Slots<4> texts(UnitTags);
+    Texts texts;
     const auto fillLast = [&] {
         units.back() = {texts["UnitName"], texts["Description"], texts["Conversion"], texts["Uniit"]};
         texts.clear();

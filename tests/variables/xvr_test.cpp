@@ -17,9 +17,10 @@ TEST(Xvr, aBlockIsWrittenLineByLineAndReadBack)
 {
     const auto record = [](auto... fields) { return VariableRecord{fields...}; };
     Catalogue catalogue;
-    catalogue.live[2] = record("", "OIL_T", "Oil", 2, true, false, true, 5, -40.0F, 1e7F, 4, -1.0F, 12.5F,
-                               3.0F, 6, "celsius", QStringList{"celsius", "kelvin"}, true, "var_0003\r\n+1",
-                               "µm", "Oil temperature", 0.5F, 0.00005F, 3, quint8{200});
+    catalogue.live[2] =
+        record("", "OIL_T", "Oil", 2, true, false, true, 5, -40.0F, 1e7F, 4, -1.0F, 12.5F, 3.0F, 6, "celsius",
+               QStringList{"celsius", "kelvin"}, true, "var_0003\r\n+1", QString::fromLatin1("\0 \xB5m ", 5),
+               "Oil temperature", 0.5F, 0.00005F, 3, quint8{200});
     const QByteArray head = "<VariableList>\r\n   <Data>\r\n     <IndexNumber>2</IndexNumber>\r\n";
     const QByteArray middle = "\r\n     <Enabled>-1</Enabled>\r\n     <AlwaysOn>0</AlwaysOn>\r\n";
     const QByteArray tail =
@@ -70,7 +71,8 @@ TEST(Xvr, whatDoesNotFitAFieldIsPassedOver)
                      "<DefaultMax>low</DefaultMax><Calculus>2.5 and more</Calculus>"
                      "<Description><![CDATA[hidden]]></Description></d>"
                      "<d><IndexNumber>8001</IndexNumber><Misc>1</Misc></d>"
-                     "<d><IndexNumber>8000</IndexNumber><Misc>1</Misc></d></a>",
+                     "<d><IndexNumber>8000</IndexNumber><Misc>1</Misc></d>"
+                     "<d><IndexNumber>8000</IndexNumber><Misc>2</Misc></d></a>",
                      catalogue));
     VariableRecord expected;
     expected.IndexNumber = 3;
