@@ -2,8 +2,10 @@
 
 #include "common/bytes.h"
 #include "common/code_page.h"
+#include "common/run_time_error.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace variables {
 
@@ -57,6 +59,12 @@ void visitVariable(Record &record, Field &&field)
     field(record.Misc);
 }
 
+void require(bool wellFormed)
+{
+    if (!wellFormed)
+        throw common::RunTimeError(QStringLiteral("The variable file ends early or is ill-formed"));
+}
+
 class FieldReader
 {
 public:
@@ -66,6 +74,12 @@ public:
     void operator()(T &value)
     {
         value = m_reader.get<T>();
+    }
+    void operator()(float &value)
+    {
+        value = m_reader.get<float>();
+        if (!std::isfinite(value))
+            value = 0;
     }
     void operator()(bool &value) { value = m_reader.get<qint16>() != 0; }
     void operator()(QString &text)
@@ -87,8 +101,6 @@ public:
         m_shared = list;
     }
 
-    bool wellFormed() const { return m_wellFormed && !m_reader.failed(); }
-
 private:
     void readList(QStringList &list)
     {
@@ -97,10 +109,7 @@ private:
             return;
         const auto count = m_reader.get<qint32>();
         m_reader.get<qint32>(); // lower bound, always 0
-        if (dimensions != OneDimension || count < 0 || count > m_reader.remaining() / SmallestText) {
-            m_wellFormed = false;
-            return;
-        }
+        require(dimensions == OneDimension && count >= 0 && count <= m_reader.remaining() / SmallestText);
         list.reserve(count);
         for (qint32 i = 0; i < count; ++i) {
             QString text;
@@ -110,7 +119,6 @@ private:
     }
 
     common::ByteReader &m_reader;
-    bool m_wellFormed = true;
     QByteArrayView m_lastList;
     QStringList m_shared;
 };
@@ -148,17 +156,18 @@ private:
     common::ByteWriter &m_writer;
 };
 
+// The tables are read in three steps that answer false when the file is corrupted and throw when it ends
+// early or is ill-formed.
 bool readUnits(common::ByteReader &reader, FieldReader &field, UnitTable &units)
 {
     const auto bound = reader.get<qint32>();
-    if (reader.failed() || bound < 0 || bound >= reader.remaining() / SmallestUnit)
+    if (bound < 0)
         return false;
+    require(bound < reader.remaining() / SmallestUnit);
     units.resize(static_cast<std::size_t>(bound) + 1);
-    for (UnitRecord &unit : units) {
+    for (UnitRecord &unit : units)
         visitUnit(unit, field);
-        if (!field.wellFormed())
-            return false;
-    }
+    require(!reader.failed());
     return true;
 }
 
@@ -169,12 +178,13 @@ struct Run
     qint32 slotCount = 1;
 };
 
-// A row that repeats the bytes of the one before is not read again. More rows than slots are refused.
+// A row that repeats the bytes of the one before is not read again.
 bool readVariables(common::ByteReader &reader, FieldReader &field, std::vector<Run> &runs)
 {
     const auto bound = reader.get<qint32>();
-    if (reader.failed() || bound < 0 || bound > LastIndex || bound >= reader.remaining() / SmallestVariable)
+    if (bound < 0 || bound > LastIndex)
         return false;
+    require(bound < reader.remaining() / SmallestVariable);
     QByteArrayView row;
     for (qint32 i = 0; i <= bound; ++i) {
         const QByteArrayView rest = reader.rest();
@@ -184,11 +194,17 @@ bool readVariables(common::ByteReader &reader, FieldReader &field, std::vector<R
             continue;
         }
         visitVariable(runs.emplace_back().record, field);
-        if (!field.wellFormed())
-            return false;
+        require(!reader.failed());
         row = rest.first(rest.size() - reader.remaining());
     }
     return true;
+}
+
+bool readTrailer(common::ByteReader &reader)
+{
+    const auto trailer = reader.get<qint32>();
+    require(!reader.failed());
+    return trailer == Trailer;
 }
 
 // A file of fewer rows leaves the other slots empty.
@@ -226,9 +242,7 @@ DefinitionStatus loadDefinitions(const QByteArray &bytes, Catalogue &catalogue)
     FieldReader field(reader);
     UnitTable units;
     std::vector<Run> runs;
-    const bool complete = readUnits(reader, field, units) && readVariables(reader, field, runs) &&
-                          reader.get<qint32>() == Trailer && !reader.failed();
-    if (!complete)
+    if (!readUnits(reader, field, units) || !readVariables(reader, field, runs) || !readTrailer(reader))
         return DefinitionStatus::Corrupted;
     catalogue.units = std::move(units);
     fillTable(std::move(runs), catalogue.live);

@@ -4,6 +4,7 @@
 #include "layoutfile/layout_file.h"
 #include "layoutfile/modCRC.h"
 #include "layoutfile/settings_from_records.h"
+#include "platform/guards.h"
 #include "variables/definition_file.h"
 
 #include <algorithm>
@@ -68,8 +69,11 @@ bool definitions(QByteArrayView bytes)
 {
     static variables::Catalogue catalogue;
     const auto units = catalogue.units.size();
-    const bool loaded =
-        variables::loadDefinitions(bytes.toByteArray(), catalogue) == variables::DefinitionStatus::Loaded;
+    bool loaded = false;
+    platform::skipFailures([&] {
+        loaded =
+            variables::loadDefinitions(bytes.toByteArray(), catalogue) == variables::DefinitionStatus::Loaded;
+    });
     if (!loaded)
         return catalogue.units.size() == units && catalogue.live.size() == variables::LastIndex + 1;
     const QByteArray saved = variables::saveDefinitions(catalogue);

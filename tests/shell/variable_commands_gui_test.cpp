@@ -31,6 +31,8 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
     prompts.expectQuestion(Replace, false);
     w.run("mnuLoadVarInfo");
     load({});
+    load(path, "The command could not be completed.\nThe variable file ends early or is ill-formed");
+    platform::replaceFile(path, QByteArray(10'000'000, '\xFF'));
     load(path, variables::CorruptedDefinitions);
     EXPECT_FALSE(QFile::exists(folders.variablesFile()));
 
