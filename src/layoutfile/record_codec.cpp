@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace layoutfile {
@@ -69,7 +70,7 @@ public:
         for (std::vector<float> *list : {&a, &b}) {
             list->resize(count);
             for (float &value : *list)
-                value = m_in.get<float>();
+                get(value);
         }
     }
     // No length stands before them: it follows from the picture's size.
@@ -84,6 +85,13 @@ private:
     void get(T &value)
     {
         value = m_in.get<T>();
+    }
+    // Nobody can have entered a number that is not finite, and no field could show it.
+    void get(float &value)
+    {
+        value = m_in.get<float>();
+        if (!std::isfinite(value))
+            value = 0;
     }
     void get(common::Yuv &c) { (*this)(c.y, c.u, c.v); }
     template <int N>

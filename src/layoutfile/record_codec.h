@@ -31,7 +31,8 @@ QByteArray encodePayload(const RecordBody &body);
 qint32 statedSize(const RecordBody &body, qsizetype payloadSize);
 
 // Reads the payload of a record of this type from `reader`, whose frame stated `size` bytes. Types with a
-// fixed field list pay no attention to `size`. Nothing when the bytes end too early or the type is unknown.
+// fixed field list pay no attention to `size`. Numbers that are not finite read as 0. Nothing when the bytes
+// end too early or the type is unknown.
 std::optional<RecordBody> decodePayload(qint16 type, qint32 size, common::ByteReader &reader);
 
 } // namespace layoutfile

@@ -12,7 +12,17 @@ using recorder::VideoStandard;
 
 constexpr std::size_t MostGears = 7;
 
-// One overload for each record that carries a setting; values that the recorder could not hold are left out.
+// A value that its list does not hold stands for the first entry.
+quint8 listed(quint8 value, quint8 last) { return value <= last ? value : quint8{0}; }
+
+template <typename Record>
+recorder::RecordingTrigger trigger(const Record &r)
+{
+    return {r.variable, listed(r.condition, recorder::LastCondition), r.value, r.time};
+}
+
+// One overload for each record that carries a setting. What no dialog could show does not get in: values
+// outside their list, records of a message or an icon that does not exist, a gear table without gears.
 class SettingsTaker
 {
 public:
@@ -29,21 +39,17 @@ public:
     }
     void operator()(const ChapterRecord &r)
     {
-        m_settings.ChapterList.push_back({r.type, r.value1, r.sign1, r.variable, r.sign2, r.value2});
+        m_settings.ChapterList.push_back({listed(r.type, recorder::LastChapterType), r.value1,
+                                          listed(r.sign1, recorder::LastSign), r.variable,
+                                          listed(r.sign2, recorder::LastSign), r.value2});
     }
     void operator()(const LapChaptersRecord &r)
     {
         m_settings.LapChapterActive = 1;
-        m_settings.LapChapterType = r.type;
+        m_settings.LapChapterType = listed(r.type, recorder::LastChapterType);
     }
-    void operator()(const AutoStartRecord &r)
-    {
-        m_settings.autoStart = {r.variable, r.condition, r.value, r.time};
-    }
-    void operator()(const AutoStopRecord &r)
-    {
-        m_settings.autoStop = {r.variable, r.condition, r.value, r.time};
-    }
+    void operator()(const AutoStartRecord &r) { m_settings.autoStart = trigger(r); }
+    void operator()(const AutoStopRecord &r) { m_settings.autoStop = trigger(r); }
     void operator()(const VideoStandardRecord &r)
     {
         m_standard = r.standard == 0 ? VideoStandard::Ntsc : VideoStandard::Pal;
@@ -52,25 +58,25 @@ public:
     {
         if (r.ratePlusOne > 0)
             m_settings.CurrentBitRate = static_cast<quint8>(r.ratePlusOne - 1);
-        if (r.encodePattern <= static_cast<quint8>(EncodePattern::IPB))
-            m_settings.encodePattern = static_cast<EncodePattern>(r.encodePattern);
+        m_settings.encodePattern =
+            static_cast<EncodePattern>(std::min(r.encodePattern, static_cast<quint8>(EncodePattern::IPB)));
     }
     void operator()(const MessageStorageRateRecord &r)
     {
         if (recorder::MessageEntry *entry = message()) {
             entry->number = r.number;
-            entry->storageRate = r.rate;
+            entry->storageRate = recorder::listedRate(r.rate, entry->kind);
         }
     }
     void operator()(const MessageOutputRateRecord &r)
     {
         if (recorder::MessageEntry *entry = message())
-            entry->outputRate = r.rate;
+            entry->outputRate = recorder::listedRate(r.rate, entry->kind);
     }
     void operator()(const GearsRecord &r)
     {
         m_settings.PulsesPerRevolution = r.pulsesPerRevolution;
-        m_settings.GearMethod = r.method;
+        m_settings.GearMethod = listed(r.method, recorder::LastGearMethod);
         m_settings.GearVariable = r.variable;
         const std::size_t count = std::min(r.lower.size(), MostGears);
         if (count == 0)

@@ -21,6 +21,15 @@ QString nameOf(QByteArrayView field)
 
 } // namespace
 
+quint8 listedRate(quint8 rate, quint8 kind)
+{
+    constexpr auto Disabled = static_cast<quint8>(RateCode::Disabled);
+    constexpr auto On = static_cast<quint8>(RateCode::Hz100);
+    if (rate <= Disabled)
+        return rate;
+    return kind == 0 ? Disabled : On;
+}
+
 void readMessageTable(const QByteArray &bytes, MessageTable &table)
 {
     common::ByteReader reader(bytes);
@@ -32,6 +41,8 @@ void readMessageTable(const QByteArray &bytes, MessageTable &table)
         entry.storageRate = reader.get<quint8>();
         entry.outputRate = reader.get<quint8>();
         entry.kind = reader.get<quint8>();
+        entry.storageRate = listedRate(entry.storageRate, entry.kind);
+        entry.outputRate = listedRate(entry.outputRate, entry.kind);
     }
 }
 

@@ -14,17 +14,20 @@ struct MessageEntry
 {
     quint8 number = 0;
     QString name;           // at most 50 characters
-    quint8 storageRate = 0; // RateCode, kept as it stands in the file
+    quint8 storageRate = 0; // RateCode; for events kept as it stands in the file
     quint8 outputRate = 0;  // RateCode
     quint8 kind = 0;        // 0 stream, 1 event, 2 event that the serial output always needs
 
     bool operator==(const MessageEntry &) const = default;
 };
 
+// A rate code as its list holds it: one past Disabled is Disabled for a stream, and "On" for an event.
+quint8 listedRate(quint8 rate, quint8 kind);
+
 using MessageTable = std::array<MessageEntry, 256>;
 
 // Reads rows of 54 bytes until the bytes end or the table is full; rows that the file lacks stay as they
-// were.
+// were. Rates are those of the lists.
 void readMessageTable(const QByteArray &bytes, MessageTable &table);
 
 // All 256 rows.

@@ -16,6 +16,12 @@ constexpr int canvasHeight(VideoStandard standard) { return standard == VideoSta
 
 enum class EncodePattern : quint8 { I = 0, IP = 1, IPB = 2 };
 
+// The last entries of the lists that settings are chosen from; the first one is 0.
+inline constexpr quint8 LastChapterType = 9;
+inline constexpr quint8 LastSign = 1;
+inline constexpr quint8 LastCondition = 2;
+inline constexpr quint8 LastGearMethod = 1;
+
 // A chapter is marked while value1 sign1 variable sign2 value2 holds; a sign is 0 for "<", 1 for "<=".
 struct ChapterCondition
 {

@@ -89,7 +89,7 @@ TEST(DamagedFile, theThumbnailWalkEndsWhereSizesCannotBeTrusted)
     EXPECT_TRUE(extractThumbnail(thumbnail(header()) + "four").isEmpty()); // no good CRC
 }
 
-TEST(DamagedFile, settingsThatAreMissingOrThatNoRecorderHoldsStayButForTheChapters)
+TEST(DamagedFile, settingsThatAreMissingOrOfNothingThatExistsStayButForTheChapters)
 {
     recorder::RecorderSettings before;
     before.LapChapterActive = 1;
@@ -106,7 +106,7 @@ TEST(DamagedFile, settingsThatAreMissingOrThatNoRecorderHoldsStayButForTheChapte
         for (const int type : {14, 22})
             file = withRecord(file, type, 2, object, bytes("0909"));
     }
-    file = withRecord(file, 13, 2, 1, bytes("00 03"));                    // a rate below 0, no such pattern
+    file = withRecord(file, 13, 2, 1, bytes("00 01"));                    // a rate below 0
     file = withRecord(file, 15, 10, 1, bytes("00000000 00 00 00000000")); // no gear at all
     const auto records = parseLayout(icon(file, 42));                     // no such icon
     EXPECT_EQ(records.size(), 11U);
@@ -116,6 +116,42 @@ TEST(DamagedFile, settingsThatAreMissingOrThatNoRecorderHoldsStayButForTheChapte
     const QByteArray eight = bytes("0000803F 08") + QByteArray(64, '\x3F') + bytes("00 00000000");
     settingsFromRecords(parseLayout(withRecord(header(), 15, 74, 1, eight)), settings);
     EXPECT_EQ(settings.GearTable.size(), 7U);
+}
+
+TEST(DamagedFile, settingsThatNoDialogCouldShowBecomeOnesThatItCan)
+{
+    QByteArray file = header();
+    // Quiet NaN 0000C07F, infinities 0000807F and 000080FF.
+    file = withRecord(file, 8, 15, 1, bytes("0A 0000C07F 02 02000000 FF 0000807F"));
+    file = withRecord(file, 8, 15, 2, bytes("09 0000803F 01 02000000 01 00000040")); // the last entries
+    file = withRecord(file, 9, 1, 1, bytes("0A"));
+    file = withRecord(file, 10, 10, 1, bytes("02000000 000080FF 03 FF"));
+    file = withRecord(file, 11, 10, 1, bytes("02000000 0000803F 02 FF"));
+    file = withRecord(file, 13, 2, 1, bytes("07 03"));
+    for (const int object : {1, 2, 3}) {
+        file = withRecord(file, 14, 2, object, bytes("05 0A"));
+        file = withRecord(file, 22, 2, object, bytes("05 FF"));
+    }
+    file = withRecord(file, 15, 18, 1, bytes("0000C07F 01 0000C07F 0000807F 02 00000000"));
+
+    recorder::RecorderSettings settings, expected;
+    settings.encodePattern = recorder::EncodePattern::I;
+    for (const std::size_t kind : {0U, 1U, 2U})
+        settings.MessageTable[kind].kind = static_cast<quint8>(kind);
+    expected.MessageTable = settings.MessageTable;
+    for (const std::size_t kind : {0U, 1U, 2U}) {
+        recorder::MessageEntry &entry = expected.MessageTable[kind];
+        entry.number = 5;
+        entry.storageRate = entry.outputRate = kind == 0 ? 9 : 0;
+    }
+    expected.ChapterList = {{0, 0, 0, 2, 0, 0}, {9, 1, 1, 2, 1, 2}};
+    expected.LapChapterActive = 1;
+    expected.autoStart = {2, 0, 0, 255};
+    expected.autoStop = {2, 2, 1, 255};
+    expected.CurrentBitRate = 6;
+    expected.GearTable = {{0, 0}};
+    settingsFromRecords(parseLayout(file), settings);
+    EXPECT_EQ(settings, expected);
 }
 
 } // namespace

@@ -28,18 +28,29 @@ TEST(MessageTable, rowsKeepTheirBytesAndLoseTheirPadding)
 {
     const QByteArray fifty(50, 'n');
     const QByteArray file = row('\xFF', "\xC9tat \x80", "\x05\x05\x01") +
-                            row(0, "Nul", "\x00\x00\x00", '\0') + row(2, fifty, "\xFF\xFE\xFD") +
-                            QByteArray(300 * 54, 'z'); // more than the table has
+                            row(0, "Nul", "\x00\x00\x00", '\0') + row(2, fifty, "\x09\x08\xFD") +
+                            row('z', QByteArray(50, 'z'), "\x01\x02\x02").repeated(300); // more than it has
     MessageTable table;
     readMessageTable(file, table);
     EXPECT_EQ(table[0], (MessageEntry{255, "État €", 5, 5, 1})); // an event with a rate code stays one
     EXPECT_EQ(table[1].name, "Nul");
-    EXPECT_EQ(table[2], (MessageEntry{2, QString(fifty), 255, 254, 253}));
+    EXPECT_EQ(table[2], (MessageEntry{2, QString(fifty), 9, 8, 253}));
     table[3].name = QString(60, 'w');
     const QByteArray written = writeMessageTable(table);
     ASSERT_EQ(written.size(), 13824); // 256 rows of 54
     EXPECT_EQ(written.left(216), file.left(54) + row(0, "Nul", "\x00\x00\x00") + file.mid(108, 54) +
-                                     row('z', QByteArray(50, 'w'), "zzz"));
+                                     row('z', QByteArray(50, 'w'), "\x01\x02\x02"));
+}
+
+TEST(MessageTable, ratesThatNoListHoldsAreOffForStreamsAndOnForEvents)
+{
+    MessageTable table;
+    readMessageTable(row(1, "Stream", "\x0A\xFF\x00") + row(2, "Event", "\x0A\xFF\x01") +
+                         row(3, "Needed", "\xFF\x0A\x02"),
+                     table);
+    EXPECT_EQ(table[0], (MessageEntry{1, "Stream", 9, 9, 0}));
+    EXPECT_EQ(table[1], (MessageEntry{2, "Event", 0, 0, 1}));
+    EXPECT_EQ(table[2], (MessageEntry{3, "Needed", 0, 0, 2}));
 }
 
 TEST(NewLayout, putsEverythingBackButTheVideoStandard)
