@@ -4,7 +4,6 @@
 #include "variables/units.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace layoutfile {
 
@@ -32,11 +31,11 @@ QByteArray programOf(const VariableEntry &entry, const QByteArray &programs)
     return programs.sliced(offset, length);
 }
 
-// A number that no user can have typed is not taken over.
-void takeIfFinite(float value, float &field)
+// Whether the text is one that a user can have typed. A program without a result leaves it empty, and a
+// constant in it that is not finite has a word for its number.
+bool isEquation(const QString &text)
 {
-    if (std::isfinite(value))
-        field = value;
+    return !text.isEmpty() && !text.contains(QLatin1String("NAN")) && !text.contains(QLatin1String("INF"));
 }
 
 class Folding
@@ -50,10 +49,12 @@ public:
     void fold(const VariableEntry &entry, const QByteArray &program)
     {
         VariableRecord &variable = m_catalogue.live[static_cast<std::size_t>(entry.variable)];
-        takeIfFinite(entry.smoothingTime, variable.SmoothingTime);
-        takeIfFinite(entry.maximumRoc, variable.MaximumROC);
+        variable.SmoothingTime = entry.smoothingTime;
+        variable.MaximumROC = entry.maximumRoc;
         if (!program.isEmpty())
             foldProgram(variable, entry.variable, program);
+        else if (entry.used == 1 && entry.programOffset < 0)
+            takeRawUnit(variable);
         variable.UseCustomTrans = variable.UseCustomTrans || isUserDefined(variable);
     }
 
@@ -66,7 +67,8 @@ private:
     void foldProgram(VariableRecord &variable, int index, const QByteArray &program)
     {
         QString equation;
-        if (!variables::expression::rebuildEquation(program, index, m_locale, equation))
+        if (!variables::expression::rebuildEquation(program, index, m_locale, equation) ||
+            !isEquation(equation))
             return;
         if (!isUserDefined(variable) && takeMatchingUnit(variable, index, program))
             return;
@@ -76,16 +78,36 @@ private:
 
     bool takeMatchingUnit(VariableRecord &variable, int index, const QByteArray &program) const
     {
+        const bool taken = takeFirstUnit(variable, [&](const QString &conversion) {
+            return variables::conversionProgram(conversion, index, m_locale) == program;
+        });
+        if (taken)
+            variable.UseCustomTrans = false;
+        return taken;
+    }
+
+    // The raw value was shown: in the unit in force, when that is the raw one, else in the first that is.
+    void takeRawUnit(VariableRecord &variable) const
+    {
+        const auto isRaw = [](const QString &conversion) {
+            return variables::readConversion(conversion).isIdentity;
+        };
+        const bool hasOwnEquation = isUserDefined(variable) || variable.UseCustomTrans;
+        if (!hasOwnEquation && !isRaw(variables::conversionInForce(variable, m_catalogue.units)))
+            takeFirstUnit(variable, isRaw);
+    }
+
+    // The first allowed unit with such a conversion comes into force; false when there is none.
+    template <typename Accepts>
+    bool takeFirstUnit(VariableRecord &variable, Accepts &&accepts) const
+    {
         const auto &allowed = variable.AllowTransformations;
         const auto match = std::find_if(allowed.begin(), allowed.end(), [&](const QString &unit) {
-            const std::size_t row = variables::findUnit(m_catalogue.units, unit);
-            const QString &conversion = m_catalogue.units[row].Conversion;
-            return variables::conversionProgram(conversion, index, m_locale) == program;
+            return accepts(m_catalogue.units[variables::findUnit(m_catalogue.units, unit)].Conversion);
         });
         if (match == allowed.end())
             return false;
         variable.ApplyTransformation = *match;
-        variable.UseCustomTrans = false;
         return true;
     }
 

@@ -74,7 +74,7 @@ TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
     slot(catalogue, 6002).CustomTransformation = "temp";
     slot(catalogue, 6003).CustomTransformation = "1" + QString("+1").repeated(31); // 256 bytes
     slot(catalogue, 6004).CustomTransformation = "var_0002";
-    const VariableEntry expected[] = {
+    const std::vector<VariableEntry> expected{
         {2, 1, 0.5F, 20, 0, 14}, {3, 1, 0, 0, -1, 1},      {4, 1, 0, 0, -1, 1},    {5, 1, 0, 0, -1, 1},
         {10, 0, 0, 0, -1, 0},    {6001, 1, 0, 0, 14, 252}, {6002, 1, 0, 0, -1, 1}, {6003, 1, 0, 0, -1, 1},
         {6004, 1, 0, 0, 266, 6}, {6005, 0, 0, 0, -1, 0}};
@@ -112,19 +112,54 @@ TEST(Folding, programsBecomeUnitsOrEquations)
     EXPECT_TRUE(catalogue.staging == catalogue.live);
 }
 
+TEST(Folding, aUsedVariableWithoutAProgramShowsItsRawValueAgain)
+{
+    const struct
+    {
+        const char *before, *allowed;
+        bool used, own;
+        int index;
+        const char *after;
+    } cases[] = {
+        {"double", "double broken km/h raw", true, false, 2, "km/h"},
+        {"raw", "double broken km/h raw", true, false, 2, "raw"}, // one raw unit is as good as the other
+        {"gone", "km/h", true, false, 2, "km/h"},
+        {"double", "double broken", true, false, 2, "double"}, // has no raw unit
+        {"double", "double km/h", false, false, 2, "double"},
+        {"double", "double km/h", true, true, 2, "double"},
+        {"double", "double km/h", true, true, 6001, "double"},
+        {"double", "double km/h", true, false, 6001, "double"},
+    };
+    for (const auto &c : cases) {
+        variables::Catalogue catalogue = someCatalogue();
+        catalogue.units.push_back({"raw", "", "a$1$0", ""});
+        VariableRecord &variable = slot(catalogue, c.index);
+        variable.ApplyTransformation = c.before;
+        variable.AllowTransformations = QString(c.allowed).split(' ');
+        variable.UseCustomTrans = c.own;
+        const quint8 used = c.used ? 1 : 0;
+        foldVariables({{1, VariableEntry{c.index, used, 0, 0, -1, used}}, {1, ProgramsRecord{}}}, catalogue,
+                      Plain);
+        EXPECT_EQ(variable.ApplyTransformation, c.after) << c.allowed << c.index;
+        EXPECT_EQ(variable.UseCustomTrans, c.own || c.index > 6000);
+    }
+}
+
 TEST(Folding, whatPointsNowhereChangesNoDefinition)
 {
     constexpr qint32 Largest = 0x7FFFFFFF;
-    const QByteArray programs = Doubled + bytes("010F 0119");
-    // No program, the least and the largest offset, at the end, past it, cut off, without a length, an
-    // unknown code, a variable that is not used, slots that are none.
-    const VariableEntry cases[] = {{2, 1, 1, 1, -1, 1},        {2, 1, 1, 1, -Largest - 1, 14},
-                                   {2, 1, 1, 1, Largest, 255}, {2, 1, 1, 1, 18, 1},
-                                   {2, 1, 1, 1, 14, 5},        {2, 1, 1, 1, 0, 13},
-                                   {2, 1, 1, 1, 0, 0},         {2, 1, 1, 1, 14, 4},
-                                   {2, 0, 1, 1, 0, 14},        {0, 1, 1, 1, 0, 14},
-                                   {-2, 1, 1, 1, 0, 14},       {8001, 1, 1, 1, 0, 14}};
+    // 2*x, an unknown code, no result, NaN + x, the negative infinity.
+    const QByteArray programs =
+        Doubled + bytes("010F 0119 0119 01140000C07F 02120100 0106 0119") + bytes("0114000080FF 0119");
+    // The largest offset, at the end, past it, cut off, without a length, what makes no equation, a variable
+    // that is not used, slots that are none.
+    const std::vector<VariableEntry> cases{
+        {2, 1, 1, 1, Largest, 255}, {2, 1, 1, 1, 42, 1}, {2, 1, 1, 1, 34, 9}, {2, 1, 1, 1, 0, 13},
+        {2, 1, 1, 1, 0, 0},         {2, 1, 1, 1, 14, 4}, {2, 1, 1, 1, 18, 2}, {2, 1, 1, 1, 20, 14},
+        {2, 1, 1, 1, 34, 8},        {2, 0, 1, 1, 0, 14}, {0, 1, 1, 1, 0, 14}, {-2, 1, 1, 1, 0, 14},
+        {8001, 1, 1, 1, 0, 14}};
     variables::Catalogue start = someCatalogue();
+    slot(start, 2).ApplyTransformation = "broken";
     variables::SetupVariables(start);
     for (const VariableEntry &entry : cases) {
         variables::Catalogue catalogue = start, expected = start;
