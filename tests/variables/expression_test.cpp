@@ -26,6 +26,7 @@ TEST(StringBuilding, makesTextReadyForTheParser)
         {"2*Max(x,u)", " 2*max(var_0042,var_0042) "},
         {"EXP(3x)+Sum(u,2u) xor X", " exp(3var_0042)+sum(var_0042,2var_0042) xor var_0042 "},
         {"car_10+CAR_9", " 00+0 "},
+        {"car_1+car_2+car_3+car_4+car_5+car_6+car_7+car_8", " 0+0+0+0+0+0+0+0 "},
         {"CdA*Roll+Mass", " 0*0+0 "},
         {"Temp+Press+Humid", " temp+press+humid "},
     };
