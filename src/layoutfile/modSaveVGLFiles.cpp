@@ -17,6 +17,10 @@ using controls::OverlayControl;
 using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
 
+const QString SharedCamera =
+    QStringLiteral("Invalid configuration\n"
+                   "Current configuration used same camera no for several video objects ");
+
 bool checksCameras(SaveKind kind) { return kind == SaveKind::Command || kind == SaveKind::Workspace; }
 
 bool isTrackMap(const OverlayControl *control) { return control->family().type == ControlType::TrackMap; }
@@ -40,17 +44,27 @@ int objectsOf(const OverlayControl *control)
     return control->family().type == ControlType::BarGraph ? 2 : 1;
 }
 
-void gatherControls(Gathering &save, const ControlList &controls, ProgressScope &progress)
+void gatherControl(Gathering &save, OverlayControl &control)
+{
+    for (const FamilyRecord &record : familyRecords()) {
+        if (record.family == control.family().type)
+            record.gather(control, save);
+    }
+}
+
+// A control that cannot be stored ends the user's Save, which says so. A silent save goes on without it: the
+// rest of the design must not be lost with it.
+void gatherControls(Gathering &save, SaveKind kind, const ControlList &controls, ProgressScope &progress)
 {
     int total = 0;
     for (const OverlayControl *control : controls)
         total += objectsOf(control);
     int done = 0;
     for (OverlayControl *control : controls) {
-        for (const FamilyRecord &record : familyRecords()) {
-            if (record.family == control->family().type)
-                record.gather(*control, save);
-        }
+        if (kind == SaveKind::Command)
+            gatherControl(save, *control);
+        else
+            platform::skipFailures([&] { gatherControl(save, *control); });
         done += objectsOf(control);
         progress.advance(0, 25, done, total);
     }
@@ -151,9 +165,7 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
     });
 }
 
-// Nothing when two cameras clash.
-std::optional<QByteArray> gatheredLayout(SaveKind kind, const SaveContext &context,
-                                         const ControlList &controls)
+LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
     Gathering save{{}, {}, context.screen, context.fonts};
     if (kind != SaveKind::Recovery)
@@ -161,39 +173,27 @@ std::optional<QByteArray> gatheredLayout(SaveKind kind, const SaveContext &conte
     ProgressScope progress(context.progress, kind == SaveKind::Command
                                                  ? QStringLiteral("Saving configuration.....")
                                                  : QStringLiteral("Saving workspace....."));
-    gatherControls(save, controls, progress);
+    gatherControls(save, kind, controls, progress);
     if (checksCameras(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
-        return std::nullopt;
+        return {{}, SharedCamera};
     markSettings(save.used, context.settings);
     gatherVariables(save, context, progress);
     gatherSettings(save.groups, context.settings, progress);
-    QByteArray layout = assembleLayout(save.groups, context.stamp);
+    const QByteArray file = assembleLayout(save.groups, context.stamp);
     progress.setValue(100);
-    return layout;
+    return {file, {}};
 }
 
 } // namespace
 
-std::optional<QByteArray> layoutBytes(SaveKind kind, const SaveContext &context)
+LayoutBytes layoutBytes(SaveKind kind, const SaveContext &context)
 {
-    using platform::Icon;
     const ControlList controls = context.surface.controls();
     if (kind == SaveKind::Command) {
-        if (const QString text = saveComplaint(countsOf(controls)); !text.isEmpty()) {
-            context.prompts.message(Icon::Critical, platform::ProductTitle, text);
-            return std::nullopt;
-        }
+        if (const QString complaint = saveComplaint(countsOf(controls)); !complaint.isEmpty())
+            return {{}, complaint};
     }
-    if (controls.isEmpty())
-        return std::nullopt;
-    auto layout = gatheredLayout(kind, context, controls);
-    if (!layout) {
-        context.prompts.message(
-            Icon::Critical, platform::ProductTitle,
-            QStringLiteral("Invalid configuration\n"
-                           "Current configuration used same camera no for several video objects "));
-    }
-    return layout;
+    return controls.isEmpty() ? LayoutBytes() : assembled(kind, context, controls);
 }
 
 } // namespace layoutfile

@@ -30,14 +30,22 @@ struct SaveContext
 };
 
 enum class SaveKind {
-    Command,   // the user's Save: every check speaks
+    Command,   // the user's Save: every check speaks, a control that cannot be stored ends it
     Workspace, // at the closing of the window: silent, only the camera check speaks and refuses
     Backup,    // nothing speaks, cameras are not checked
     Recovery   // as a backup, and quick: no thumbnail
 };
 
-// The design as a layout file. Nothing when the design is empty or a check refuses it; the check has spoken
-// then. Throws RunTimeError for what cannot be stored.
-std::optional<QByteArray> layoutBytes(SaveKind kind, const SaveContext &context);
+// Either the whole file, or why there is none: a text for the user. Both are empty for an empty design that
+// nobody asked to save.
+struct LayoutBytes
+{
+    QByteArray file;
+    QString refusal;
+};
+
+// Puts the layout file of the design together in memory and writes nothing. Throws RunTimeError when a Save
+// command meets a control that cannot be stored.
+LayoutBytes layoutBytes(SaveKind kind, const SaveContext &context);
 
 } // namespace layoutfile

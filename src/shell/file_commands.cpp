@@ -1,6 +1,5 @@
 #include "shell/file_commands.h"
 
-#include "common/run_time_error.h"
 #include "controls/complexity.h"
 #include "controls/overlay_control.h"
 #include "layoutfile/modLoadVGLFiles.h"
@@ -61,11 +60,16 @@ void FileCommands::backUpDesign()
         keepAsBackup(*layout, m_state.folders);
 }
 
+// Nothing when the save was refused, which is shown.
 std::optional<QByteArray> FileCommands::layoutBytes(SaveKind kind, platform::Prompts &prompts,
                                                     platform::Progress &progress)
 {
-    return layoutfile::layoutBytes(kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts,
-                                          prompts, progress, m_state.stamp, m_state.screen, m_state.locale});
+    const auto [file, refusal] = layoutfile::layoutBytes(
+        kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts, prompts, progress, m_state.stamp,
+               m_state.screen, m_state.locale});
+    if (!refusal.isEmpty())
+        prompts.message(Icon::Critical, ProductTitle, refusal);
+    return file.isEmpty() ? std::nullopt : std::optional(file);
 }
 
 void FileCommands::mnuLoadConfig()

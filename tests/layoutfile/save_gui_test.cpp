@@ -28,15 +28,29 @@ TEST(Save, refusesAnEmptyDesignAndGoesOnWithoutAThumbnail)
     for (const auto &[kind, tells] :
          {std::pair{SaveKind::Command, true}, std::pair{SaveKind::Workspace, true},
           std::pair{SaveKind::Backup, false}, std::pair{SaveKind::Recovery, false}}) {
-        if (kind == SaveKind::Command)
-            d.world.prompts.expectMessage("System can't detect any object(s) to save");
-        EXPECT_FALSE(test::save(d, surface, kind).has_value());
+        const auto [none, refusal] = test::save(d, surface, kind);
+        EXPECT_TRUE(none.isEmpty());
+        EXPECT_EQ(refusal, kind == SaveKind::Command ? "System can't detect any object(s) to save" : "");
 
         controls::OverlayControl &bar = d.addBar(0, 0);
         if (tells)
             d.world.prompts.expectMessage({}); // the encoder's words
-        EXPECT_TRUE(test::save(d, surface, kind).has_value());
+        EXPECT_FALSE(test::save(d, surface, kind).file.isEmpty());
         bar.mnuDelete_Click();
+    }
+}
+
+TEST(Save, onlyTheUsersSaveEndsAtAControlThatCannotBeStored)
+{
+    DesignWindow d;
+    d.addBar(0, 0).setBox({1e20F, 0, 1950, 450});
+    d.addGauge(100, 100);
+    EXPECT_THROW(test::save(d, d.design()), common::RunTimeError);
+    for (const SaveKind kind : {SaveKind::Workspace, SaveKind::Backup, SaveKind::Recovery}) {
+        int controls = 0;
+        for (const auto &record : layoutfile::parseLayout(test::save(d, d.design(), kind).file))
+            controls += record.type() == layoutfile::RecordType::Gauge ? 1 : 0;
+        EXPECT_EQ(controls, 1);
     }
 }
 

@@ -13,9 +13,8 @@ inline QString pathIn(DesignWindow &d, const char *name)
     return d.world.root.filePath(QLatin1String(name));
 }
 
-// Nothing for a refused save.
-inline std::optional<QByteArray> save(DesignWindow &d, controls::ControlSurface &surface,
-                                      layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
+inline layoutfile::LayoutBytes save(DesignWindow &d, controls::ControlSurface &surface,
+                                    layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
 {
     shell::ProgramState &state = d.world.state;
     platform::NoProgress progress;
@@ -23,7 +22,7 @@ inline std::optional<QByteArray> save(DesignWindow &d, controls::ControlSurface 
                                           d.world.prompts, progress, state.stamp, state.screen});
 }
 
-inline QByteArray savedDesign(DesignWindow &d) { return save(d, d.design()).value(); }
+inline QByteArray savedDesign(DesignWindow &d) { return save(d, d.design()).file; }
 
 inline void loadDesign(DesignWindow &d, const QByteArray &file)
 {
