@@ -61,6 +61,8 @@ void compose(QRgb *surface, const QRgb *source, const quint8 *alpha, quint8 leve
 {
     for (qsizetype x = 0; x < width; ++x) {
         const quint32 weight = alpha[x] < AlphaCutOff ? 0u : quint32{alpha[x]} * level;
+        if (weight == 0)
+            continue;
         QRgb pixel = 0xFF000000u;
         for (int shift = 0; shift < 24; shift += 8)
             pixel |= mixed(surface[x] >> shift & 0xFF, source[x] >> shift & 0xFF, weight) << shift;

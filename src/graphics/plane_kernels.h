@@ -18,7 +18,8 @@ struct PlaneKernels
     void (*chroma)(const QRgb *pixels, quint8 *u, quint8 *v, qsizetype width);
     // Pixels from an even number of Y samples and half as many of U and V.
     void (*picture)(const quint8 *y, const quint8 *u, const quint8 *v, QRgb *pixels, qsizetype width);
-    // Mixes the source into the surface by its alpha and the level, both 0 to 255.
+    // Mixes the source into the surface by its alpha and the level, both 0 to 255. Where nothing is mixed in,
+    // the surface's pixel stays as it is, its spare byte too.
     void (*compose)(QRgb *surface, const QRgb *source, const quint8 *alpha, quint8 level, qsizetype width);
 };
 

@@ -230,13 +230,17 @@ MORVEL_AVX2 inline Vector composed(Vector surface, Vector source, Vector weights
     const Vector zero = _mm256_setzero_si256();
     const Vector above = _mm256_subs_epu8(source, surface);
     const Vector difference = _mm256_or_si256(above, _mm256_subs_epu8(surface, source));
-    const Vector share = _mm256_packus_epi16(
-        shareOf(_mm256_unpacklo_epi8(difference, zero), _mm256_shuffle_epi8(weights, firstTwo)),
-        shareOf(_mm256_unpackhi_epi8(difference, zero), _mm256_shuffle_epi8(weights, lastTwo)));
+    const Vector first = _mm256_shuffle_epi8(weights, firstTwo);
+    const Vector last = _mm256_shuffle_epi8(weights, lastTwo);
+    const Vector share = _mm256_packus_epi16(shareOf(_mm256_unpacklo_epi8(difference, zero), first),
+                                             shareOf(_mm256_unpackhi_epi8(difference, zero), last));
     // Taken off where the source is darker: -x is ~x + 1.
     const Vector negative = _mm256_cmpeq_epi8(above, zero);
     const Vector change = _mm256_sub_epi8(_mm256_xor_si256(share, negative), negative);
-    return _mm256_or_si256(_mm256_add_epi8(surface, change), _mm256_set1_epi32(-0x1000000));
+    const Vector leftAlone =
+        _mm256_packs_epi16(_mm256_cmpeq_epi16(first, zero), _mm256_cmpeq_epi16(last, zero));
+    const Vector opaque = _mm256_andnot_si256(leftAlone, _mm256_set1_epi32(-0x1000000));
+    return _mm256_or_si256(_mm256_add_epi8(surface, change), opaque);
 }
 
 MORVEL_AVX2 inline Vector weightsOf16(const quint8 *alpha, quint8 level)

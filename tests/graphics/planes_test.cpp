@@ -95,9 +95,10 @@ TEST_P(EachKernelSet, mixesEveryDifferenceByEveryWeight)
                 return reference::mixed(below, above, alpha, level);
             };
             const int other = (i * 89 + weight) & 0xFF;
-            background[at] = qRgb(0, 255, other);
+            background[at] = qRgba(0, 255, other, i);
             source[at] = qRgba(i, 255 - i, i, other);
-            wanted[at] = qRgb(mixed(0, i), mixed(255, 255 - i), mixed(other, i));
+            wanted[at] = alpha < 38 || level == 0 ? background[at]
+                                                  : qRgb(mixed(0, i), mixed(255, 255 - i), mixed(other, i));
         }
         GetParam()->compose(background.data(), source.data(), Bytes(256, static_cast<quint8>(alpha)).data(),
                             static_cast<quint8>(level), 256);
@@ -126,13 +127,6 @@ TEST_P(EachKernelSet, writesNothingBehindTheLine)
 }
 
 int at(const QByteArray &plane, int index) { return static_cast<quint8>(plane[index]); }
-
-QImage filled(QSize size, QRgb colour)
-{
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(colour);
-    return picture;
-}
 
 // A different colour at every place.
 QImage colourful(QSize size)
@@ -207,18 +201,25 @@ TEST(Planes, areNotShownWhereTheirLengthsDoNotFit)
     EXPECT_FALSE(graphics::toPlanes(colourful({8, 4}), {0, 4}).isComplete());
 }
 
-TEST(Composer, drawsWhereSurfaceSourceAndAlphaMeet)
+TEST(Composer, drawsWhereSurfaceSourceAndAlphaMeetAndLeavesTheRestAsItIs)
 {
+    constexpr QRgb Ground = 0x40102030;
     for (const QPoint at : {QPoint(2, 1), QPoint(-2, -1), QPoint(8, 6), QPoint(-4, 0), QPoint(0, 20)}) {
         // The source is larger than its alpha plane, which has a hole.
-        QImage surface = filled({50, 8}, qRgb(0, 0, 0));
+        QImage surface(50, 8, QImage::Format_ARGB32);
+        surface.fill(Ground);
+        const QImage source = colourful({39, 6});
         AlphaPlane alpha{37, 3, QByteArray(111, '\xFF')};
         alpha.values[38] = 0;
-        graphics::compose(surface, at, filled({39, 6}, qRgb(255, 255, 255)), alpha, 255);
+        graphics::compose(surface, at, source, alpha, 255);
         for (int i = 0; i < 400; ++i) {
-            const QPoint place(i % 50, i / 50);
-            const bool covered = QRect(at, alpha.size()).contains(place) && place - at != QPoint(1, 1);
-            EXPECT_EQ(qRed(surface.pixel(place)), covered ? 253 : 0) << i << " from " << at.x();
+            const QPoint place(i % 50, i / 50), from = place - at;
+            const bool covered = QRect({}, alpha.size()).contains(from) && from != QPoint(1, 1);
+            const QRgb above = covered ? source.pixel(from) : 0;
+            const QRgb mixed = qRgb(reference::mixed(qRed(Ground), qRed(above), 255, 255),
+                                    reference::mixed(qGreen(Ground), qGreen(above), 255, 255),
+                                    reference::mixed(qBlue(Ground), qBlue(above), 255, 255));
+            EXPECT_EQ(surface.pixel(place), covered ? mixed : Ground) << i << " from " << at.x();
         }
     }
 }
