@@ -3,7 +3,7 @@
 #include "common/bytes.h"
 
 #include <algorithm>
-#include <optional>
+#include <bit>
 
 namespace graphics {
 
@@ -136,6 +136,19 @@ PictureFault checkBmp(QByteArrayView bytes, int maxSide)
         return endsProperly(data, header.compression == RunLength4) ? PictureFault::None : PictureFault::Cut;
     const qint64 rowBytes = (header.width * header.bitsPerPixel + 31) / 32 * 4;
     return rowBytes * header.rows() <= data.size() ? PictureFault::None : PictureFault::Cut;
+}
+
+std::array<int, 3> channelBits(QByteArrayView bytes)
+{
+    const BmpHeader header = readHeader(bytes);
+    std::array<int, 3> bits;
+    bits.fill(header.bitsPerPixel == 16 ? 5 : 8);
+    if (header.compression == BitFields) {
+        common::ByteReader masks(bytes.sliced(FileHeaderSize + qsizetype{InfoHeaderSize}));
+        for (int &count : bits)
+            count = std::min(std::popcount(masks.get<quint32>()), 8);
+    }
+    return bits;
 }
 
 } // namespace graphics

@@ -50,6 +50,31 @@ PictureFault checkBeforeDecoding(const QImageReader &reader, QByteArrayView byte
     return hasEnd(reader.format(), bytes) ? PictureFault::None : PictureFault::Cut;
 }
 
+// Decoders leave the lower bits of short channels at 0; here all bits set are full light.
+std::array<quint8, 256> fullRange(int bits)
+{
+    std::array<quint8, 256> levels{};
+    const int most = (1 << bits) - 1;
+    for (int level = 0; level < 256 && most > 0; ++level)
+        levels[static_cast<std::size_t>(level)] =
+            static_cast<quint8>(((level >> (8 - bits)) * 255 + most / 2) / most);
+    return levels;
+}
+
+void spreadChannels(QImage &picture, const std::array<int, 3> &bits)
+{
+    if (bits == std::array{8, 8, 8})
+        return;
+    const auto red = fullRange(bits[0]), green = fullRange(bits[1]), blue = fullRange(bits[2]);
+    const auto at = [](int value) { return static_cast<std::size_t>(value); };
+    for (int y = 0; y < picture.height(); ++y) {
+        QRgb *pixels = pixelsOf(picture, y);
+        std::transform(pixels, pixels + picture.width(), pixels, [&](QRgb pixel) {
+            return qRgb(red[at(qRed(pixel))], green[at(qGreen(pixel))], blue[at(qBlue(pixel))]);
+        });
+    }
+}
+
 LoadedPicture refused(PictureFault fault) { return {{}, fault}; }
 
 } // namespace
@@ -67,10 +92,13 @@ LoadedPicture readPicture(QByteArrayView bytes, int maxSide)
     reader.setAutoDetectImageFormat(false);
     if (const auto fault = checkBeforeDecoding(reader, bytes, maxSide); fault != PictureFault::None)
         return refused(fault);
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull())
         return refused(PictureFault::Cut);
-    return {picture.convertToFormat(QImage::Format_RGB32), PictureFault::None};
+    picture.convertTo(QImage::Format_RGB32);
+    if (format == "bmp")
+        spreadChannels(picture, channelBits(bytes));
+    return {picture, PictureFault::None};
 }
 
 LoadedPicture loadPicture(const QString &path)

@@ -50,6 +50,7 @@ const BmpForm Forms[] = {
     {"32 bits", 32, 0, {}, hex("00000000 ff000000  0000ff00 ffffff00")},
     {"8 bits", 8, 0, palette(256), hex("00010000 02030000")},
     {"4 bits", 4, 0, palette(16), hex("01000000 23000000")},
+    {"16 bits", 16, 0, {}, hex("00001f00 007cff7f")},
     {"16 bits, 5-6-5", 16, 3, hex("00f80000 e0070000 1f000000"), hex("00001f00 00f8ffff")},
     {"run lengths", 8, 1, palette(256), hex("0100 0101 0000  0102 0103 0001")},
     {"4-bit run lengths", 4, 2, palette(16), hex("0201 0000  0223 0001")},
@@ -61,15 +62,15 @@ TEST(PictureLoader, readsEveryFormOfBmpAndRefusesOneThatIsCutAnywhere)
         const QByteArray whole = bmp(form);
         const QImage picture = readPicture(whole).picture;
         ASSERT_EQ(picture.size(), QSize(2, 2)) << form.name;
-        // The decoder leaves the lower bits of short components at 0.
-        const QRgb kept = form.bitsPerPixel == 16 ? 0xFFF8F8F8 : 0xFFFFFFFF;
         const QRgb wanted[] = {0xFFFF0000, 0xFFFFFFFF, 0xFF000000, 0xFF0000FF};
         for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(picture.pixel(i % 2, i / 2) & kept, wanted[i] & kept) << form.name << ' ' << i;
+            EXPECT_EQ(picture.pixel(i % 2, i / 2), wanted[i]) << form.name << ' ' << i;
         for (qsizetype length = 0; length < whole.size(); ++length)
             EXPECT_FALSE(readPicture(whole.first(length))) << form.name << ' ' << length;
         EXPECT_EQ(readPicture(whole.chopped(1)).fault, PictureFault::Cut) << form.name;
     }
+    const QByteArray half = bmp({"", 16, 3, Forms[6].behindHeader, hex("10840000"), 1, 1});
+    EXPECT_EQ(readPicture(half).picture.pixel(0, 0), qRgb(132, 130, 132)); // 16, 32 and 16 of 31, 63 and 31
 }
 
 QByteArray encoded(const char *format)
@@ -117,6 +118,7 @@ TEST(PictureLoader, readsFilesAndNothingElse)
     ASSERT_TRUE(file.open() && file.write(bmp(Forms[0])) > 0 && file.flush());
     EXPECT_TRUE(graphics::loadPicture(file.fileName()));
     EXPECT_EQ(graphics::loadPicture(QDir::tempPath()).fault, PictureFault::Unreadable);
+    EXPECT_EQ(graphics::loadPicture(QStringLiteral("/dev/zero")).fault, PictureFault::Unreadable);
     // Larger than any picture within the limits: told without reading it (the file has no blocks).
     ASSERT_TRUE(file.resize(qint64{1} << 40));
     EXPECT_EQ(graphics::loadPicture(file.fileName()).fault, PictureFault::TooLarge);
