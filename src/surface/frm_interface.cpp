@@ -230,7 +230,10 @@ void frmInterface::RefreshBackground()
     }
 }
 
-QImage frmInterface::renderPreview() const { return overlayPicture(m_canvas->picture(), bottomToTop()); }
+QImage frmInterface::renderPreview() const
+{
+    return overlayPicture(m_canvas->size(), m_canvas->picture(), bottomToTop());
+}
 
 void frmInterface::showControlMenu(OverlayControl &control, const QPoint &globalPosition)
 {

@@ -17,11 +17,12 @@ void paintControl(QPainter &painter, const OverlayControl &control)
 
 } // namespace
 
-QImage overlayPicture(const QPixmap &backdrop, const QList<OverlayControl *> &bottomToTop)
+QImage overlayPicture(QSize canvas, const QPixmap &background, const QList<OverlayControl *> &bottomToTop)
 {
-    QImage picture(backdrop.size(), QImage::Format_RGB32);
+    QImage picture(canvas, QImage::Format_RGB32);
+    picture.fill(Qt::black);
     QPainter painter(&picture);
-    painter.drawPixmap(0, 0, backdrop);
+    painter.drawPixmap(0, 0, background);
     for (const OverlayControl *control : bottomToTop)
         paintControl(painter, *control);
     return picture;

@@ -1,4 +1,5 @@
 #include "support/design_window.h"
+#include "surface/overlay_picture.h"
 
 namespace {
 
@@ -101,6 +102,20 @@ TEST(BarPainting, TheBarGrowsFromItsZeroEnd)
         EXPECT_NE(seen(bar, c.rest), Red);
         EXPECT_EQ(previewed(w, bar, c.filled), Red);
         EXPECT_EQ(previewed(w, bar, c.rest), test::PalGround);
+    }
+}
+
+TEST(Preview, HasTheSizeOfTheCanvasWhateverThatOfTheBackground)
+{
+    for (const QSize &size : {QSize(100, 50), QSize(2000, 1000)}) {
+        QPixmap background(size);
+        background.fill(Red);
+        const QImage picture = surface::overlayPicture({720, 480}, background, {});
+        EXPECT_EQ(picture.size(), QSize(720, 480));
+        for (const QPoint &place : {QPoint(0, 0), QPoint(99, 49), QPoint(100, 49), QPoint(719, 479)}) {
+            const bool covered = QRect({}, size).contains(place);
+            EXPECT_EQ(picture.pixelColor(place), covered ? Red : QColor(Qt::black)) << place.x();
+        }
     }
 }
 
