@@ -1,10 +1,14 @@
 #include "graphics/face_source.h"
 
+#include "graphics/outline_file.h"
+
 #include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QRawFont>
+#include <QPainterPath>
 #include <QtEndian>
+
+#include <algorithm>
 
 namespace graphics {
 
@@ -15,8 +19,13 @@ constexpr quint32 CompactOutlines = 0x4F54544F; // "OTTO"
 
 // The tables that outlines need, in the order of their tags. Instructions for fitting are left out.
 constexpr char CompactTable[] = "CFF ";
-constexpr const char *OutlineTables[] = {CompactTable, "OS/2", "cmap", "glyf", "head",
-                                         "hhea",       "hmtx", "loca", "maxp", "post"};
+constexpr char TrueTypeTable[] = "glyf";
+constexpr const char *OutlineTables[] = {CompactTable, "OS/2", "cmap", TrueTypeTable, "head",
+                                         "hhea",       "hmtx", "loca", "maxp",        "post"};
+
+// Names under which the desktop lists the faces that it takes for usual ones.
+const QStringList Aliases = {QStringLiteral("Serif"), QStringLiteral("Sans Serif"),
+                             QStringLiteral("Monospace")};
 
 struct Table
 {
@@ -55,35 +64,88 @@ QByteArray fontFileOf(const QList<Table> &tables)
     return file;
 }
 
-// Not valid when the face is not there: the desktop's own idea of a replacement does not count.
+bool isOneOf(const QStringList &names, const QString &face)
+{
+    return std::any_of(names.begin(), names.end(), [&](const QString &name) {
+        return storedFace(name).compare(face, Qt::CaseInsensitive) == 0;
+    });
+}
+
+QRawFont desktopsAnswer(const QString &face, bool bold, bool italic)
+{
+    QFont font(face);
+    font.setBold(bold);
+    font.setItalic(italic);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::NoFontMerging | QFont::ForceOutline));
+    return QRawFont::fromFont(font);
+}
+
+// Of a name that the desktop lists. Not valid when the face cannot be opened: the desktop's own idea of a
+// replacement counts for an alias only.
+QRawFont listedFont(const QString &name, const FontStyle &style)
+{
+    const QRawFont found = desktopsAnswer(name, style.bold, style.italic);
+    if (!isOneOf({found.familyName()}, name) && !isOneOf(Aliases, name))
+        return {};
+    // Asked once more for no more than there is, or the desktop would make up the rest of the style.
+    return desktopsAnswer(name, style.bold && found.weight() >= QFont::DemiBold,
+                          style.italic && found.style() != QFont::StyleNormal);
+}
+
+// Not valid when the face is not there.
 QRawFont installedFont(const QString &face, const FontStyle &style)
 {
-    if (!qGuiApp || !QFontDatabase::hasFamily(face))
-        return {};
-    QFont font(face);
-    font.setBold(style.bold);
-    font.setItalic(style.italic);
-    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::NoFontMerging | QFont::ForceOutline));
-    const QRawFont found = QRawFont::fromFont(font);
-    return found.familyName().compare(face, Qt::CaseInsensitive) == 0 ? found : QRawFont();
+    const QString name = storedFace(face);
+    const bool listed = qGuiApp && isOneOf(QFontDatabase::families(), name);
+    return listed ? listedFont(name, style) : QRawFont();
+}
+
+bool draws(const QRawFont &font, QChar character)
+{
+    const QList<quint32> glyph = font.glyphIndexesForString(character);
+    return font.supportsCharacter(character) && !glyph.isEmpty() &&
+           !font.pathForGlyph(glyph.front()).isEmpty();
+}
+
+bool drawsText(const QRawFont &font)
+{
+    return font.isValid() && (draws(font, u'A') || draws(font, u'a') || draws(font, u'0'));
 }
 
 } // namespace
 
-bool isInstalled(const QString &face)
+bool isInstalled(const QString &face) { return isShippedFace(face) || drawsText(installedFont(face, {})); }
+
+bool isDrawable(const QString &face) { return isOneOf(StoodInFor, storedFace(face)) || isInstalled(face); }
+
+QStringList drawableFaces()
 {
-    return isShippedFace(face) || !installedFont(face, {}).fontTable("head").isEmpty();
+    QStringList faces = StoodInFor;
+    for (const QString &face : QFontDatabase::families()) {
+        const QString name = storedFace(face);
+        if (QFontDatabase::isSmoothlyScalable(face) && !QFontDatabase::isPrivateFamily(face) &&
+            drawsText(listedFont(name, {})))
+            faces.append(name);
+    }
+    faces.sort(Qt::CaseInsensitive);
+    faces.removeDuplicates();
+    return faces;
 }
 
 QByteArray installedFace(const QString &face, const FontStyle &style)
 {
     const QRawFont font = installedFont(face, style);
+    if (!font.isValid())
+        return {};
+    if (font.fontTable(TrueTypeTable).isEmpty() && font.fontTable(CompactTable).isEmpty())
+        return outlineFile(font);
     QList<Table> tables;
     for (const char *tag : OutlineTables) {
         if (const QByteArray bytes = font.fontTable(tag); !bytes.isEmpty())
             tables.append({tag, bytes});
     }
-    return tables.isEmpty() ? QByteArray() : fontFileOf(tables);
+    return fontFileOf(tables);
 }
 
 QByteArray shippedFace(const QString &folder, const FontStyle &style)

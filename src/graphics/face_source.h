@@ -3,21 +3,30 @@
 #include "graphics/font_name.h"
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 namespace graphics {
+
+// The face that comes with the program.
+inline const QString ShippedFace = QStringLiteral("Liberation Sans");
+// Faces that the shipped one stands in for where they are not installed, so that a design looks the same
+// there.
+inline const QStringList StoodInFor = {DefaultFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")};
+
+// Whether a face is drawn as it is: it is installed and has letters or digits with outlines, or it comes with
+// the program. An alias ("Serif") counts as what the desktop means by it.
+bool isInstalled(const QString &face);
+// Whether a face is drawn as it is or as it is meant to be.
+bool isDrawable(const QString &face);
+// The faces to choose from: all that are drawable, without foundries, in the order of the alphabet. Asks the
+// desktop.
+QStringList drawableFaces();
 
 // The font file of an installed face, in the style that comes nearest. Empty when the face is not installed,
 // has no outlines, or there is no desktop to ask.
 QByteArray installedFace(const QString &face, const FontStyle &style);
 
-// Whether a face is drawn as it is: it is installed and has outlines, or it comes with the program.
-bool isInstalled(const QString &face);
-
-// The face that comes with the program and stands in for those that are not installed.
-inline const QString ShippedFace = QStringLiteral("Liberation Sans");
-
-// Its file in this folder. Empty when there is none.
+// The shipped face's file in this folder. Empty when there is none.
 QByteArray shippedFace(const QString &folder, const FontStyle &style);
 
 // Whether a face is the shipped one itself: then its own files are taken, whatever is installed.

@@ -12,11 +12,6 @@ const QString Suffix = QStringLiteral(".qlg");
 const QString StyleLetters = QStringLiteral("BISU");
 constexpr int LargestSize = 32767; // what a property for points holds
 
-QString safeFace(const QString &face)
-{
-    return platform::nameWithin({}, face).isEmpty() ? DefaultFace : face;
-}
-
 QString styleText(const FontStyle &style)
 {
     const bool set[] = {style.bold, style.italic, style.strikethrough, style.underline};
@@ -60,10 +55,17 @@ QString takeLastPart(QString &text)
 
 } // namespace
 
+QString storedFace(const QString &face)
+{
+    const qsizetype bracket = face.endsWith(QLatin1Char(']')) ? face.lastIndexOf(QLatin1Char('[')) : -1;
+    const QString name = bracket < 0 ? face : face.first(bracket).trimmed();
+    return platform::nameWithin({}, name).isEmpty() ? DefaultFace : name;
+}
+
 QString fontFileName(const FontRequest &request)
 {
     return QStringLiteral("%1 %2 %3%4")
-        .arg(safeFace(request.face), styleText(request.style), QString::number(request.size), Suffix);
+        .arg(storedFace(request.face), styleText(request.style), QString::number(request.size), Suffix);
 }
 
 QString extendedFontFileName(const FontRequest &request)
@@ -78,7 +80,7 @@ FontRequest splitFontFileName(const QString &name)
     request.face = whole;
     const int size = takeLastPart(request.face).toInt();
     if (size < 1 || size > LargestSize) {
-        request.face = safeFace(whole.trimmed());
+        request.face = storedFace(whole.trimmed());
         return request;
     }
     request.size = size;
@@ -87,7 +89,7 @@ FontRequest splitFontFileName(const QString &name)
         request.style = styleOf(style);
         request.face = face;
     }
-    request.face = safeFace(request.face.trimmed());
+    request.face = storedFace(request.face.trimmed());
     return request;
 }
 

@@ -26,8 +26,11 @@ struct FontRequest
 
 inline const QString DefaultFace = QStringLiteral("QL Sans Serif");
 
-// The name of the standard font file: "Arial B 12.qlg", with two blanks where there is no style. A face that
-// is empty or would lead out of the font folder is replaced by the default face.
+// A face as files know it: without the foundry, which the desktop adds in brackets ("Name [Foundry]"), and
+// the default face in place of one that is empty or would lead out of the font folder.
+QString storedFace(const QString &face);
+
+// The name of the standard font file: "Arial B 12.qlg", with two blanks where there is no style.
 QString fontFileName(const FontRequest &request);
 // The name of its partner with the extended glyphs.
 QString extendedFontFileName(const FontRequest &request);

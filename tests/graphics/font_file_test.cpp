@@ -37,8 +37,9 @@ TEST(FontName, isTakenApartIntoWhatItWasBuiltFrom)
         EXPECT_EQ(extendedFontFileName(request), text("Ext_") + text(name));
         EXPECT_EQ(splitFontFileName(text(name)), request) << name;
     }
+    EXPECT_EQ(fontFileName({text("Nimbus Sans [urw]"), 10, {true}}), text("Nimbus Sans B 10.qlg"));
     for (const QString &face :
-         {text("../Arial"), text("a\\b"), text(".hidden"), text("C:Arial"), QString()}) {
+         {text("../Arial"), text("a\\b"), text(".hidden"), text("C:Arial"), text("[urw]"), QString()}) {
         EXPECT_EQ(fontFileName({face, 10, {}}), text("QL Sans Serif  10.qlg")) << face.toStdString();
         EXPECT_EQ(splitFontFileName(face + text(" B 10.qlg")).face, DefaultFace) << face.toStdString();
     }

@@ -1,17 +1,27 @@
-#include "graphics/dialogs/font_preview.h"
 #include "graphics/dialogs/frm_font_gen.h"
 #include "graphics/face_source.h"
+#include "graphics/font_engine.h"
+#include "graphics/glyph_lists.h"
+#include "graphics/glyph_raster.h"
+#include "graphics/outline_file.h"
 #include "platform/desktop/appearance.h"
 #include "platform/file_replace.h"
 #include "support/design_window.h"
 
 #include <QDir>
+#include <QFontDatabase>
+#include <QFontInfo>
+
+#include <array>
+
+#include FT_OUTLINE_H
 
 namespace graphics {
 
 namespace {
 
 const QString ProgramFolder = QStringLiteral(MORVEL_PROGRAM_DIR "/");
+const QString Faces = ProgramFolder + QStringLiteral("fonts/");
 
 // An open window over font folders of its own.
 struct FontWindow : testing::Test
@@ -114,14 +124,63 @@ TEST(FontOfTheDesign, comesFromItsFilesWhichTheWindowMakesWhenTheyAreMissing)
 // A face that the desktop hands over table by table gives the same pixels as its file.
 TEST(InstalledFaces, lookTheSameAsTheirFiles)
 {
-    platform::registerShippedFaces(ProgramFolder + QStringLiteral("fonts/"));
+    platform::registerShippedFaces(Faces);
     platform::NoProgress progress;
     const FontRequest request{ShippedFace, 15, {true, true}};
-    const auto shipped = renderFont(request, ProgramFolder + QStringLiteral("fonts/"), progress);
+    const auto shipped = renderFont(request, Faces, progress);
     const auto installed = renderFont(request, QStringLiteral("/no/such/folder/"), progress);
     ASSERT_TRUE(shipped && installed);
     EXPECT_TRUE(installed->standard == shipped->standard && installed->extended == shipped->extended);
-    EXPECT_TRUE(offeredFaces().contains(ShippedFace));
+}
+
+TEST(InstalledFaces, areOfferedWhereTheyCanBeDrawnAndAliasesMeanWhatTheDesktopMeans)
+{
+    platform::registerShippedFaces(Faces);
+    const QStringList offered = drawableFaces();
+    EXPECT_TRUE(offered.contains(ShippedFace) && offered.contains(QStringLiteral("Arial")));
+    for (const QString &face : offered) {
+        EXPECT_TRUE(StoodInFor.contains(face) || !installedFace(face, {}).isEmpty()) << face.toStdString();
+        EXPECT_EQ(storedFace(face), face);
+    }
+    for (const QString &alias : {QStringLiteral("Serif"), QStringLiteral("Monospace")}) {
+        if (QFontDatabase::families().contains(alias)) {
+            EXPECT_EQ(installedFace(alias, {}), installedFace(QFontInfo(QFont(alias)).family(), {}));
+        }
+    }
+    EXPECT_FALSE(isDrawable(QStringLiteral("No Such Face")));
+}
+
+// Faces without tables to hand over become files of their outlines: the same as from the face's own file, but
+// for the rounding to their units.
+TEST(OutlineFile, drawsEveryCharacterLikeTheFaceItself)
+{
+    for (const FontStyle &style : {FontStyle{}, FontStyle{true, true}}) {
+        const FontRequest request{ShippedFace, 40, {style.bold, style.italic, false, true}};
+        const QByteArray own = shippedFace(Faces, style);
+        const FontEngine engine;
+        const auto face = OpenFace::open(engine, own, request);
+        const auto outlined = OpenFace::open(engine, outlineFile(QRawFont(own, 10)), request);
+        ASSERT_TRUE(face && outlined && !outlined->has(u'~'));
+        EXPECT_NEAR(outlined->bars()[0].bottom, face->bars()[0].bottom, Enlargement);
+        const auto compare = [&](std::uint8_t character) {
+            const auto drawn = [&](const OpenFace &from) {
+                int advance = 0;
+                FT_BBox box;
+                FT_Outline *outline = from.outline(character, advance);
+                FT_Outline_Get_CBox(outline, &box);
+                const auto number = [](long value) { return static_cast<int>(value); };
+                return std::array{number(box.xMin), number(box.xMax),
+                                  number(box.yMin), number(box.yMax),
+                                  advance * 64,     FT_Outline_Get_Orientation(outline) * 1000};
+            };
+            const auto wanted = drawn(*face), found = drawn(*outlined);
+            for (std::size_t i = 0; i < wanted.size(); ++i)
+                EXPECT_NEAR(found[i], wanted[i], 64 * Enlargement)
+                    << static_cast<char>(character) << ' ' << i;
+        };
+        std::ranges::for_each(standardList(), compare);
+        std::ranges::for_each(extendedList(), compare);
+    }
 }
 
 } // namespace

@@ -1,9 +1,6 @@
 #include "graphics/dialogs/font_preview.h"
 
-#include "graphics/font_name.h"
 #include "graphics/modDrawFont.h"
-
-#include <QFontDatabase>
 
 #include <algorithm>
 
@@ -36,19 +33,6 @@ QImage fontPreview(const TextFont &font)
         look.position.ry() += step;
     }
     return picture;
-}
-
-QStringList offeredFaces()
-{
-    QStringList faces = {DefaultFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")};
-    for (const QString &face : QFontDatabase::families()) {
-        if (QFontDatabase::isSmoothlyScalable(face) && !QFontDatabase::isPrivateFamily(face))
-            faces.append(face);
-    }
-    faces.removeDuplicates();
-    std::sort(faces.begin(), faces.end(),
-              [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
-    return faces;
 }
 
 } // namespace graphics

@@ -59,7 +59,7 @@ QWidget *frmFontGen::buildChoice()
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_face->setObjectName(QStringLiteral("cmbFontName"));
     m_face->setAccessibleName(QStringLiteral("Face"));
-    m_face->addItems(offeredFaces());
+    m_face->addItems(drawableFaces());
     form->addRow(QStringLiteral("&Face"), m_face);
     m_size->setObjectName(QStringLiteral("cmbFontSize"));
     m_size->setAccessibleName(QStringLiteral("Size in points"));
