@@ -98,9 +98,9 @@ void drawCachedText(benchmark::State &state)
     folders.applicationData = root.path() + QLatin1Char('/');
     folders.program = QStringLiteral(MORVEL_PROGRAM_DIR "/");
     platform::NoProgress progress;
-    NoPrompts prompts;
     graphics::FontStore store(folders);
-    store.ensure(request(Points), progress, prompts);
+    const FontRequest font = request(Points);
+    store.open(font, Points, progress);
     QImage picture(720, 576, QImage::Format_RGB32);
     picture.fill(0xFF204060);
     graphics::TextLook look;
@@ -108,7 +108,7 @@ void drawCachedText(benchmark::State &state)
     look.colour = 0x00FFC040;
     look.opacity = static_cast<quint8>(state.range(0));
     for (auto _ : state)
-        benchmark::DoNotOptimize(drawText(*store.open(request(Points)), Sample, look, picture));
+        benchmark::DoNotOptimize(drawText(store.open(font, Points, progress)->text, Sample, look, picture));
 }
 
 BENCHMARK(engineAlone)->Arg(12)->Arg(Points)->Arg(72)->Unit(benchmark::kMicrosecond);

@@ -31,10 +31,10 @@ public:
     virtual platform::Prompts &prompts() = 0;
     virtual const variables::Catalogue &catalogue() const = 0;
     virtual recorder::VideoStandard VideoType() const = 0;
-    // A font to draw with; its files are made first where they are missing. Null, after a message, when they
-    // cannot be made from this request; throws RunTimeError when they can be neither written nor read. Never
-    // from painting: it may open a window and wait for it.
-    virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request) = 0;
+    // A font to draw with, never null, as FontStore::open() finds or makes it: without a window or message.
+    // `usualSize`, in points, is the family's and serves where the request's size does not.
+    virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
+                                                               int usualSize) = 0;
 
     // What stands below the inner area of `control`: background, grid and the controls beneath it.
     virtual QImage captureBelow(const OverlayControl &control) = 0;

@@ -39,14 +39,17 @@ void put(common::ByteWriter &file, const std::vector<quint8> &bytes)
     file.put(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
 }
 
-bool decodeGlyph(QByteArrayView data, qsizetype offset, Glyph &glyph)
+// False also when the row table, by which the recorder steps from row to row, tells other lengths.
+bool decodeGlyph(QByteArrayView data, qsizetype offset, QByteArrayView rowLengths, Glyph &glyph)
 {
     const int leastCodedRow = std::min(glyph.width, 2); // nothing is allocated that the data cannot fill
     if (offset < 0 || data.size() - offset < qsizetype(glyph.height) * leastCodedRow)
         return false;
     glyph.coverage.resize(glyph.pixelCount());
     for (int row = 0; row < glyph.height; ++row) {
-        if (!decodeRow(data, offset, glyph.row(row)))
+        const qsizetype start = offset;
+        if (!decodeRow(data, offset, glyph.row(row)) ||
+            offset - start != static_cast<quint8>(rowLengths[row]))
             return false;
     }
     return true;
@@ -101,13 +104,15 @@ std::optional<RasterFont> readFontFile(QByteArrayView bytes, int glyphCount)
             *measure = file.get<quint8>();
         rows += glyph.height;
     }
-    file.get(rowCount); // the lengths of the coded rows are for the recorder
+    QByteArrayView rowLengths = file.get(rowCount);
     const QByteArrayView data = file.get(dataLength);
     if (file.failed() || file.remaining() != 0 || rowCount != rows)
         return std::nullopt;
     for (std::size_t i = 0; i < count; ++i) {
-        if (!decodeGlyph(data, offsets[i], font.glyphs[i]))
+        Glyph &glyph = font.glyphs[i];
+        if (!decodeGlyph(data, offsets[i], rowLengths, glyph))
             return std::nullopt;
+        rowLengths = rowLengths.sliced(glyph.height);
     }
     return font;
 }

@@ -67,10 +67,15 @@ bool GenerateFont(const FontRequest &request, const FontFolders &folders, platfo
         prompts.message(platform::Icon::Information, platform::ProductTitle, FontTooLarge);
         return false;
     }
-    QDir().mkpath(folders.fontFiles);
-    platform::replaceFile(folders.fontFiles + fontFileName(request), pair->standard);
-    platform::replaceFile(folders.fontFiles + extendedFontFileName(request), pair->extended);
+    writeFont(request, *pair, folders.fontFiles);
     return true;
+}
+
+void writeFont(const FontRequest &request, const FontPair &pair, const QString &folder)
+{
+    QDir().mkpath(folder);
+    platform::replaceFile(folder + fontFileName(request), pair.standard);
+    platform::replaceFile(folder + extendedFontFileName(request), pair.extended);
 }
 
 } // namespace graphics

@@ -36,7 +36,10 @@ bool isComplete(const FontRequest &request);
 std::optional<FontPair> renderFont(const FontRequest &request, const QString &shippedFaces,
                                    platform::Progress &progress);
 
-// Writes both files of a font, each whole. False, after a message and with nothing written, when the request
+// Writes both files of a font, each whole. Throws RunTimeError when one cannot be written.
+void writeFont(const FontRequest &request, const FontPair &pair, const QString &folder);
+
+// Renders and writes both files of a font. False, after a message and with nothing written, when the request
 // is not complete or a character too large. Throws RunTimeError when no face can be read or a file not be
 // written.
 bool GenerateFont(const FontRequest &request, const FontFolders &folders, platform::Progress &progress,

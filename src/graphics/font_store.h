@@ -11,8 +11,18 @@
 
 namespace graphics {
 
-// The font files of a user: makes those that are missing, and keeps decoded fonts for as long as their files
-// stay the same.
+// A font to draw with and to store in a layout.
+struct ReadyFont
+{
+    FontRequest request; // what it is: not what was asked for where that cannot be made
+    FontPair files;      // the whole bytes of both its files; they have been decoded
+    TextFont text;
+
+    bool standsInFor(const FontRequest &wanted) const;
+};
+
+// The font files of a user: makes those that are missing or damaged, and keeps decoded fonts for as long as
+// their files stay the same.
 class FontStore
 {
 public:
@@ -21,17 +31,14 @@ public:
     QString standardPath(const FontRequest &request) const;
     QString extendedPath(const FontRequest &request) const;
 
-    // Whether both files are there.
-    bool has(const FontRequest &request) const;
-    // Makes both files when one of them is missing. False, after a message, when they cannot be made from
-    // this request; throws RunTimeError when no face can be read or a file not be written.
-    bool ensure(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts);
-    // The same, also when the files are there.
+    // The font, never null. It comes from its files; where they are missing or damaged it is made, and they
+    // are written if that is possible. Where it cannot be made, because the face is not there or the size is
+    // 0 or too large, the default face stands in: in the same size, or where that does not do in `usualSize`
+    // (points). Opens no window and says nothing. Throws RunTimeError when not even that can be made.
+    std::shared_ptr<const ReadyFont> open(const FontRequest &request, int usualSize,
+                                          platform::Progress &progress);
+    // Makes both files, also when they are there. Results as GenerateFont().
     bool generate(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts);
-
-    // The decoded font; makes no files and shows nothing. Throws RunTimeError when a file is missing or
-    // cannot be read.
-    std::shared_ptr<const TextFont> open(const FontRequest &request);
 
     FontFolders folders() const;
 
@@ -39,17 +46,26 @@ private:
     struct Stamp
     {
         QDateTime modified;
-        qint64 size = 0;
+        qint64 size = -1; // no file
 
         bool operator==(const Stamp &) const = default;
     };
-    struct Entry
+    struct Stamps
     {
         Stamp standard;
         Stamp extended;
-        std::shared_ptr<const TextFont> font;
+
+        bool operator==(const Stamps &) const = default;
     };
-    static Stamp stampOf(const QString &path);
+    struct Entry
+    {
+        Stamps stamps;
+        std::shared_ptr<const ReadyFont> font; // null where the files cannot be made
+    };
+    Stamps stampsOf(const FontRequest &request) const;
+    std::shared_ptr<const ReadyFont> find(const FontRequest &request, platform::Progress &progress);
+    std::optional<FontPair> readFiles(const FontRequest &request) const;
+    std::optional<FontPair> makeFiles(const FontRequest &request, platform::Progress &progress) const;
 
     const platform::Folders &m_folders;
     QCache<QString, Entry> m_cache; // by the path of the standard file

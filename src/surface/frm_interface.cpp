@@ -210,10 +210,12 @@ void frmInterface::drawBack(OverlayControl &control)
         control.setBackImage(captureBelow(control));
 }
 
-std::shared_ptr<const graphics::TextFont> frmInterface::textFont(const graphics::FontRequest &request)
+std::shared_ptr<const graphics::TextFont> frmInterface::textFont(const graphics::FontRequest &request,
+                                                                 int usualSize)
 {
-    const bool there = graphics::ensureInWindow(m_context.fonts, request, prompts(), window());
-    return there ? m_context.fonts.open(request) : nullptr;
+    platform::NoProgress silent;
+    const auto font = m_context.fonts.open(request, usualSize, silent);
+    return {font, &font->text};
 }
 
 QImage frmInterface::captureBelow(const OverlayControl &control)

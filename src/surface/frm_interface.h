@@ -71,7 +71,8 @@ public:
     platform::Prompts &prompts() override { return m_context.prompts; }
     const variables::Catalogue &catalogue() const override { return m_context.catalogue; }
     recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
-    std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request) override;
+    std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
+                                                       int usualSize) override;
     QImage captureBelow(const controls::OverlayControl &control) override;
     void showControlMenu(controls::OverlayControl &control, const QPoint &globalPosition) override;
     void showGroupMenu(const QPoint &globalPosition) override;

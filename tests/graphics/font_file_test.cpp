@@ -106,9 +106,10 @@ TEST(FontFile, holdsItsFieldsInTheStatedOrderAndIsRefusedWhenDamaged)
     EXPECT_FALSE(readFontFile(good + 'x', 2));
     for (qsizetype length = 0; length < good.size(); ++length)
         EXPECT_FALSE(readFontFile(good.first(length), 2)) << "cut at " << length;
-    // Lengths, counts and offsets too small, too large and negative; larger glyphs; wrong runs.
-    const std::pair<int, int> damages[] = {{0, 4},     {3, 0x80}, {4, 3},  {7, 0xFF}, {9, 3}, {10, 1},
-                                           {12, 0x80}, {17, 200}, {18, 3}, {26, 3},   {29, 0}};
+    // Lengths, counts and offsets too small, too large and negative; larger glyphs; a wrong row length; wrong
+    // runs.
+    const std::pair<int, int> damages[] = {{0, 4},     {3, 0x80}, {4, 3},  {7, 0xFF}, {9, 3},  {10, 1},
+                                           {12, 0x80}, {17, 200}, {18, 3}, {23, 3},   {26, 3}, {29, 0}};
     for (const auto &[place, value] : damages) {
         QByteArray bad = good;
         bad[place] = static_cast<char>(value);

@@ -1,4 +1,4 @@
-#include "common/run_time_error.h"
+#include "graphics/font_file.h"
 #include "graphics/font_store.h"
 #include "graphics/glyph_lists.h"
 #include "graphics/glyph_raster.h"
@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -84,33 +83,6 @@ TEST(LineAlignment, putsTheHighestGlyphOfBothListsAtTheTop)
 
 const QString ProgramFolder = QStringLiteral(MORVEL_PROGRAM_DIR "/");
 
-// A font file as the recorder reads it: byte by byte and by the row table, with no help from the code under
-// test.
-RasterFont readRows(const QByteArray &file, int count)
-{
-    const auto byte = [&](int at) { return static_cast<quint8>(file.at(at)); };
-    const auto number = [&](int at) { return qFromLittleEndian<qint32>(file.constData() + at); };
-    const int table = 9 + 7 * count, data = table + number(4);
-    RasterFont font{byte(8), {}};
-    int row = table, at = data;
-    for (int i = 0; i < count; ++i) {
-        const int measures = 9 + 4 * count + 3 * i;
-        Glyph glyph{byte(measures), byte(measures + 1), byte(measures + 2), {}};
-        EXPECT_EQ(number(9 + 4 * i), at - data) << "offset of glyph " << i;
-        for (int y = 1; y <= glyph.height; ++y, ++row) {
-            for (const int end = at + byte(row); at < end; ++at) {
-                const quint8 value = byte(at);
-                const std::size_t times = value == 0 || value == 255 ? byte(++at) : 1;
-                glyph.coverage.insert(glyph.coverage.end(), times, value);
-            }
-            EXPECT_EQ(glyph.coverage.size(), static_cast<std::size_t>(y * glyph.width)) << "glyph " << i;
-        }
-        font.glyphs.push_back(glyph);
-    }
-    EXPECT_TRUE(row == data && at == data + number(0) && at == file.size());
-    return font;
-}
-
 const Glyph &glyphOf(const RasterFont &font, char16_t code)
 {
     return font.glyphs.at(static_cast<std::size_t>(lookUpGlyph(code).index));
@@ -139,7 +111,7 @@ FontPair rendered(const FontRequest &request)
 
 RasterFont standardOf(const FontRequest &request)
 {
-    return readRows(rendered(request).standard, StandardGlyphs);
+    return readFontFile(rendered(request).standard, StandardGlyphs).value_or(RasterFont());
 }
 
 // A full row across the whole glyph, at this place of the line or below; the ends may fall between two
@@ -157,13 +129,13 @@ TEST(FontRendering, makesFilesThatAddUp)
 {
     for (const int size : {5, 12, 165}) {
         const FontPair pair = rendered(font(size, {size % 2 == 0}));
-        RasterFont both = readRows(pair.standard, StandardGlyphs);
-        const RasterFont extended = readRows(pair.extended, ExtendedGlyphs);
-        EXPECT_EQ(both.lineHeight, extended.lineHeight);
-        both.glyphs.insert(both.glyphs.end(), extended.glyphs.begin(), extended.glyphs.end());
-        EXPECT_EQ(std::ranges::min(both.glyphs, {}, &Glyph::top).top, 0) << size;
-        EXPECT_EQ(bottomOf(std::ranges::max(both.glyphs, {}, &bottomOf)), both.lineHeight) << size;
-        for (const Glyph &glyph : both.glyphs)
+        auto both = readFontFile(pair.standard, StandardGlyphs);
+        const auto extended = readFontFile(pair.extended, ExtendedGlyphs);
+        ASSERT_TRUE(both && extended && both->lineHeight == extended->lineHeight);
+        both->glyphs.insert(both->glyphs.end(), extended->glyphs.begin(), extended->glyphs.end());
+        EXPECT_EQ(std::ranges::min(both->glyphs, {}, &Glyph::top).top, 0) << size;
+        EXPECT_EQ(bottomOf(std::ranges::max(both->glyphs, {}, &bottomOf)), both->lineHeight) << size;
+        for (const Glyph &glyph : both->glyphs)
             EXPECT_GT(std::ranges::max(glyph.coverage), 0);
     }
 }
@@ -226,9 +198,13 @@ struct FontStoreTest : testing::Test
         folders.program = ProgramFolder;
         folders.applicationData = root.path() + QLatin1Char('/');
     }
-    bool ensure(const FontRequest &wanted) { return store.ensure(wanted, progress, prompts); }
+    std::shared_ptr<const ReadyFont> open(const FontRequest &wanted)
+    {
+        return store.open(wanted, UsualSize, progress);
+    }
     QStringList files() const { return QDir(folders.FontFolder()).entryList(QDir::Files, QDir::Name); }
 
+    static constexpr int UsualSize = 9;
     QTemporaryDir root;
     platform::Folders folders;
     ProgressRecord progress;
@@ -237,52 +213,60 @@ struct FontStoreTest : testing::Test
     const FontRequest request = font(12, {false, true}, "Arial");
 };
 
-TEST_F(FontStoreTest, makesOnlyWhatIsMissing)
+TEST_F(FontStoreTest, makesMissingAndDamagedFilesAnewAndHandsOutWholeOnes)
 {
-    EXPECT_THROW(store.open(request), common::RunTimeError);
-    ASSERT_TRUE(ensure(request));
+    const auto made = open(request);
     EXPECT_EQ(files(), QStringList({QStringLiteral("Arial I 12.qlg"), QStringLiteral("Ext_Arial I 12.qlg")}));
     EXPECT_EQ(progress.shown, QStringList({QStringLiteral("Generating standard font file...100"),
                                            QStringLiteral("Generating extended font file...100")}));
-    replaceFile(store.standardPath(request), "kept");
-    EXPECT_TRUE(ensure(request));
-    EXPECT_EQ(readFile(store.standardPath(request)), "kept");
-    QFile::remove(store.extendedPath(request));
-    EXPECT_TRUE(ensure(request));
-    EXPECT_NE(readFile(store.standardPath(request)), "kept");
-}
-
-TEST_F(FontStoreTest, saysWhyItMakesNothing)
-{
-    const QString missing = QStringLiteral("Please selct the font and font size");
-    const QString tooLarge = QStringLiteral("Font size too big to process\nReduce the size and try again");
-    const std::pair<FontRequest, QString> cases[] = {
-        {font(12, {}, ""), missing}, {font(-12), missing}, {font(180), tooLarge}, {font(32767), tooLarge}};
-    for (const auto &[wanted, message] : cases) {
-        prompts.expectMessage(message);
-        EXPECT_FALSE(ensure(wanted)) << wanted.size;
-        EXPECT_TRUE(files().isEmpty()) << wanted.size;
+    EXPECT_EQ(open(request), made);
+    EXPECT_FALSE(made->standsInFor(request));
+    for (const auto &[path, whole] : {std::pair{store.standardPath(request), made->files.standard},
+                                      {store.extendedPath(request), made->files.extended}}) {
+        for (const QByteArray &damaged : {QByteArray(), QByteArray("damaged"), whole.chopped(1)}) {
+            replaceFile(path, damaged);
+            const FontPair files = open(request)->files;
+            EXPECT_TRUE(files.standard == made->files.standard && files.extended == made->files.extended);
+            EXPECT_EQ(readFile(path), whole);
+        }
+        QFile::remove(path);
+        open(request);
+        EXPECT_EQ(readFile(path), whole);
     }
 }
 
-TEST_F(FontStoreTest, keepsADecodedFontUntilOneOfItsFilesChanges)
+TEST_F(FontStoreTest, followsItsFilesWhenTheyChange)
 {
-    ASSERT_TRUE(ensure(request) && ensure(font(20)));
-    const auto first = store.open(request);
-    EXPECT_EQ(store.open(request), first);
-    const auto larger = store.open(font(20))->glyph(u'!')->coverage;
-
-    replaceFile(store.extendedPath(request), readFile(store.extendedPath(font(20))));
-    EXPECT_EQ(store.open(request)->glyph(u'!')->coverage, larger);
-    EXPECT_EQ(store.open(request)->glyph(u'H')->coverage, first->glyph(u'H')->coverage);
+    const auto first = open(request), larger = open(font(20));
+    replaceFile(store.extendedPath(request), larger->files.extended);
+    EXPECT_EQ(open(request)->text.glyph(u'!')->coverage, larger->text.glyph(u'!')->coverage);
+    EXPECT_EQ(open(request)->text.glyph(u'H')->coverage, first->text.glyph(u'H')->coverage);
     ASSERT_TRUE(store.generate(request, progress, prompts));
-    EXPECT_EQ(store.open(request)->glyph(u'!')->coverage, first->glyph(u'!')->coverage);
+    EXPECT_EQ(open(request)->files.extended, first->files.extended);
+}
 
-    const QString path = store.standardPath(request);
-    replaceFile(path, readFile(path).chopped(1));
-    EXPECT_THROW(store.open(request), common::RunTimeError);
-    QFile::remove(path);
-    EXPECT_THROW(store.open(request), common::RunTimeError);
+TEST_F(FontStoreTest, letsTheDefaultFaceStandInWithoutAWord)
+{
+    const FontStyle bold{true};
+    const std::pair<FontRequest, int> cases[] = {
+        {font(20, bold, "No Such Face"), 20}, {font(0, bold, "No Such Face"), UsualSize},
+        {font(0, bold, "Arial"), UsualSize},  {font(-12, bold), UsualSize},
+        {font(180, bold), UsualSize},         {font(32767, bold), UsualSize}};
+    for (const auto &[wanted, size] : cases) {
+        const auto drawn = open(wanted);
+        EXPECT_EQ(drawn->request, (FontRequest{DefaultFace, size, bold})) << wanted.size;
+        EXPECT_TRUE(drawn->standsInFor(wanted) && open(wanted) == drawn) << wanted.size;
+        EXPECT_FALSE(QFile::exists(store.standardPath(wanted))) << wanted.size;
+    }
+    EXPECT_FALSE(open(font(12, {}, ""))->standsInFor(font(12, {}, "")));
+}
+
+TEST_F(FontStoreTest, needsNoFolderToWriteTo)
+{
+    QDir().mkpath(folders.GetAppDataFolder());
+    replaceFile(folders.FontFolder().chopped(1), "a file in the place of the folder");
+    const auto made = open(request);
+    EXPECT_TRUE(made->request == request && open(request) == made);
 }
 
 } // namespace

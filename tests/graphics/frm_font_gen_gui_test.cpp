@@ -92,33 +92,14 @@ TEST_F(FontWindow, saysWhatIsWrongAndWritesNothing)
     EXPECT_TRUE(hasPicture());
 }
 
-// Counts how often the generator's window comes up.
-class Appearances final : public QObject
-{
-public:
-    Appearances() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        count += event->type() == QEvent::Show && qobject_cast<frmFontGen *>(watched) ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-TEST(FontOfTheDesign, comesFromItsFilesWhichTheWindowMakesWhenTheyAreMissing)
+TEST(FontOfTheDesign, isMadeWithoutAMessage)
 {
     test::DesignWindow d;
-    const Appearances windows;
     const FontRequest request{QStringLiteral("Arial"), 12, {}};
-    const auto font = d.design().textFont(request);
-    ASSERT_TRUE(font && font->glyph(u'H'));
-    EXPECT_EQ(d.design().textFont(request), font);
-    EXPECT_EQ(windows.count, 1);
-    EXPECT_TRUE(d.window.isEnabled() && !QApplication::overrideCursor());
-
-    d.world.prompts.expectMessage(FontTooLarge);
-    EXPECT_FALSE(d.design().textFont({request.face, 999, {}}));
-    EXPECT_EQ(windows.count, 2);
+    const auto font = d.design().textFont(request, 9);
+    ASSERT_TRUE(font->glyph(u'H'));
+    EXPECT_EQ(d.design().textFont(request, 9), font);
+    EXPECT_LT(d.design().textFont({request.face, 999, {}}, 9)->lineHeight(), font->lineHeight());
 }
 
 // A face that the desktop hands over table by table gives the same pixels as its file.

@@ -206,15 +206,4 @@ void frmFontGen::showPreview(const QImage &picture, const QString &textInstead)
         m_preview->setPixmap(QPixmap::fromImage(picture));
 }
 
-bool ensureInWindow(FontStore &fonts, const FontRequest &request, platform::Prompts &prompts, QWidget *parent)
-{
-    if (fonts.has(request))
-        return true;
-    const platform::Busy busy(parent);
-    frmFontGen window(fonts, request, prompts, parent);
-    window.setModal(true);
-    window.show();
-    return fonts.generate(request, window, prompts);
-}
-
 } // namespace graphics

@@ -50,9 +50,4 @@ private:
     QProgressBar *m_bar;
 };
 
-// Makes the files of a font when one of them is missing; the window is on show meanwhile, and `parent` waits
-// under the hourglass. Results as FontStore::ensure().
-bool ensureInWindow(FontStore &fonts, const FontRequest &request, platform::Prompts &prompts,
-                    QWidget *parent);
-
 } // namespace graphics
