@@ -1,3 +1,5 @@
+#include "graphics/face_source.h"
+#include "graphics/font_engine.h"
 #include "graphics/font_file.h"
 #include "graphics/font_store.h"
 #include "graphics/glyph_lists.h"
@@ -12,6 +14,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numeric>
+
+#include FT_OUTLINE_H
 
 namespace graphics {
 
@@ -149,6 +153,44 @@ TEST(FontRendering, standsOnOneBaseLineAtAnyScreensSize)
         EXPECT_NEAR(bottomOf(glyphOf(file, letter)), bottomOf(capital), 1) << static_cast<char>(letter);
     EXPECT_EQ(glyphOf(file, u'x').top, glyphOf(file, u'z').top);
     EXPECT_GT(bottomOf(glyphOf(file, u'g')), bottomOf(capital) + 3);
+}
+
+// Stems end on a whole row: the last row with ink has as much of it as the one above.
+TEST(FontRendering, fitsLevelEdgesToWholeRows)
+{
+    for (int size = 8; size < 30; ++size) {
+        const RasterFont file = standardOf(font(size));
+        for (const char16_t letter : {u'H', u'T', u'h', u'l'}) {
+            const Glyph &glyph = glyphOf(file, letter);
+            const auto most = [&](int row) { return std::ranges::max(glyph.row(row)); };
+            const int last = glyph.height - (most(glyph.height - 1) == 0 ? 2 : 1);
+            EXPECT_EQ(most(last), most(last - 1)) << static_cast<char>(letter) << size;
+        }
+    }
+}
+
+// The box of a character as it is drawn from one of the shipped files, in 64ths of an enlarged pixel.
+QSize boxOf(char16_t character, const FontStyle &file, const FontStyle &wanted)
+{
+    const FontEngine engine;
+    const auto face =
+        OpenFace::open(engine, shippedFace(ProgramFolder + QStringLiteral("fonts/"), file), font(24, wanted));
+    int advance = 0;
+    FT_BBox box;
+    FT_Outline_Get_CBox(face->outline(character, advance), &box);
+    return {static_cast<int>(box.xMax - box.xMin), static_cast<int>(box.yMax - box.yMin)};
+}
+
+TEST(OpenFace, makesUpTheStyleThatAFileLacksAndNoMore)
+{
+    constexpr int size = 32 * 4 * 64; // 24 points
+    const FontStyle bold{true}, italic{false, true};
+    const QSize plain = boxOf(u'H', {}, {});
+    EXPECT_NEAR(boxOf(u'H', {}, bold).width(), plain.width() + size / 24.0, 64);
+    EXPECT_EQ(boxOf(u'H', {}, bold).height(), plain.height());
+    EXPECT_NEAR(boxOf(u'H', {}, italic).width(), plain.width() + plain.height() * 0.21, 64);
+    EXPECT_EQ(boxOf(u'H', bold, bold), boxOf(u'H', bold, {}));
+    EXPECT_EQ(boxOf(u'H', italic, italic), boxOf(u'H', italic, {}));
 }
 
 TEST(FontRendering, stylesChangeWhatTheySay)
