@@ -27,6 +27,12 @@ QRect pixelRect(const Box &box, const platform::Screen &screen)
             toIntegerClamped<qint16>(box.Height / screen.ty)};
 }
 
+Box withSize(const Box &box, Handle handle, float width, float height)
+{
+    return {movesLeft(handle) ? box.right() - width : box.Left,
+            movesTop(handle) ? box.bottom() - height : box.Top, width, height};
+}
+
 HandleTable handleTable(float width, float height, GripSet set)
 {
     HandleTable table;

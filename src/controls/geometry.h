@@ -59,6 +59,9 @@ constexpr bool movesBottom(Handle h)
     return h == Handle::BottomLeft || h == Handle::BottomMiddle || h == Handle::BottomRight;
 }
 
+// The box at another size: the edges that the grip moves give way, the others stand.
+Box withSize(const Box &box, Handle handle, float width, float height);
+
 enum class GripSet { None, Corners, All };
 
 // Grip boxes, 75 twips square, relative to the control. Slots that the set leaves out stay all zero.

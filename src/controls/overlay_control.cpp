@@ -77,11 +77,8 @@ void OverlayControl::write(std::string_view writer, const PropertyValue &value)
     row->set(values(), value);
 }
 
-void OverlayControl::writeBack() { controls::writeBack(properties(), values(), screen()); }
-
-QStringList OverlayControl::Serialise()
+QStringList OverlayControl::Serialise() const
 {
-    writeBack();
     return serialise(properties(), values(), screen(), m_host.locale().decimalSeparator);
 }
 

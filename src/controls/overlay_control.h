@@ -58,10 +58,7 @@ public:
     // RunTimeError.
     PropertyValue read(std::string_view reader) const;
     void write(std::string_view writer, const PropertyValue &value);
-    QStringList Serialise();
-    // The part of Serialise that changes the control: properties whose reader answers for an unset value keep
-    // that answer.
-    void writeBack();
+    QStringList Serialise() const;
     void Deserialise(const QStringList &texts);
 
     // What the host drives

@@ -80,14 +80,6 @@ const PropertyRow *PropertyTable::writer(std::string_view name) const
     return findRow<&PropertyRow::writer>(rows, name);
 }
 
-void writeBack(const PropertyTable &table, ControlValues &values, const platform::Screen &screen)
-{
-    for (const PropertyRow &row : table.rows) {
-        if (row.writesBack)
-            row.set(values, row.get(values, screen));
-    }
-}
-
 QStringList serialise(const PropertyTable &table, const ControlValues &values, const platform::Screen &screen,
                       const QString &decimalMark)
 {
@@ -109,6 +101,7 @@ void deserialise(const PropertyTable &table, ControlValues &values, const QStrin
     for (const std::string_view name : table.serialised) {
         const PropertyRow &row = *table.reader(name);
         row.set(values, fromText(texts[entry++], row.get(values, screen), decimalMark));
+        row.set(values, row.get(values, screen));
     }
 }
 

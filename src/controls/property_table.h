@@ -32,7 +32,6 @@ struct PropertyRow
     std::string_view writer; // empty for a read-only property
     PropertyValue (*get)(const ControlValues &, const platform::Screen &);
     void (*set)(ControlValues &, const PropertyValue &) = nullptr; // throws RunTimeError when it does not fit
-    bool writesBack = false; // serialising first stores the reader's answer into the member
 
     // The same row with another way of reading.
     constexpr PropertyRow readBy(PropertyValue (*reading)(const ControlValues &,
@@ -40,7 +39,6 @@ struct PropertyRow
     {
         PropertyRow row = *this;
         row.get = reading;
-        row.writesBack = true;
         return row;
     }
 };
@@ -56,15 +54,13 @@ struct PropertyTable
     const PropertyRow *writer(std::string_view name) const;
 };
 
-// Stores what the reader answers into each property that asks for it; done before serialising.
-void writeBack(const PropertyTable &table, ControlValues &values, const platform::Screen &screen);
-
 // The flat array of texts: outer width and height in twips, then the table's order.
 QStringList serialise(const PropertyTable &table, const ControlValues &values, const platform::Screen &screen,
                       const QString &decimalMark);
 
-// The reverse. Throws RunTimeError when the array is too short or a text does not fit its property; the
-// values may then be changed in part.
+// The reverse. Each property keeps what its reader answers, so that values that were never set are settled.
+// Throws RunTimeError when the array is too short or a text does not fit its property; the values may then be
+// changed in part.
 void deserialise(const PropertyTable &table, ControlValues &values, const QStringList &texts,
                  const platform::Screen &screen, const QString &decimalMark);
 

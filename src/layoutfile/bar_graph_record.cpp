@@ -38,7 +38,6 @@ std::pair<Point, Point> barEnds(const BarGraphValues &values, const platform::Sc
 
 void gather(controls::OverlayControl &control, Gathering &save)
 {
-    control.writeBack();
     const BarGraphValues &values = static_cast<BarGraph &>(control).get();
     const auto [start, end] = barEnds(values, save.screen);
     save.groups.add(BarGraphRecord{start.x, start.y, end.x, end.y, values.curAlfa, values.curBarWidth,

@@ -10,8 +10,7 @@ using controls::GaugeValues;
 
 void gather(controls::OverlayControl &control, Gathering &save)
 {
-    control.writeBack();
-    const GaugeValues &values = static_cast<Gauge &>(control).get();
+    const GaugeValues values = controls::placed(static_cast<Gauge &>(control).get(), save.screen);
     save.groups.add(GaugeRecord{values.curCenterX, values.curCenterY, values.curPointerLength,
                                 values.curPointerWidth, values.curColour.yuv(), values.curMinAngle,
                                 values.curMaxAngle, values.curMin, values.curMax, values.curDefaultVal,

@@ -122,6 +122,22 @@ TEST_F(GaugeProperties, ARefusedApplyWritesNothing)
                     {"CenterX=40000 Min=3", {}}});
 }
 
+// Half the box is 85 pixels at this length; on the way past 0 a nudge must not land on it.
+TEST_F(GaugeProperties, APivotOfZeroIsTheMiddleOfTheBoxOnEveryPath)
+{
+    control.write("newCenterX", 0);
+    w.run("mnuNTSC");
+    EXPECT_EQ(control.get().curCenterX, 0);
+    EXPECT_TRUE(w.design().renderPreview().pixelColor(70 - 43, 270 + 21) == QColor(Qt::red)); // as it reads
+    pressed("cmdAdd", "CenterX=0 CenterY=0 PointerLen=80");
+    EXPECT_EQ(control.box(), (Box{0, 0, 2550, 2550}));
+    EXPECT_EQ(QPoint(control.get().curCenterX, control.get().curCenterY), QPoint(85, 85));
+    pressed("cmdAdd", "CenterX=1");
+    QTest::keyClick(&control, Qt::Key_Left);
+    EXPECT_EQ(control.pos(), QPoint(-86, 0));
+    EXPECT_EQ(control.get().curCenterX, -1);
+}
+
 TEST_F(GaugeProperties, CancelAndAnUntouchedApplyLeaveThemAsTheyAre)
 {
     control.write("newVarID", 10);
@@ -196,6 +212,7 @@ TEST_F(BarProperties, ARefusedApplyWritesNothing)
                     {"StartX=1 Alfa=100.5", "Invalid Alpha Value"},
                     {"StartX=1 Alfa=-1", "Invalid Alpha Value"},
                     {"Max=9 BarWidth=256", {}},
+                    {"Max=9 EndX=5000", {}}, // would be pushed out of reach on the left
                     {"Max=9 StartX=2300 EndX=2400", {}}});
 }
 

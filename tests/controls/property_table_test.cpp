@@ -30,11 +30,14 @@ TEST(Serialise, gaugeHasSixteenElementsInTheLocalesNumbers)
     GaugeValues copy;
     deserialise(gaugeProperties(), copy, inComma.split('|'), Usual, ",");
     EXPECT_EQ(textsOf(gaugeProperties(), copy), GaugeTexts);
-    // A pivot that was never set is half the box (1965 / 15 / 2 is 65.5), and the copy keeps that.
-    copy.curCenterY = 0;
-    writeBack(gaugeProperties(), copy, Usual);
+    // A pivot that was never set is half the box (1965 / 15 / 2 is 65.5). A copy keeps that, taking it does
+    // not.
+    values.curCenterY = 0;
+    deserialise(gaugeProperties(), copy, textsOf(gaugeProperties(), values).split('|'), Usual, ".");
     EXPECT_EQ(copy.curCenterY, 66);
-    EXPECT_EQ(copy.curCenterX, 360);
+    EXPECT_EQ(values.curCenterY, 0);
+    deserialise(gaugeProperties(), copy, QString(GaugeTexts).replace("|360|", "|0|").split('|'), Usual, ".");
+    EXPECT_EQ(copy.curCenterX, 65);
 }
 
 TEST(Serialise, barGraphHasThirteenElements)

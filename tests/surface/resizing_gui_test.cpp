@@ -51,4 +51,34 @@ TEST(Resizing, AGripTakesTheBoxAsFarAsItsKindAllows)
     }
 }
 
+// 255 pixels and the frame; a gauge's needle turns through twice that.
+TEST(Resizing, NothingGrowsPastWhatItsRecordHolds)
+{
+    constexpr float BarSide = 255 * 15 + 150;
+    constexpr float GaugeSide = 2 * 255 * 15 + 150;
+    for (const QPoint corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+        SCOPED_TRACE(QString("corner %1, %2").arg(corner.x()).arg(corner.y()).toStdString());
+        DesignWindow w;
+        for (const auto &[control, side] :
+             {std::pair<OverlayControl *, float>(&w.addGauge(580 - 580 * corner.x(), 436 - 436 * corner.y()),
+                                                 GaugeSide),
+              {&w.addBar(590 - 590 * corner.x(), 546 - 546 * corner.y()), BarSide}}) {
+            const QPoint grip(corner.x() ? control->width() - 2 : 2, corner.y() ? control->height() - 2 : 2);
+            test::drag(*control, grip, {(2 * corner - QPoint(1, 1)) * 560});
+            const Box grown = control->box();
+            EXPECT_EQ(QSizeF(grown.Width, grown.Height), QSizeF(side, side));
+            EXPECT_EQ(corner.x() ? grown.Left : 10800 - grown.right(), 0); // the far corner stands
+            EXPECT_EQ(corner.y() ? grown.Top : 8640 - grown.bottom(), 0);
+        }
+        for (const char *command : {"mnuPAL", "mnuNTSC"}) {
+            w.run(command);
+            for (OverlayControl *control : w.design().controls()) {
+                const Box shown = control->box();
+                control->AssignProperties();
+                EXPECT_EQ(control->box(), shown) << command;
+            }
+        }
+    }
+}
+
 } // namespace

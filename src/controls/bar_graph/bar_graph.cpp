@@ -15,7 +15,7 @@ using platform::skipFailures;
 
 namespace {
 
-constexpr float LongestBar = 255; // pixels, when dragged by a grip
+constexpr float LargestBar = 255; // length and thickness in pixels, when dragged by a grip
 
 PropertyValue innerWidth(const ControlValues &values, const platform::Screen &screen)
 {
@@ -65,6 +65,30 @@ const PropertyTable &barGraphProperties()
     return Table;
 }
 
+BarGraphValues placed(BarGraphValues values, qint16 length, recorder::VideoStandard standard,
+                      const platform::Screen &screen)
+{
+    Box &box = values.box;
+    if (values.isHorizontal()) {
+        box.Height = values.curBarWidth * screen.tx + BothFrames;
+        if (length > 0)
+            box.Width = length * screen.tx + BothFrames;
+    } else {
+        box.Width = values.curBarWidth * screen.tx + BothFrames;
+        if (length > 0)
+            box.Height = length * screen.ty + BothFrames;
+    }
+    const float x = pulledInto(values.curLeft / screen.tx, box.Width / screen.tx, FrameTwips / screen.tx,
+                               recorder::CanvasWidth);
+    const float y = pulledInto(values.curTop / screen.ty, box.Height / screen.ty, FrameTwips / screen.ty,
+                               static_cast<float>(recorder::canvasHeight(standard)));
+    values.curLeft = toInteger<qint16>(x * screen.tx);
+    values.curTop = toInteger<qint16>(y * screen.ty);
+    box.Left = values.curLeft - FrameTwips;
+    box.Top = values.curTop - FrameTwips;
+    return values;
+}
+
 QRectF filledPart(const BarGraphValues &values, const QRectF &area)
 {
     const double low = static_cast<double>(values.curMin);
@@ -90,25 +114,10 @@ QRectF filledPart(const BarGraphValues &values, const QRectF &area)
 
 void BarGraph::AssignProperties(qint16 length)
 {
-    Box sized = box();
-    if (m_values.isHorizontal()) {
-        sized.Height = m_values.curBarWidth * screen().tx + BothFrames;
-        if (length > 0)
-            sized.Width = length * screen().tx + BothFrames;
-    } else {
-        sized.Width = m_values.curBarWidth * screen().tx + BothFrames;
-        if (length > 0)
-            sized.Height = length * screen().ty + BothFrames;
-    }
-    setBox(sized);
-    const float x = pulledInto(m_values.curLeft / screen().tx, sized.Width / screen().tx,
-                               FrameTwips / screen().tx, recorder::CanvasWidth);
-    const float y =
-        pulledInto(m_values.curTop / screen().ty, sized.Height / screen().ty, FrameTwips / screen().ty,
-                   static_cast<float>(recorder::canvasHeight(host().VideoType())));
-    m_values.curLeft = toInteger<qint16>(x * screen().tx);
-    m_values.curTop = toInteger<qint16>(y * screen().ty);
-    emit Reposition(x * screen().tx - FrameTwips, y * screen().ty - FrameTwips);
+    const BarGraphValues standing = placed(m_values, length, host().VideoType(), screen());
+    set(standing);
+    setBox(standing.box);
+    emit Reposition(standing.box.Left, standing.box.Top);
 }
 
 void BarGraph::updatePosition()
@@ -119,17 +128,8 @@ void BarGraph::updatePosition()
 
 Box BarGraph::resizedBox(const Box &wanted, Handle handle) const
 {
-    Box limited = wanted;
-    if (m_values.isHorizontal()) {
-        limited.Width = std::min(wanted.Width, LongestBar * screen().tx + BothFrames);
-        if (movesLeft(handle))
-            limited.Left = wanted.right() - limited.Width;
-    } else {
-        limited.Height = std::min(wanted.Height, LongestBar * screen().ty + BothFrames);
-        if (movesTop(handle))
-            limited.Top = wanted.bottom() - limited.Height;
-    }
-    return limited;
+    return withSize(wanted, handle, std::min(wanted.Width, LargestBar * screen().tx + BothFrames),
+                    std::min(wanted.Height, LargestBar * screen().ty + BothFrames));
 }
 
 void BarGraph::applyResize()

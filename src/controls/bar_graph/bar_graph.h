@@ -28,6 +28,12 @@ struct BarGraphValues : ControlValues
 
 const PropertyTable &barGraphProperties();
 
+// The bar as it stands on a canvas of this standard: its box sized by the bar width and a length in pixels (0
+// or less keeps the length) and pulled in at the right and bottom edge. Throws RunTimeError when its place
+// does not fit.
+BarGraphValues placed(BarGraphValues values, qint16 length, recorder::VideoStandard standard,
+                      const platform::Screen &screen);
+
 // The filled part of a bar that occupies `area` at its default value; limited to the area.
 QRectF filledPart(const BarGraphValues &values, const QRectF &area);
 
@@ -42,8 +48,7 @@ public:
     float curWidth() const { return (box().Width - BothFrames) / screen().tx; }
     float curHeight() const { return (box().Height - BothFrames) / screen().ty; }
 
-    // Sizes the box from the bar width and a length in pixels (0 or less keeps the length) and pulls it into
-    // the canvas.
+    // Takes the place that placed() gives it.
     void AssignProperties(qint16 length);
     void AssignProperties() override { AssignProperties(0); }
 

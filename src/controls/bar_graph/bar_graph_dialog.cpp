@@ -118,8 +118,8 @@ void BarGraphDialog::write()
     values.curColourVariable = typed.colourVariable.variable;
     values.curColourVarMin = detail::toSingle(parseNumber(typed.colourVariable.minimum));
     values.curColourVarMax = detail::toSingle(parseNumber(typed.colourVariable.maximum));
+    m_bar.set(placed(values, length, m_bar.host().VideoType(), screen));
     m_length = length;
-    m_bar.set(values);
 }
 
 void BarGraphDialog::applied() { m_bar.AssignProperties(m_length); }

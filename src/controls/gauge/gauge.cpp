@@ -22,21 +22,33 @@ constexpr double NtscSqueeze = 480.0 / 576.0;
 // The resize rule works only between these sizes, twips.
 constexpr float SmallestBox = 150;
 constexpr float LargestBox = 7600;
+constexpr float LongestNeedle = 255; // pixels, when dragged by a grip
 
-qint32 halfInPixels(float size, float twipsPerPixel) { return toInteger<qint16>(size / twipsPerPixel / 2); }
+qint32 orHalf(qint16 stored, float size, float twipsPerPixel)
+{
+    return stored != 0 ? stored : toInteger<qint16>(size / twipsPerPixel / 2);
+}
 
-// A pivot that was never set reads as the middle of the box.
 PropertyValue centreX(const ControlValues &values, const platform::Screen &screen)
 {
-    const auto stored = static_cast<const GaugeValues &>(values).curCenterX;
-    return stored != 0 ? stored : halfInPixels(values.box.Width, screen.tx);
+    return pivot(static_cast<const GaugeValues &>(values), screen).x();
 }
 
 PropertyValue centreY(const ControlValues &values, const platform::Screen &screen)
 {
-    const auto stored = static_cast<const GaugeValues &>(values).curCenterY;
-    return stored != 0 ? stored : halfInPixels(values.box.Height, screen.ty);
+    return pivot(static_cast<const GaugeValues &>(values), screen).y();
 }
+
+// The corner, in canvas pixels, of a box that stands centred on the pivot. The horizontal unit serves both
+// directions: deliberate.
+QPointF cornerOf(const GaugeValues &values, const platform::Screen &screen)
+{
+    const double inset = static_cast<double>(values.curPointerLength + FrameTwips / screen.tx);
+    return pivot(values, screen) - QPointF(inset, inset);
+}
+
+// A pivot one step on. It passes over 0, which would read as the middle of the box.
+qint16 stepped(int place, int step) { return toInteger<qint16>(place + step != 0 ? place + step : step); }
 
 using V = GaugeValues;
 constexpr std::array Rows{
@@ -92,6 +104,27 @@ const PropertyTable &gaugeProperties()
     return Table;
 }
 
+QPoint pivot(const GaugeValues &values, const platform::Screen &screen)
+{
+    return {orHalf(values.curCenterX, values.box.Width, screen.tx),
+            orHalf(values.curCenterY, values.box.Height, screen.ty)};
+}
+
+GaugeValues placed(GaugeValues values, const platform::Screen &screen)
+{
+    // A box of this size gives the same length again by the resize rule.
+    const float side = 2.0F * values.curPointerLength * screen.tx + BothFrames;
+    values.box.Width = side;
+    values.box.Height = side;
+    const QPoint centre = pivot(values, screen);
+    values.curCenterX = toInteger<qint16>(centre.x());
+    values.curCenterY = toInteger<qint16>(centre.y());
+    const QPointF corner = cornerOf(values, screen);
+    values.box.Left = static_cast<float>(corner.x()) * screen.tx;
+    values.box.Top = static_cast<float>(corner.y()) * screen.ty;
+    return values;
+}
+
 std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot, VideoStandard standard)
 {
     const auto fraction = fractionOfScale(values);
@@ -105,35 +138,27 @@ std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot, Vid
                    pivot.y() + std::sin(r) * values.curPointerLength * squeeze}};
 }
 
-std::optional<Needle> previewNeedle(const GaugeValues &values, VideoStandard standard)
+std::optional<Needle> previewNeedle(const GaugeValues &values, VideoStandard standard,
+                                    const platform::Screen &screen)
 {
-    const QPointF pivot(values.curCenterX, values.curCenterY);
-    auto needle = designNeedle(values, pivot, standard);
+    const QPointF tail = pivot(values, screen);
+    auto needle = designNeedle(values, tail, standard);
     if (needle)
-        needle->tail = pivot;
+        needle->tail = tail;
     return needle;
 }
 
-// The horizontal unit serves both directions: deliberate.
 void Gauge::raiseReposition()
 {
-    const float frame = FrameTwips / screen().tx;
-    emit Reposition(static_cast<float>(m_values.curCenterX - m_values.curPointerLength) - frame,
-                    static_cast<float>(m_values.curCenterY - m_values.curPointerLength) - frame);
-}
-
-// The box of this length: it stands centred on its pivot, and the resize rule gives the same length again.
-Box Gauge::centredBox() const
-{
-    const float side = 2.0F * m_values.curPointerLength * screen().tx + BothFrames;
-    return {box().Left, box().Top, side, side};
+    const QPointF corner = cornerOf(m_values, screen());
+    emit Reposition(static_cast<float>(corner.x()), static_cast<float>(corner.y()));
 }
 
 void Gauge::AssignProperties()
 {
-    raiseReposition();
-    m_values.box = centredBox();
+    m_values = placed(m_values, screen());
     moveTo(box().Left, box().Top);
+    raiseReposition();
 }
 
 void Gauge::updatePosition()
@@ -172,34 +197,37 @@ void Gauge::applyResize()
     updatePosition();
 }
 
-// Kept square with the opposite corner fixed, as far as the canvas reaches.
+// Kept square with the opposite corner fixed, as far as the canvas and the needle reach.
 Box Gauge::resizedBox(const Box &wanted, Handle handle) const
 {
-    Box square = wanted;
     const float canvasWidth = recorder::CanvasWidth * screen().tx;
     const float room = movesLeft(handle) ? wanted.right() : canvasWidth - wanted.Left;
-    const float side = std::min(wanted.Height, room);
-    square.Width = side;
-    square.Height = side;
-    if (movesLeft(handle))
-        square.Left = wanted.right() - side;
-    if (movesTop(handle))
-        square.Top = wanted.bottom() - side;
-    return square;
+    const float side = std::min({wanted.Height, room, 2 * LongestNeedle * screen().tx + BothFrames});
+    return withSize(wanted, handle, side, side);
+}
+
+// Square at once: the resize rule lets a box be that is still too wide for it.
+void Gauge::fitCanvasHeight(float height)
+{
+    if (box().Height > height)
+        setBox({box().Left, box().Top, height, height});
+    OverlayControl::fitCanvasHeight(height);
 }
 
 void Gauge::applyInitialProperties()
 {
     set(GaugeValues());
     m_values.curPointerLength = toInteger<quint8>(box().Width / (2 * screen().tx));
-    setBox(centredBox());
+    const Box sized = placed(m_values, screen()).box;
+    setBox({box().Left, box().Top, sized.Width, sized.Height});
     updatePosition();
 }
 
 void Gauge::nudge(int dx, int dy)
 {
-    m_values.curCenterX = toInteger<qint16>(m_values.curCenterX + dx);
-    m_values.curCenterY = toInteger<qint16>(m_values.curCenterY + dy);
+    const QPoint from = pivot(m_values, screen());
+    m_values.curCenterX = stepped(from.x(), dx);
+    m_values.curCenterY = stepped(from.y(), dy);
     raiseReposition();
 }
 
@@ -215,7 +243,7 @@ void Gauge::paintInner(QPainter &painter, const QSize &size) const
 
 void Gauge::paintPreview(QPainter &painter) const
 {
-    paintNeedle(painter, m_values, previewNeedle(m_values, host().VideoType()));
+    paintNeedle(painter, m_values, previewNeedle(m_values, host().VideoType(), screen()));
 }
 
 double Gauge::complexity() const

@@ -26,6 +26,12 @@ struct GaugeValues : ControlValues
 
 const PropertyTable &gaugeProperties();
 
+// The pivot as it is read, canvas pixels: half the box where none was set.
+QPoint pivot(const GaugeValues &values, const platform::Screen &screen);
+// The gauge as it stands on the canvas: its box sized by the length and centred on the pivot, which is set to
+// what it reads as.
+GaugeValues placed(GaugeValues values, const platform::Screen &screen);
+
 // The needle of the gauge for its default value, about `pivot`, in pixels. Nothing when the scale or the
 // angles are empty.
 struct Needle
@@ -36,7 +42,8 @@ struct Needle
 std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot,
                                    recorder::VideoStandard standard);
 // The same needle as the recorder draws it: on the canvas, without the pixel behind the pivot.
-std::optional<Needle> previewNeedle(const GaugeValues &values, recorder::VideoStandard standard);
+std::optional<Needle> previewNeedle(const GaugeValues &values, recorder::VideoStandard standard,
+                                    const platform::Screen &screen);
 
 class Gauge final : public ControlOf<GaugeValues>
 {
@@ -51,6 +58,7 @@ public:
     void updatePosition() override;
     void applyResize() override;
     Box resizedBox(const Box &wanted, Handle handle) const override;
+    void fitCanvasHeight(float height) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1950, 1950}; }
     void paintPreview(QPainter &painter) const override;
@@ -66,7 +74,6 @@ protected:
 
 private:
     void raiseReposition();
-    Box centredBox() const;
 };
 
 } // namespace controls

@@ -89,7 +89,7 @@ void GaugeDialog::write()
     values.curColourVariable = typed.colourVariable.variable;
     values.curColourVarMin = detail::toSingle(parseNumber(typed.colourVariable.minimum));
     values.curColourVarMax = detail::toSingle(parseNumber(typed.colourVariable.maximum));
-    m_gauge.set(values);
+    m_gauge.set(placed(values, m_gauge.host().screen()));
 }
 
 void GaugeDialog::applied()
