@@ -82,7 +82,8 @@ public:
     void setBackImage(const QImage &capture);
     // The inner area within the widget, pixels.
     QRect innerRect() const;
-    // The variable in its first binding; written by a drop from the variable tree.
+    // Whether the family shows a variable, so that one can be dropped on it from the variable tree.
+    bool takesVariable() const { return properties().reader("curVarID") != nullptr; }
     void bindVariable(qint32 variable);
 
     void mnuCopy_Click();

@@ -205,7 +205,7 @@ void OverlayControl::contextMenuEvent(QContextMenuEvent *event)
 
 void OverlayControl::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!isFrozen() && event->mimeData()->hasFormat(VariableMime))
+    if (!isFrozen() && takesVariable() && event->mimeData()->hasFormat(VariableMime))
         event->acceptProposedAction();
 }
 

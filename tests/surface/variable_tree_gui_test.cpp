@@ -121,6 +121,27 @@ TEST(VariableTree, TheSearchIsOverWhenItsBoxIsEmpty)
     EXPECT_TRUE(standard->isExpanded());
 }
 
+// A family that shows no variable.
+struct Plain final : controls::ControlOf<controls::ControlValues>
+{
+    using ControlOf::ControlOf;
+    void updatePosition() override {}
+    void AssignProperties() override {}
+    void applyInitialProperties() override {}
+    QSizeF startSize() const override { return {}; }
+    void paintPreview(QPainter &) const override {}
+    double complexity() const override { return 0; }
+
+protected:
+    const controls::PropertyTable &properties() const override
+    {
+        static constexpr controls::PropertyTable None;
+        return None;
+    }
+    void paintInner(QPainter &, const QSize &) const override {}
+    void nudge(int, int) override {}
+};
+
 TEST(VariableTree, AVariableDroppedOnAControlIsBoundToIt)
 {
     DesignWindow w;
@@ -129,6 +150,13 @@ TEST(VariableTree, AVariableDroppedOnAControlIsBoundToIt)
         test::drop(*control, {20, 15}, controls::VariableMime, "3");
         EXPECT_EQ(test::whole(*control, "curVarID"), 3);
     }
+    Plain plain(controls::families().front(), w.design(), &w.canvas());
+    QMimeData variable;
+    variable.setData(controls::VariableMime, "3");
+    QDragEnterEvent over({5, 5}, Qt::CopyAction, &variable, Qt::LeftButton, {});
+    over.ignore();
+    QApplication::sendEvent(&plain, &over);
+    EXPECT_FALSE(over.isAccepted());
     test::drop(w.canvas(), {600, 500}, controls::VariableMime, "3");
     EXPECT_EQ(w.design().controls().size(), 2);
 }
