@@ -48,19 +48,20 @@ Canvas::Canvas(QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void Canvas::display(const QPixmap &picture, const CanvasRules &rules, bool dots)
+void Canvas::display(const QPixmap &background, const CanvasRules &rules, bool dots)
 {
     m_screen = rules.screen;
-    m_picture = picture;
     const QSize size(recorder::CanvasWidth, recorder::canvasHeight(rules.standard));
     setFixedSize(size);
-    m_backdrop = QPixmap(size);
-    m_backdrop.fill(Qt::black);
-    QPainter painter(&m_backdrop);
-    painter.drawPixmap(0, 0, picture);
-    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
-    if (dots)
+    m_picture = QPixmap(size);
+    m_picture.fill(Qt::black);
+    QPainter(&m_picture).drawPixmap(0, 0, background);
+    m_backdrop = m_picture;
+    if (dots) {
+        QPainter painter(&m_backdrop);
+        painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
         paintDots(painter, size, rules);
+    }
     update();
 }
 

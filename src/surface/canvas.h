@@ -21,9 +21,10 @@ class Canvas final : public QWidget
 public:
     explicit Canvas(QWidget *parent);
 
-    // Sizes the canvas to the rules' standard and draws the picture, with dots if they are to be seen.
-    void display(const QPixmap &picture, const CanvasRules &rules, bool dots);
-    // Picture and dots.
+    // Sizes the canvas to the rules' standard and draws the background at its top left, with dots if they are
+    // to be seen.
+    void display(const QPixmap &background, const CanvasRules &rules, bool dots);
+    // The background on a canvas of its standard, with and without dots.
     const QPixmap &backdrop() const { return m_backdrop; }
     const QPixmap &picture() const { return m_picture; }
 

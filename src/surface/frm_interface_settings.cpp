@@ -1,5 +1,6 @@
 // The design window's start, its background pictures and grid, and what it keeps in the settings file.
 
+#include "graphics/picture_loader.h"
 #include "surface/canvas.h"
 #include "surface/frm_interface.h"
 #include "surface/library_icons.h"
@@ -59,9 +60,8 @@ void frmInterface::loadBackground(VideoStandard standard)
     const SettingsFile file(m_context.folders.ConfigFile());
     const QString path =
         platform::nameWithin(m_context.folders.GetAppDataFolder(), background.key.read(file));
-    QPixmap loaded;
-    if (!path.isEmpty() && loaded.load(path))
-        picture = loaded;
+    if (const auto loaded = graphics::loadPicture(path))
+        picture = QPixmap::fromImage(loaded.picture);
     else if (picture.isNull())
         picture.load(QLatin1String(background.builtIn));
 }

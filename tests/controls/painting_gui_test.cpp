@@ -105,17 +105,23 @@ TEST(BarPainting, TheBarGrowsFromItsZeroEnd)
     }
 }
 
-TEST(Preview, HasTheSizeOfTheCanvasWhateverThatOfTheBackground)
+// A background that its user chose for something else.
+TEST(Canvas, ABackgroundOfAnotherSizeStandsAtTheTopLeftAndOneTooLargeIsRefused)
 {
-    for (const QSize &size : {QSize(100, 50), QSize(2000, 1000)}) {
-        QPixmap background(size);
-        background.fill(Red);
-        const QImage picture = surface::overlayPicture({720, 480}, background, {});
-        EXPECT_EQ(picture.size(), QSize(720, 480));
-        for (const QPoint &place : {QPoint(0, 0), QPoint(99, 49), QPoint(100, 49), QPoint(719, 479)}) {
-            const bool covered = QRect({}, size).contains(place);
-            EXPECT_EQ(picture.pixelColor(place), covered ? Red : QColor(Qt::black)) << place.x();
-        }
+    DesignWindow w;
+    const QString file = w.world.state.folders.inUserData("PALVIDEOBackImg.bmp");
+    const auto picture = [&](QSize size) {
+        QImage ground(size, QImage::Format_RGB32);
+        ground.fill(Blue);
+        EXPECT_TRUE(ground.save(file));
+        w.run("mnuPAL");
+        return w.design().renderPreview();
+    };
+    for (const QSize size : {QSize(100, 700), QSize(5000, 10)}) {
+        const QImage shown = picture(size);
+        EXPECT_EQ(shown.size(), QSize(720, 576));
+        EXPECT_EQ(shown.pixelColor(99, 575), Blue);
+        EXPECT_EQ(shown.pixelColor(100, 0), QColor(Qt::black));
     }
 }
 
