@@ -167,7 +167,8 @@ void OverlayControl::keyPressEvent(QKeyEvent *event)
         mnuProperties_Click();
         break;
     case Qt::Key_Delete:
-        mnuDelete_Click();
+        if (!event->isAutoRepeat()) // a key that is held deletes this control only
+            mnuDelete_Click();
         break;
     default:
         QWidget::keyPressEvent(event);

@@ -87,16 +87,16 @@ struct CommandTable
          [](frmMain &w) { w.sendKey(Qt::Key_Right); }},
         {"Toolbar", "", "", "", "", false, nullptr},
         {"Toolbar", "cmdPrevious", "Previous control", "toolbar/previous", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Backtab, Qt::ShiftModifier); }},
+         [](frmMain &w) { w.m_design->stepControl(false); }},
         {"Toolbar", "cmdNext", "Next control", "toolbar/next", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Tab); }},
+         [](frmMain &w) { w.m_design->stepControl(true); }},
         {"Toolbar", "", "", "", "", false, nullptr},
         {"Toolbar", "cmdEnter", "Properties of the selected control", "toolbar/properties", "", false,
          [](frmMain &w) { w.sendKey(Qt::Key_Return); }},
         {"mnuDropDown3", "mnuDelete_C", "&Delete", "menu/delete", "", false,
-         [](frmMain &w) { w.m_currentControl->mnuDelete_Click(); }},
+         [](frmMain &w) { w.sendKey(Qt::Key_Delete); }},
         {"mnuDropDown3", "mnuProperties_C", "P&roperties", "toolbar/properties", "", false,
-         [](frmMain &w) { w.m_currentControl->mnuProperties_Click(); }},
+         [](frmMain &w) { w.sendKey(Qt::Key_Return); }},
     };
 };
 
@@ -237,10 +237,7 @@ void frmMain::makePopups()
             m_controlPopup.addAction(makeAction(row));
     }
     connect(m_design, &surface::frmInterface::controlMenuRequested, this,
-            [this](controls::OverlayControl *control, const QPoint &position) {
-                m_currentControl = control;
-                m_controlPopup.popup(position);
-            });
+            [this](const QPoint &position) { m_controlPopup.popup(position); });
 }
 
 void frmMain::refreshFromState()
@@ -260,13 +257,12 @@ void frmMain::refreshFromState()
     m_bitRate->setToolTip(m_bitRate->text());
 }
 
-// Toolbar buttons do not take the focus, so the key reaches the control that has it.
-void frmMain::sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
+// Acts on the current control as its keys do, wherever the focus is.
+void frmMain::sendKey(Qt::Key key)
 {
-    const QPointer<QWidget> target = QApplication::focusWidget();
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers);
-        if (target)
+        QKeyEvent event(type, key, Qt::NoModifier);
+        if (controls::OverlayControl *target = m_design->currentControl())
             QApplication::sendEvent(target, &event);
     }
 }

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
-#include <QPointer>
 
 namespace shell {
 
@@ -40,7 +39,7 @@ private:
     QAction *makeAction(const CommandRow &row);
     QAction *action(const char *name) const;
     void fillAddMenu(QMenu &menu, const QString &prefix);
-    void sendKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void sendKey(Qt::Key key);
 
     ProgramState &m_state;
     platform::Prompts &m_prompts;
@@ -51,7 +50,6 @@ private:
     QMenu m_addControl;   // shared by the menu bar and the canvas popup
     QMenu m_canvasPopup;  // mnuDropDown
     QMenu m_controlPopup; // mnuDropDown3
-    QPointer<controls::OverlayControl> m_currentControl;
     QLabel *m_position;
     QLabel *m_standard;
     QLabel *m_bitRate;

@@ -141,4 +141,13 @@ void Canvas::dropEvent(QDropEvent *event)
     emit dropped(QString::fromUtf8(event->mimeData()->data(LibraryMime)), twips(event->position()));
 }
 
+// The controls ask here too, as their parent. A canvas that is being closed lets the focus go.
+bool Canvas::focusNextPrevChild(bool forward)
+{
+    if (!isVisible())
+        return QWidget::focusNextPrevChild(forward);
+    emit stepped(forward);
+    return true;
+}
+
 } // namespace surface

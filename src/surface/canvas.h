@@ -34,6 +34,7 @@ signals:
     void moved(QPointF twips);
     void bandFinished(QPointF startTwips, QPointF endTwips);
     void dropped(const QString &key, QPointF twips);
+    void stepped(bool forward); // Tab and Shift+Tab, here or on a control
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -43,6 +44,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    bool focusNextPrevChild(bool forward) override;
 
 private:
     QPointF twips(QPointF pixels) const;

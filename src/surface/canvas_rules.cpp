@@ -99,6 +99,15 @@ bool bandHolds(QPointF start, QPointF end, const Box &box)
     return between(start.x(), end.x(), box.Left) && between(start.y(), end.y(), box.Top);
 }
 
+qsizetype stepInRing(qsizetype count, qsizetype from, bool forward)
+{
+    if (count == 0)
+        return -1;
+    if (from < 0)
+        return forward ? 0 : count - 1;
+    return (from + (forward ? 1 : count - 1)) % count;
+}
+
 QString positionText(QPointF twips, const platform::Screen &screen)
 {
     return QStringLiteral("Pos (x, y) : %1, %2")

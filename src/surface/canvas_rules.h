@@ -52,6 +52,10 @@ bool isSelectingBand(QPointF start, QPointF end);
 // Only the top-left corner of a control counts; edges are inside.
 bool bandHolds(QPointF start, QPointF end, const Box &box);
 
+// The next or previous of `count` things that stand in a ring; from none (-1) to the first or last. -1 when
+// there are none.
+qsizetype stepInRing(qsizetype count, qsizetype from, bool forward);
+
 // "Pos (x, y) : " with whole pixels.
 QString positionText(QPointF twips, const platform::Screen &screen);
 

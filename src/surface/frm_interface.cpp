@@ -24,7 +24,8 @@ const QString UntitledCaption = QStringLiteral("Untitled");
 } // namespace
 
 frmInterface::frmInterface(const InterfaceContext &context)
-    : m_context(context), m_canvas(new Canvas(nullptr)), m_library(new LibraryPanel(context.folders)),
+    : m_context(context), m_canvas(new Canvas(nullptr)), m_canvasView(new QScrollArea),
+      m_library(new LibraryPanel(context.folders)),
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
       m_caption(UntitledCaption)
 {
@@ -44,20 +45,21 @@ frmInterface::~frmInterface() = default;
 
 QWidget *frmInterface::makeDesignPanel()
 {
-    auto *scroll = new QScrollArea;
-    scroll->setWidget(m_canvas);
-    scroll->setAlignment(Qt::AlignCenter);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setBackgroundRole(QPalette::Mid);
-    return scroll;
+    m_canvasView->setWidget(m_canvas);
+    m_canvasView->setAlignment(Qt::AlignCenter);
+    m_canvasView->setFrameShape(QFrame::NoFrame);
+    m_canvasView->setBackgroundRole(QPalette::Mid);
+    m_canvasView->setFocusProxy(m_canvas);
+    return m_canvasView;
 }
 
 void frmInterface::connectCanvas()
 {
     connect(m_canvas, &Canvas::pressed, this, [this](QPointF twips) {
         m_lastMousePosition = twips;
-        ResetControlGridColour();
+        chooseNone();
     });
+    connect(m_canvas, &Canvas::stepped, this, &frmInterface::stepControl);
     connect(m_canvas, &Canvas::rightPressed, this, [this](QPointF twips, const QPoint &globalPosition) {
         m_lastMousePosition = twips;
         if (m_IsPlayMode)
@@ -74,15 +76,15 @@ void frmInterface::connectCanvas()
             [this](QPointF twips) { emit positionShown(positionText(twips, screen())); });
     connect(m_canvas, &Canvas::bandFinished, this, &frmInterface::selectBand);
     const auto addByKey = [this](const QString &key, QPointF twips) {
-        ResetControlGridColour();
+        chooseNone();
         if (const controls::Family *family = controls::familyOfKey(key))
             addControl(family->type, twips);
     };
     connect(m_canvas, &Canvas::dropped, this, addByKey);
     connect(m_library, &LibraryPanel::activated, this,
             [this, addByKey](const QString &key) { addByKey(key, m_lastMousePosition); });
-    connect(m_library, &LibraryPanel::used, this, &frmInterface::ResetControlGridColour);
-    connect(m_variables, &VariableTree::used, this, &frmInterface::ResetControlGridColour);
+    connect(m_library, &LibraryPanel::used, this, &frmInterface::chooseNone);
+    connect(m_variables, &VariableTree::used, this, &frmInterface::chooseNone);
 }
 
 CanvasRules frmInterface::rules() const { return {m_context.screen, VideoType(), m_grid}; }
@@ -158,13 +160,45 @@ void frmInterface::connectControl(OverlayControl *control)
     connect(control, &OverlayControl::ResizeDrag, this, resize);
     connect(control, &OverlayControl::Resize, this, resize);
     connect(control, &OverlayControl::Delete, this, [this, control] {
+        releaseCurrent();
         m_registry.unload(control);
         emit designChanged();
     });
     connect(control, &OverlayControl::Reposition, this,
             [this, control](float x, float y) { reposition(*control, x, y); });
     connect(control, &OverlayControl::DrawBack, this, [this, control] { drawBack(*control); });
-    connect(control, &OverlayControl::BringToFront, control, &QWidget::raise);
+    connect(control, &OverlayControl::BringToFront, this, [this, control] { choose(*control); });
+}
+
+void frmInterface::choose(OverlayControl &control)
+{
+    control.raise();
+    m_current = &control;
+}
+
+// A choice that is not seen any more would be nudged and deleted unseen.
+void frmInterface::chooseNone()
+{
+    ResetControlGridColour();
+    m_current = nullptr;
+}
+
+void frmInterface::stepControl(bool forward)
+{
+    const QList<OverlayControl *> all = controls();
+    const qsizetype next = stepInRing(all.size(), all.indexOf(m_current.data()), forward);
+    if (next < 0)
+        return;
+    all[next]->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    m_canvasView->ensureWidgetVisible(all[next]);
+}
+
+// Hiding a control that has the focus would hand it to the next one, and so choose that.
+void frmInterface::releaseCurrent()
+{
+    m_current = nullptr;
+    if (m_canvas->isAncestorOf(window()->focusWidget()))
+        m_canvas->setFocus();
 }
 
 void frmInterface::MoveTo(OverlayControl &control, QPointF start, QPointF now)
@@ -197,6 +231,8 @@ void frmInterface::reposition(OverlayControl &control, float x, float y)
     else
         control.moveTo(x * screen().tx, y * screen().ty);
     emit designChanged();
+    if (m_current == &control) // others are placed by a load
+        showPosition(control);
 }
 
 void frmInterface::showPosition(const OverlayControl &control)
@@ -239,7 +275,8 @@ QImage frmInterface::renderPreview() const
 
 void frmInterface::showControlMenu(OverlayControl &control, const QPoint &globalPosition)
 {
-    emit controlMenuRequested(&control, globalPosition);
+    m_current = &control;
+    emit controlMenuRequested(globalPosition);
 }
 
 void frmInterface::showGroupMenu(const QPoint &globalPosition) { emit groupMenuRequested(globalPosition); }
@@ -262,6 +299,7 @@ void frmInterface::selectBand(QPointF start, QPointF end)
 
 void frmInterface::mnuNew_Click()
 {
+    releaseCurrent();
     m_registry.clear();
     recorder::resetForNewLayout(m_context.settings, m_context.startMessages);
     setCaption(UntitledCaption);

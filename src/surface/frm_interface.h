@@ -12,6 +12,8 @@
 #include <QPointer>
 #include <QWidget>
 
+class QScrollArea;
+
 namespace surface {
 
 class Canvas;
@@ -51,6 +53,11 @@ public:
     void addControl(controls::ControlType family, QPointF twips);
     void addControlAtLastPosition(controls::ControlType family) { addControl(family, m_lastMousePosition); }
 
+    // The control that was chosen last; null when it is gone or the choice was taken back.
+    controls::OverlayControl *currentControl() const { return m_current; }
+    // To the next or previous control in the order of the layout, round and round.
+    void stepControl(bool forward);
+
     const QString &caption() const { return m_caption; }
     void setCaption(const QString &name);
     PanelArea &panels() { return *m_panels; }
@@ -82,7 +89,7 @@ public:
 
 signals:
     void positionShown(const QString &text);
-    void controlMenuRequested(controls::OverlayControl *control, const QPoint &globalPosition);
+    void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void canvasMenuRequested(const QPoint &globalPosition);
     void groupMenuRequested(const QPoint &globalPosition);
     void designChanged(); // by a user's hand
@@ -93,6 +100,9 @@ private:
     QWidget *makeDesignPanel();
     void connectCanvas();
     void connectControl(controls::OverlayControl *control);
+    void choose(controls::OverlayControl &control);
+    void chooseNone();
+    void releaseCurrent(); // before controls go
     void loadBackground(recorder::VideoStandard standard);
     void initGrid(const Grid &grid);
     void ShowGrid();
@@ -109,7 +119,9 @@ private:
 
     InterfaceContext m_context;
     ControlRegistry m_registry;
+    QPointer<controls::OverlayControl> m_current;
     Canvas *m_canvas;
+    QScrollArea *m_canvasView;
     LibraryPanel *m_library;
     VariableTree *m_variables;
     PanelArea *m_panels;

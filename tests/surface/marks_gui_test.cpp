@@ -24,6 +24,7 @@ struct Marks : testing::Test
     BarGraph &two = w.addBar(100, 200);
     BarGraph &three = w.addBar(300, 200);
 
+    void focusLibrary() { w.window.findChild<QWidget *>("lvControl")->setFocus(); }
     QList<QColor> frames() { return {frame(one), frame(two), frame(three)}; }
     QList<bool> grouped()
     {
@@ -128,6 +129,36 @@ TEST_F(Marks, TabAndTheToolbarStepThroughTheControlsInTheirOrder)
     EXPECT_TRUE(two.hasFocus());
     w.pressToolButton("cmdPrevious");
     EXPECT_TRUE(one.hasFocus());
+    QTest::keyClick(&one, Qt::Key_Backtab, Qt::ShiftModifier); // round and round
+    EXPECT_TRUE(three.hasFocus());
+    focusLibrary();
+    w.pressToolButton("cmdNext");
+    EXPECT_TRUE(one.hasFocus());
+    click(w.canvas(), {20, 20});
+    QTest::keyClick(&w.canvas(), Qt::Key_Tab);
+    EXPECT_TRUE(one.hasFocus());
+}
+
+TEST_F(Marks, AHeldDeleteKeyDeletesOneControlAndChoosesNoOther)
+{
+    click(two, Inside);
+    for (const bool repeated : {false, true, true})
+        QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_Delete, {}, {}, repeated);
+    EXPECT_EQ(w.design().controls(), (QList<OverlayControl *>{&one, &three}));
+    EXPECT_EQ(w.design().currentControl(), nullptr);
+    EXPECT_EQ(frame(one), White);
+    EXPECT_EQ(frame(three), White);
+    const QPoint place = three.pos();
+    for (const char *command : {"cmdLeft", "cmdEnter", "mnuDelete_C", "mnuProperties_C"})
+        w.run(command);
+    EXPECT_EQ(three.pos(), place);
+    one.setFocus();
+    QTest::simulateEvent(&one, true, Qt::Key_Delete, {}, {}, true); // held since before it had the focus
+    EXPECT_EQ(w.design().controls().size(), 2);
+    w.world.prompts.expectQuestion("Do you want to clear design area ?", true);
+    w.run("mnuNew");
+    EXPECT_EQ(w.design().currentControl(), nullptr);
+    EXPECT_TRUE(w.canvas().hasFocus());
 }
 
 TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)
@@ -145,9 +176,11 @@ TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)
     w.window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&w.window));
     gauge.setFocus();
+    focusLibrary();
     QTimer::singleShot(0, &w.window, closeDialog);
     w.pressToolButton("cmdEnter");
     EXPECT_EQ(title, "Analogue Dial Properties");
+    EXPECT_EQ(w.design().controls().size(), 4);
     QTimer::singleShot(0, &w.window, closeDialog);
     QTest::keyClick(&one, Qt::Key_Space);
     EXPECT_EQ(title, "Bar Graph Properties");

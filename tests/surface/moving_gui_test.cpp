@@ -65,6 +65,7 @@ TEST(Moving, ADragLastsUntilTheButtonIsReleasedOrFoundReleased)
 void expectSteadyPlace(DesignWindow &w, OverlayControl &control)
 {
     const QPoint place = control.pos();
+    control.setFocus();
     if (auto *gauge = qobject_cast<Gauge *>(&control)) {
         const int inset = 5 + gauge->get().curPointerLength;
         EXPECT_EQ(QPoint(gauge->get().curCenterX, gauge->get().curCenterY), place + QPoint(inset, inset));
@@ -74,7 +75,8 @@ void expectSteadyPlace(DesignWindow &w, OverlayControl &control)
     QTest::keyClick(&control, Qt::Key_Right);
     QTest::keyClick(&control, Qt::Key_Down);
     EXPECT_EQ(control.pos(), place + QPoint(1, 1));
-    control.setFocus();
+    const QPointF corner(control.box().Left, control.box().Top);
+    EXPECT_EQ(w.text("lblPosition"), surface::positionText(corner, {}));
     w.pressToolButton("cmdUp");
     w.pressToolButton("cmdLeft");
     EXPECT_EQ(control.pos(), place);
