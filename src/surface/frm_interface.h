@@ -57,6 +57,8 @@ public:
     controls::OverlayControl *currentControl() const { return m_current; }
     // To the next or previous control in the order of the layout, round and round.
     void stepControl(bool forward);
+    // The panels and the library's bar as a first start lays them out.
+    void resetPanels();
 
     const QString &caption() const { return m_caption; }
     void setCaption(const QString &name);

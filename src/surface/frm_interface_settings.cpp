@@ -101,6 +101,12 @@ void frmInterface::setVideoStandard(VideoStandard standard)
     emit layoutChanged();
 }
 
+void frmInterface::resetPanels()
+{
+    m_panels->reset();
+    m_library->resetBar();
+}
+
 void frmInterface::GenerateIcons(platform::Progress &progress)
 {
     m_capturing = true;

@@ -13,6 +13,8 @@ namespace {
 constexpr const platform::PanelKeys &Bar = platform::keys::LibrarySplitter;
 constexpr int KeyRole = Qt::UserRole;
 constexpr QSize PictureSize(72, 72);
+constexpr int TreeShare = 1; // of the panel, beside the list
+constexpr int ListShare = 2;
 const QString PanelFont = QStringLiteral("QL Sans Serif");
 constexpr int PanelFontPoints = 8;
 
@@ -54,8 +56,8 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
     m_list->setFont(font);
     addWidget(m_tree);
     addWidget(m_list);
-    setStretchFactor(0, 1);
-    setStretchFactor(1, 2);
+    setStretchFactor(0, TreeShare);
+    setStretchFactor(1, ListShare);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &LibraryPanel::loadControlList);
     connect(m_tree, &QTreeWidget::itemActivated, this,
             [this](const QTreeWidgetItem *item) { emit activated(item->data(0, KeyRole).toString()); });
@@ -87,6 +89,14 @@ void LibraryPanel::restoreBar(const platform::SettingsFile &file, float twipsPer
         return;
     setStretchFactor(0, 0); // the tree keeps its width, the list takes what is left
     setSizes({toPixels(Bar.left.read(file), twipsPerPixel), 1});
+}
+
+void LibraryPanel::resetBar()
+{
+    setStretchFactor(0, TreeShare);
+    const int room = width() - handleWidth();
+    const int tree = room * TreeShare / (TreeShare + ListShare);
+    setSizes({tree, room - tree});
 }
 
 void LibraryPanel::saveBar(platform::SettingsFile &file, float twipsPerPixel) const

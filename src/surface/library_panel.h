@@ -24,6 +24,7 @@ public:
     // The place of the bar between tree and list in the settings file; what is stored stays while the panel
     // is closed.
     void restoreBar(const platform::SettingsFile &file, float twipsPerPixel);
+    void resetBar(); // as it stands when none is stored
     void saveBar(platform::SettingsFile &file, float twipsPerPixel) const;
     // Key of the selected node; empty when none is.
     QString selectedKey() const;

@@ -25,6 +25,14 @@ Qt::CursorShape pointerOf(Qt::Edges edges)
     return edges ? Qt::SizeVerCursor : Qt::ArrowCursor;
 }
 
+// The first place that Tab reaches from here on.
+QWidget *firstStop(QWidget *from)
+{
+    while (!(from->focusPolicy() & Qt::TabFocus))
+        from = from->nextInFocusChain();
+    return from;
+}
+
 } // namespace
 
 Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
@@ -58,6 +66,13 @@ Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
     layout->setSpacing(2);
     layout->addLayout(bar);
     layout->addWidget(content, 1);
+}
+
+void Panel::takeFocus()
+{
+    raise();
+    QWidget *last = focusWidget();
+    (last ? last : firstStop(m_content))->setFocus(Qt::ShortcutFocusReason);
 }
 
 Qt::Edges Panel::edgesAt(const QPoint &position) const

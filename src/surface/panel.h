@@ -19,6 +19,9 @@ public:
         setAccessibleName(title);
     }
 
+    // Gives the keyboard focus to what had it last in this panel, at first to its content.
+    void takeFocus();
+
 signals:
     void closeRequested();
     void arranged(); // by the user, at every step

@@ -1,5 +1,7 @@
 #include "surface/panel_area.h"
 
+#include "surface/canvas_rules.h"
+
 #include <QResizeEvent>
 
 namespace surface {
@@ -39,6 +41,30 @@ void PanelArea::setPanelVisible(PanelId id, bool visible)
     if (visible)
         panel(id).raise();
     emit visibilityChanged(id, visible);
+}
+
+void PanelArea::stepPanel(bool forward)
+{
+    const QWidget *focused = window()->focusWidget();
+    QList<Panel *> open;
+    qsizetype from = -1;
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        if (!m_visible[i])
+            continue;
+        if (m_panels[i]->isAncestorOf(focused))
+            from = open.size();
+        open.append(m_panels[i]);
+    }
+    if (const qsizetype next = stepInRing(open.size(), from, forward); next >= 0)
+        open[next]->takeFocus();
+}
+
+void PanelArea::reset()
+{
+    m_automatic = true;
+    arrange(size());
+    for (std::size_t i = 0; i < m_panels.size(); ++i)
+        setPanelVisible(static_cast<PanelId>(i), true);
 }
 
 void PanelArea::restore(const platform::SettingsFile &file)
@@ -86,11 +112,13 @@ PanelRects PanelArea::current() const
     return rects;
 }
 
-void PanelArea::resizeEvent(QResizeEvent *event)
+void PanelArea::resizeEvent(QResizeEvent *event) { arrange(event->size()); }
+
+void PanelArea::arrange(const QSize &area)
 {
-    PanelRects rects = m_automatic ? defaultPanels(event->size()) : m_wanted;
+    const PanelRects rects = m_automatic ? defaultPanels(area) : m_wanted;
     for (std::size_t i = 0; i < rects.size(); ++i)
-        m_panels[i]->setGeometry(pulledIntoView(rects[i], event->size()));
+        m_panels[i]->setGeometry(pulledIntoView(rects[i], area));
 }
 
 } // namespace surface

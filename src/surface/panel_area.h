@@ -24,6 +24,11 @@ public:
     bool isPanelVisible(PanelId id) const { return m_visible[static_cast<std::size_t>(id)]; }
     void setPanelVisible(PanelId id, bool visible);
 
+    // The keyboard focus to the next or previous open panel, where it was last inside it.
+    void stepPanel(bool forward);
+    // All panels open, where a first start lays them out.
+    void reset();
+
     void restore(const platform::SettingsFile &file);
     void save(platform::SettingsFile &file) const;
 
@@ -35,6 +40,7 @@ protected:
 
 private:
     PanelRects current() const;
+    void arrange(const QSize &area);
 
     float m_twipsPerPixel;
     std::array<Panel *, 3> m_panels{};
