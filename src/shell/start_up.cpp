@@ -23,6 +23,7 @@ using recorder::VideoStandard;
 
 StartUp::StartUp(const StartUpInput &input, platform::Prompts &prompts) : m_input(input), m_prompts(prompts)
 {
+    m_since.start();
     m_state.folders = input.folders;
     m_state.locale = input.locale;
     m_state.stamp = input.stamp;
@@ -124,12 +125,10 @@ void StartUp::showWindows()
 {
     m_window = std::make_unique<frmMain>(m_state, m_prompts);
     m_window->files().readLastFolder();
-    frmStartSplash splash(m_state.folders, nullptr);
-    splash.show();
-    splash.repaint();
-    QApplication::processEvents();
+    showSplashWhenLate();
     m_window->design().load();
     m_window->refreshFromState();
+    showSplashWhenLate();
     m_window->resize(m_window->screen()->availableSize()); // boxes open in its middle before it is maximised
     m_window->showMaximized();
     platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
@@ -138,6 +137,18 @@ void StartUp::showWindows()
         m_window->design().GenerateIcons(busy);
     }
     m_window->activateWindow();
+    m_splash.reset();
+}
+
+// A quick start does not flash a picture that nobody could look at.
+void StartUp::showSplashWhenLate()
+{
+    if (m_splash || m_since.elapsed() < platform::Busy::Lasts)
+        return;
+    m_splash = std::make_unique<frmStartSplash>(m_state.folders, nullptr);
+    m_splash->show();
+    m_splash->repaint();
+    QApplication::processEvents();
 }
 
 void StartUp::chooseFirstLayout()

@@ -3,9 +3,13 @@
 #include "shell/command_line.h"
 #include "shell/frm_main.h"
 
+#include <QElapsedTimer>
+
 #include <memory>
 
 namespace shell {
+
+class frmStartSplash;
 
 // Where the raw material of a start comes from; tests fill it by hand.
 struct StartUpInput
@@ -37,6 +41,7 @@ private:
     bool checkExpressions();
     void missingFile(const QString &name);
     void showWindows();
+    void showSplashWhenLate();
     void chooseFirstLayout();
     bool offerLayout(const QString &path, const QString &question);
 
@@ -45,6 +50,8 @@ private:
     CommandLine m_commandLine;
     ProgramState m_state;
     std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<frmStartSplash> m_splash;
+    QElapsedTimer m_since;
 };
 
 } // namespace shell

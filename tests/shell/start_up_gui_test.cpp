@@ -237,30 +237,6 @@ TEST_F(Start, AClosedPanelStaysClosedAndKeepsItsBarUntilTheViewMenuBringsItBack)
     EXPECT_EQ(program->window()->findChild<surface::LibraryPanel *>()->sizes(), sizes);
 }
 
-TEST_F(Start, ResetPanelsBringsBackTheFirstArrangement)
-{
-    EXPECT_TRUE(start());
-    auto *library = program->window()->findChild<surface::LibraryPanel *>();
-    const auto arrangement = [&] {
-        QList<QRect> places;
-        for (const auto id : {PanelId::Functions, PanelId::Library, PanelId::Design})
-            places.append(panel(id).isVisible() ? panel(id).geometry() : QRect());
-        return places << library->handle(1)->geometry();
-    };
-    const QList<QRect> first = arrangement();
-    test::drag(*library->handle(1), {2, 50}, {{60, 0}});
-    test::drag(panel(PanelId::Functions), {60, 10}, {{-150, 40}});
-    action("mnuPanelLibrary").trigger();
-    for (const bool again : {false, true}) {
-        action("mnuResetPanels").trigger();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return arrangement() == first; })) << again;
-        EXPECT_TRUE(action("mnuPanelLibrary").isChecked());
-        restart(); // arranged by nobody: follows the window again
-        library = program->window()->findChild<surface::LibraryPanel *>();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return arrangement() == first; })) << again;
-    }
-}
-
 TEST_F(Start, PanelsThatWereStoredOutOfSightArePulledIntoView)
 {
     platform::SettingsFile file(folders.ConfigFile());

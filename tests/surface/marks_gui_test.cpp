@@ -1,5 +1,4 @@
 #include "support/design_window.h"
-#include "surface/panel_area.h"
 
 #include <QSignalSpy>
 
@@ -160,29 +159,6 @@ TEST_F(Marks, AHeldDeleteKeyDeletesOneControlAndChoosesNoOther)
     w.run("mnuNew");
     EXPECT_EQ(w.design().currentControl(), nullptr);
     EXPECT_TRUE(w.canvas().hasFocus());
-}
-
-TEST_F(Marks, F6StepsFromPanelToPanelAndBackToTheControl)
-{
-    using surface::PanelId;
-    surface::PanelArea &panels = w.design().panels();
-    const auto steps = [&](Qt::KeyboardModifiers modifiers, const QList<PanelId> &way) {
-        for (const PanelId id : way) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, modifiers);
-            EXPECT_TRUE(panels.panel(id).isAncestorOf(QApplication::focusWidget())) << int(id);
-        }
-    };
-    click(two, Inside);
-    steps({}, {PanelId::Functions, PanelId::Library, PanelId::Design});
-    EXPECT_TRUE(two.hasFocus());
-    panels.setPanelVisible(PanelId::Functions, false);
-    steps(Qt::ShiftModifier, {PanelId::Library, PanelId::Design});
-    focusLibrary();
-    EXPECT_EQ(frame(two), Red);
-    w.pressToolButton("cmdRight");
-    EXPECT_EQ(two.pos(), QPoint(101, 200));
-    panels.setPanelVisible(PanelId::Design, false); // does not keep the focus
-    EXPECT_FALSE(panels.panel(PanelId::Design).isAncestorOf(QApplication::focusWidget()));
 }
 
 TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)

@@ -23,12 +23,10 @@ ProgressWindow::ProgressWindow(QWidget *parent, const QString &title)
 
 Busy::Busy(QWidget *window) : m_window(window), m_focus(QApplication::focusWidget())
 {
+    m_since.start();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    if (!m_window)
-        return;
-    m_wasEnabled = m_window->isEnabled();
-    m_window->installEventFilter(this);
-    m_window->setEnabled(false);
+    if (m_window)
+        m_window->installEventFilter(this);
 }
 
 Busy::~Busy()
@@ -38,33 +36,53 @@ Busy::~Busy()
     if (!m_window)
         return;
     m_window->removeEventFilter(this);
-    m_window->setEnabled(m_wasEnabled);
-    m_window->activateWindow(); // the progress window had the keyboard
-    if (m_focus)
-        m_focus->setFocus();
+    if (m_isShown) {
+        m_window->setEnabled(m_wasEnabled);
+        m_window->activateWindow(); // the progress window had the keyboard
+        if (m_focus)
+            m_focus->setFocus();
+    }
     if (m_closeRequested)
         QMetaObject::invokeMethod(m_window.data(), &QWidget::close, Qt::QueuedConnection);
 }
 
 void Busy::begin(const QString &title)
 {
-    m_progress = std::make_unique<ProgressWindow>(m_window.data(), title);
-    m_progress->show();
-    m_progress->setValue(0);
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    m_title = title;
+    setValue(0);
 }
 
 void Busy::setValue(int percent)
 {
-    if (m_progress) {
-        if (percent == m_progress->value())
-            return; // nothing to show: yielding for every step would cost more than the task
+    if (!m_isShown && m_since.elapsed() < Lasts)
+        return;
+    const bool isNews = !m_progress || percent != m_progress->value();
+    if (!m_progress)
+        showProgress();
+    if (m_progress)
         m_progress->setValue(percent);
-    }
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (isNews) // yielding for every step would cost more than the task
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void Busy::end() { m_progress.reset(); }
+void Busy::showProgress()
+{
+    if (m_title.isNull())
+        return;
+    if (!m_isShown && m_window) {
+        m_wasEnabled = m_window->isEnabled();
+        m_window->setEnabled(false);
+    }
+    m_isShown = true;
+    m_progress = std::make_unique<ProgressWindow>(m_window.data(), m_title);
+    m_progress->show();
+}
+
+void Busy::end()
+{
+    m_progress.reset();
+    m_title = QString();
+}
 
 bool Busy::eventFilter(QObject *watched, QEvent *event)
 {

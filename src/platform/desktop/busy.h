@@ -2,6 +2,7 @@
 
 #include "platform/progress.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -12,8 +13,10 @@ namespace platform {
 
 class ProgressWindow;
 
-// The scope of a long task: hourglass, the main window disabled, a progress window on top, paints and timers
-// served but no user input, a request to close put off until the end. Every way out restores all of it.
+// The scope of a task: hourglass, no user input, a request to close put off until the end. A task that lasts
+// gets a progress window on top and the window shown disabled, and from then on paints and timers are served
+// between its steps; one that is over before anybody could read it shows nothing. Every way out restores all
+// of it.
 class Busy final : public QObject, public Progress
 {
     Q_OBJECT
@@ -26,13 +29,21 @@ public:
     void setValue(int percent) override;
     void end() override;
 
+    // Milliseconds after which a task counts as lasting.
+    static constexpr qint64 Lasts = 300;
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showProgress();
+
     QPointer<QWidget> m_window;
     QPointer<QWidget> m_focus;
     std::unique_ptr<ProgressWindow> m_progress;
+    QString m_title; // of the step that runs; null for none
+    QElapsedTimer m_since;
+    bool m_isShown = false;
     bool m_wasEnabled = true;
     bool m_closeRequested = false;
 };

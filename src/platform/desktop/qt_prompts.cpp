@@ -81,6 +81,8 @@ QMessageBox::StandardButton showBox(QWidget *parent, Icon icon, const QString &t
 {
     const ArrowPointer pointer;
     QMessageBox box(boxIcon(icon), title, text, buttons, parent);
+    if (icon == Icon::Warning)
+        box.setDefaultButton(QMessageBox::No); // Return alone risks nothing
     box.setTextFormat(Qt::PlainText); // names from files are shown, never interpreted
     makeRoomForTitle(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
