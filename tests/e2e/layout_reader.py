@@ -12,7 +12,7 @@ FRAME = struct.Struct("<IhiH")
 SUM = struct.Struct("<H")
 SYNC = 0x00FAEBDC
 TYPE_ORDER = (*range(1, 18), 25, 18, 19, 26, 20, 21, 22, 23, 24, 27, 28)
-ALWAYS_PRESENT = {7, 12, 13, 14, 15, 20, 22, 23}
+ALWAYS_PRESENT = {7, 12, 13, 14, 15, 20, 22}
 
 
 class Damage(Exception):

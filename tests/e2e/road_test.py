@@ -33,6 +33,7 @@ GRIP = (137, 137)  # within the gauge
 GRIP_TARGET = (233, 252)  # on the canvas; the height decides: 3780 twips, on the grid 3760, less 900 above
 GAUGE_RESIZED = (191, 191)  # 2860 twips
 
+RECOVERY = Path("data_home", "Torvane", "MORVELRecovery.VGL")
 SPEED = 2
 ALWAYS_STORED = 10
 RED_YUV = (82, 91, 240)
@@ -86,12 +87,27 @@ def controls_of(layout: Layout) -> list[Record]:
     return layout.of(5) + layout.of(6)
 
 
+def crash(desktop: Desktop, tool: Tool, home: Path) -> None:
+    """What was designed is there again after a crash, with nothing saved by hand."""
+    recovery = home / RECOVERY
+
+    def is_complete() -> bool:
+        layout = read_layout(recovery) if recovery.exists() else None
+        return layout is not None and [gauge(record) for record in layout.of(6)] == [EXPECTED_GAUGE]
+
+    desktop.wait("the recovery file", is_complete)
+    tool.kill()
+    tool.start()
+    tool.load_last_layout()
+
+
 def go(desktop: Desktop, tool: Tool, home: Path) -> None:
     begun = datetime.datetime.now()
     tool.start()
     tool.await_main_window()
     design(desktop, tool)
     tool.start_twice()
+    crash(desktop, tool, home)
 
     first = home / "DEFAULT.VGL"
     tool.save_as(first)

@@ -11,7 +11,6 @@ from desktop import Box, Desktop, Failure, Point, difference, extent
 
 TITLE = "MORVEL Configuration Tool"
 MAIN_WINDOW = re.compile(re.escape(TITLE) + r" - Version \d+\.\d+\.\d+")
-ALREADY_RUNNING = 3
 RED = (255, 0, 0)  # frame of the selected control
 LOADED_RED = (255, 1, 3)  # what red becomes on its way through a file's Y, U and V
 DRAG_PICTURE = 28  # side of what hangs at the pointer, pixels right of it and below
@@ -84,7 +83,7 @@ class Tool:
         """A second start beside the running program goes away without a word."""
         windows = self._desktop.windows()
         self.start()
-        self.await_end(ALREADY_RUNNING)
+        self.await_end(0)
         self._started.pop()
         expect("windows after a second start", self._desktop.windows(), windows)
 
