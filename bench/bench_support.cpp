@@ -35,7 +35,7 @@ platform::Folders seededFolders(const QTemporaryDir &root)
     folders.applicationData = folder("data");
     folders.temporary = folder("temporary");
     folders.cache = folder("cache");
-    shell::seedUserData(folders);
+    shell::seedUserData(folders, shell::shippedFiles(folders));
     return folders;
 }
 

@@ -79,9 +79,10 @@ void buildControls(const Records &records, const LoadContext &context, platform:
 // A picture for the eye only: one that cannot be written is no failure.
 QString writeThumbnail(const QByteArray &jpeg, const platform::Folders &folders)
 {
-    QFile file(folders.inTemporary("Thumb.jpg"));
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(jpeg) == jpeg.size();
-    return written ? file.fileName() : QString();
+    const QString path = folders.inTemporary("Thumb.jpg");
+    const bool written =
+        platform::skipFailures([&] { platform::StagedFile(path, jpeg, platform::Flush::None).commit(); });
+    return written ? path : QString();
 }
 
 Records readRecords(const QByteArray &file, const platform::Folders &folders,
@@ -102,11 +103,13 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
 // cannot be written.
 void writeTables(const LoadContext &context)
 {
-    platform::reportFailures(context.prompts, [&] {
-        if (!context.catalogue.definitionsLost)
-            platform::updateFile(context.folders.variablesFile(),
-                                 variables::saveDefinitions(context.catalogue));
-    });
+    variables::Catalogue &catalogue = context.catalogue;
+    if (!catalogue.definitionsLost) {
+        const bool written = platform::reportFailures(context.prompts, [&] {
+            platform::updateFile(context.folders.variablesFile(), variables::saveDefinitions(catalogue));
+        });
+        catalogue.hasUnwrittenEdits = catalogue.hasUnwrittenEdits || !written;
+    }
     platform::reportFailures(context.prompts, [&] {
         platform::updateFile(context.folders.MessagesFile(),
                              recorder::writeMessageTable(context.settings.MessageTable));

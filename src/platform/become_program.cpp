@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <cstdlib>
+
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <cstring>

@@ -2,12 +2,17 @@
 
 #include "common/run_time_error.h"
 #include "platform/file_writing.h"
-#include "platform/folders.h"
 #include "platform/guards.h"
+#include "platform/process_lock.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
+#include <QSysInfo>
+#include <QUrl>
 
 #include <cerrno>
 #include <optional>
@@ -17,8 +22,34 @@ namespace platform {
 
 namespace {
 
-// A name of its own, so that what a killed process leaves is known for what it is and written over.
+// A file that is being written has the name of its writer, so that two machines can save to one folder, and
+// what a killed process leaves is known for what it is.
 const QString StagedSuffix = QStringLiteral(".morvel-new");
+constexpr qint64 NobodysAfter = 3600; // seconds
+
+QString writerName(qint64 process)
+{
+    static const QString host = QString::fromLatin1(QUrl::toPercentEncoding(QSysInfo::machineHostName()));
+    return QStringLiteral("%1-%2").arg(host.left(40)).arg(process);
+}
+
+QString stagedPath(const QString &path)
+{
+    return QFileInfo(path).absolutePath() + QLatin1Char('/') +
+           writerName(QCoreApplication::applicationPid()) + StagedSuffix;
+}
+
+// Whether the writer of this file is gone.
+bool isLeftOver(const QFileInfo &staged)
+{
+    const QString writer = staged.fileName().chopped(StagedSuffix.size());
+    const qint64 process = writer.section(QLatin1Char('-'), -1).toLongLong();
+    const bool isOurs = process > 0 && writer == writerName(process);
+    return (isOurs && !isAnotherProcess(process)) ||
+           staged.lastModified().secsTo(QDateTime::currentDateTime()) > NobodysAfter;
+}
+
+bool isTaken(const QString &path) { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); }
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
 {
@@ -40,11 +71,11 @@ QString targetOf(const QString &path)
 
 std::optional<Failure> stage(const QString &path, const QByteArray &bytes, Flush flush)
 {
-    const QString staged = path + StagedSuffix;
+    const QString staged = stagedPath(path);
     const QFileInfo old(path);
     if (old.exists() && !old.isWritable())
         return Failure{WritingStep::Rename, EACCES}; // what is locked against writing is not swapped either
-    QFile::remove(staged);
+    removeStagedFiles(old.absolutePath());
     auto failure = writeNewFile(staged, bytes, flush == Flush::ToDevice);
     if (failure)
         QFile::remove(staged);
@@ -55,9 +86,9 @@ std::optional<Failure> stage(const QString &path, const QByteArray &bytes, Flush
 
 std::optional<Failure> swapIn(const QString &path)
 {
-    auto failure = renameOver(path + StagedSuffix, path);
+    auto failure = renameOver(stagedPath(path), path);
     if (failure)
-        QFile::remove(path + StagedSuffix);
+        QFile::remove(stagedPath(path));
     return failure;
 }
 
@@ -101,9 +132,15 @@ std::optional<Failure> overwrite(const QString &path, const QByteArray &bytes)
 // The path of a confirmed copy.
 QString keepApart(const QString &path, const QByteArray &bytes, const QString &folder)
 {
-    const QString kept = unusedPath(folder + QFileInfo(path).fileName() + QStringLiteral(".kept"));
-    if (replaceFile(kept, bytes) == Standing::NotConfirmed)
-        fail(kept, QStringLiteral("the old file could not be kept"));
+    constexpr qsizetype LongestName = 200; // leaves room for the prefix; the end of a name tells its kind
+    const QString name = QFileInfo(path).fileName().right(LongestName);
+    QString kept = folder + KeptPrefix + QLatin1Char('-') + name;
+    for (int number = 2; isTaken(kept); ++number)
+        kept = QStringLiteral("%1%2%3-%4").arg(folder, KeptPrefix).arg(number).arg(name);
+    if (replaceFile(kept, bytes) == Standing::NotConfirmed) {
+        QFile::remove(kept);
+        fail(path, QStringLiteral("The old file could not be kept while a new one takes its place"));
+    }
     return kept;
 }
 
@@ -132,7 +169,7 @@ StagedFile::StagedFile(const QString &path, const QByteArray &bytes, Flush flush
 StagedFile::~StagedFile()
 {
     if (!m_path.isEmpty())
-        QFile::remove(m_path + StagedSuffix);
+        QFile::remove(stagedPath(m_path));
 }
 
 Standing StagedFile::commit()
@@ -192,11 +229,18 @@ QByteArray readFile(const QString &path)
 QString unusedPath(const QString &path)
 {
     QString unused = path;
-    for (int number = 2; QFileInfo::exists(unused) || QFileInfo(unused).isSymLink(); ++number)
+    for (int number = 2; isTaken(unused); ++number)
         unused = path + QString::number(number);
     return unused;
 }
 
-void removeStagedFiles(const QString &folder) { wipeFiles(folder, QLatin1Char('*') + StagedSuffix); }
+void removeStagedFiles(const QString &folder)
+{
+    const QDir dir(folder);
+    for (const QFileInfo &staged : dir.entryInfoList({QLatin1Char('*') + StagedSuffix}, QDir::Files)) {
+        if (isLeftOver(staged))
+            QFile::remove(staged.filePath());
+    }
+}
 
 } // namespace platform

@@ -14,6 +14,8 @@ enum class Standing {
     NotConfirmed // the device did not confirm the folder's new entry
 };
 
+inline const QString KeptPrefix = QStringLiteral("kept");
+
 // A new file under the name of an old one, written whole beside it. It stands only from commit() on; until
 // then the old file is untouched, and what was written goes when the object goes. Names that lead to anything
 // but a regular file are refused.
@@ -40,7 +42,8 @@ Standing replaceFile(const QString &path, const QByteArray &bytes);
 // The same for a place that the user chose, where a new file beside the old one may be refused (permission,
 // other device, name too long) or the volume may have room for one file only. There the old file is copied
 // over, flushed and compared, while its bytes are kept in the folder `keepIn` (which ends in a separator).
-// They are put back when that fails; where not even that works, the error names the file that holds them.
+// They are put back when that fails; where not even that works, the error names the file that holds them. Its
+// name begins with KeptPrefix and is left there also by a process that is killed in the middle.
 Standing replaceFile(const QString &path, const QByteArray &bytes, const QString &keepIn);
 
 // The same as the first, but a file that holds these bytes already is left alone.
@@ -55,7 +58,7 @@ QByteArray readFile(const QString &path);
 // `path`, or `path` with the first number from 2 on under which nothing lies.
 QString unusedPath(const QString &path);
 
-// Removes what a killed process left of files that it was writing in `folder`.
+// Removes what killed processes left of files that they were writing in `folder`.
 void removeStagedFiles(const QString &folder);
 
 } // namespace platform

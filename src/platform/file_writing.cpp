@@ -96,10 +96,10 @@ bool flushFolder(const QString &folder)
 #ifdef Q_OS_UNIX
     const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
-        return true;
+        return errno == EACCES || errno == EPERM; // may be written to, but not looked into
     const int error = ::fsync(descriptor) == 0 ? 0 : errno;
     ::close(descriptor);
-    return error == 0 || error == EINVAL || error == ENOTSUP || error == ENOSYS || error == EROFS;
+    return error == 0 || error == EINVAL || error == ENOTSUP || error == ENOSYS;
 #else
     Q_UNUSED(folder);
     return true;

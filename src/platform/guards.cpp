@@ -11,10 +11,11 @@ void reportFailure(Prompts &prompts, const QString &reason)
 void reportStanding(Prompts &prompts, const QString &path, Standing standing)
 {
     if (standing == Standing::NotConfirmed) {
-        prompts.message(Icon::Warning, ProductTitle,
-                        QStringLiteral("%1\nwas saved, but not confirmed by the device. Save it again, or to "
-                                       "another place, before you take the card out.")
-                            .arg(path));
+        prompts.message(
+            Icon::Warning, ProductTitle,
+            QStringLiteral("%1\nwas saved, but not confirmed by the device. Keep a copy in another "
+                           "place as well.")
+                .arg(path));
     }
 }
 

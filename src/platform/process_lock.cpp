@@ -24,12 +24,14 @@ constexpr qint64 LongestOwner = 4096;
 struct Owner
 {
     qint64 process;
+    QString program;
     QString host;
 };
 
 bool isYoung(const QFileInfo &file)
 {
-    return file.lastModified().secsTo(QDateTime::currentDateTime()) <= NobodysAfter;
+    const qint64 age = file.lastModified().secsTo(QDateTime::currentDateTime());
+    return age >= 0 && age <= NobodysAfter; // clocks are set back
 }
 
 // Three lines: the process, the program, the machine.
@@ -41,18 +43,18 @@ std::optional<Owner> ownerIn(QFile &file)
     const qint64 process = lines[0].toLongLong(&isNumber);
     if (!isNumber || process <= 0 || lines.size() < 3 || lines[2].isEmpty())
         return std::nullopt;
-    return Owner{process, lines[2]};
+    return Owner{process, lines[1], lines[2]};
 }
 
-bool isAnotherAlive(qint64 process)
+// Numbers come round again: a process of another name is another process.
+bool runs(const Owner &owner)
 {
-    if (process == QCoreApplication::applicationPid())
-        return false; // a number that came round again
-#ifdef Q_OS_UNIX
-    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
-#else
-    return true;
-#endif
+    constexpr qsizetype LongestName = 15; // that the system tells
+    QFile told(QStringLiteral("/proc/%1/comm").arg(owner.process));
+    if (!told.open(QIODevice::ReadOnly))
+        return isAnotherProcess(owner.process);
+    return QString::fromUtf8(told.readAll()).trimmed() == owner.program.left(LongestName) &&
+           isAnotherProcess(owner.process);
 }
 
 // Out of the way with a folder, a pipe or a link that leads nowhere.
@@ -64,6 +66,17 @@ void moveAside(const QString &path)
 
 } // namespace
 
+bool isAnotherProcess(qint64 process)
+{
+    if (process == QCoreApplication::applicationPid())
+        return false;
+#ifdef Q_OS_UNIX
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+#else
+    return true;
+#endif
+}
+
 ProcessLock::ProcessLock(const QString &path, SystemLock lock) : m_file(path)
 {
     const QFileInfo found(path);
@@ -74,8 +87,9 @@ ProcessLock::ProcessLock(const QString &path, SystemLock lock) : m_file(path)
         }
         moveAside(path);
     }
-    const bool isNew = !QFileInfo::exists(path);
-    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    constexpr auto Mode = QIODevice::ReadWrite | QIODevice::Unbuffered;
+    const bool isNew = m_file.open(Mode | QIODevice::NewOnly);
+    if (!isNew && !m_file.open(Mode))
         return;
     const Answer answer = lock(m_file);
     m_removes = answer == Answer::Unsupported;
@@ -99,7 +113,7 @@ ProcessLock::State ProcessLock::stateByOwner()
     if (!owner)
         return isYoung(QFileInfo(m_file)) ? State::Others : State::Ours;
     if (owner->host == QSysInfo::machineHostName())
-        return isAnotherAlive(owner->process) ? State::Others : State::Ours;
+        return runs(*owner) ? State::Others : State::Ours;
     m_host = owner->host;
     return State::OtherHosts;
 }
@@ -123,9 +137,13 @@ void ProcessLock::writeOwner()
 ProcessLock::Answer ProcessLock::systemLock(QFile &file)
 {
 #ifdef Q_OS_UNIX
-    if (::flock(file.handle(), LOCK_EX | LOCK_NB) == 0)
+    int result = -1;
+    do
+        result = ::flock(file.handle(), LOCK_EX | LOCK_NB);
+    while (result != 0 && errno == EINTR);
+    if (result == 0)
         return Answer::Locked;
-    return errno == EWOULDBLOCK || errno == EINTR ? Answer::Busy : Answer::Unsupported;
+    return errno == EWOULDBLOCK ? Answer::Busy : Answer::Unsupported;
 #else
     Q_UNUSED(file);
     return Answer::Unsupported;

@@ -5,6 +5,9 @@
 
 namespace platform {
 
+// Whether a process of this number runs on this machine and is not this one.
+bool isAnotherProcess(qint64 process);
+
 // A lock that the operating system holds for as long as the process lives, so that a crash leaves nothing
 // behind. The file names its owner, for file systems that have no such locks.
 class ProcessLock

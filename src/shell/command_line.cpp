@@ -82,11 +82,15 @@ CommandLine parseCommandLine(const QString &rawLine, const std::function<bool(co
         const QString value = unquoted(part.mid(1));
         const QChar letter = part.isEmpty() ? QChar() : part.front().toUpper();
         if (letter == QLatin1Char('F')) {
-            // A quote may also belong to the name of the file.
-            for (const QString &path : {platformPath(part.mid(1).trimmed()), platformPath(value)}) {
-                if (path.endsWith(QLatin1String("VGL"), Qt::CaseInsensitive) && fileExists(path))
-                    result.layoutToOpen = path;
-            }
+            const auto isLayout = [&](const QString &path) {
+                return path.endsWith(QLatin1String("VGL"), Qt::CaseInsensitive) && fileExists(path);
+            };
+            const QString quoted = platformPath(part.mid(1).trimmed()); // as part of the file's name
+            const QString path = platformPath(value);
+            if (isLayout(quoted))
+                result.layoutToOpen = quoted;
+            else if (isLayout(path))
+                result.layoutToOpen = path;
         } else if (letter == QLatin1Char('T')) {
             if (const auto standard = standardOf(value))
                 result.videoOverride = standard;

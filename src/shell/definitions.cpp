@@ -18,6 +18,8 @@ bool takeOverDefinitions(const QString &path, ProgramState &state, platform::Pro
 {
     const platform::Busy busy(window);
     variables::Catalogue &catalogue = state.catalogue;
+    if (catalogue.definitionsLost)
+        keepDamagedDefinitions(state.folders);
     if (variables::loadDefinitions(platform::readFile(path), catalogue) ==
         variables::DefinitionStatus::Corrupted) {
         prompts.message(Icon::None, ProductTitle, variables::CorruptedDefinitions);
@@ -45,6 +47,8 @@ void keepDamagedDefinitions(const platform::Folders &folders)
 {
     const QString path = folders.variablesFile();
     const QString kept = folders.inUserData("QLM6ConfigToolVars.damaged");
+    if (!QFileInfo::exists(path))
+        return;
     QByteArray bytes;
     if (!platform::skipFailures([&] { bytes = platform::readFile(path); })) {
         platform::moveFile(path, platform::unusedPath(kept));

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 namespace shell {
 
@@ -57,16 +58,17 @@ void FileCommands::backUpDesign()
 {
     platform::NoProgress silent;
     if (const auto layout = layoutBytes(SaveKind::Backup, m_prompts, silent))
-        keepAsBackup(*layout, m_state.folders);
+        platform::reportStanding(m_prompts, m_state.folders.GetAppDataFolder(),
+                                 keepAsBackup(*layout, m_state.folders));
 }
 
 // Nothing when the save was refused, which is shown.
 std::optional<QByteArray> FileCommands::layoutBytes(SaveKind kind, platform::Prompts &prompts,
                                                     platform::Progress &progress)
 {
-    const auto [file, refusal] = layoutfile::layoutBytes(
-        kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts, prompts, progress, m_state.stamp,
-               m_state.screen, m_state.locale});
+    const auto [file, refusal] =
+        layoutfile::layoutBytes(kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts, prompts,
+                                       progress, m_state.stamp, m_state.screen, m_state.locale});
     if (!refusal.isEmpty())
         prompts.message(Icon::Critical, ProductTitle, refusal);
     return file.isEmpty() ? std::nullopt : std::optional(file);
@@ -114,8 +116,9 @@ void FileCommands::rememberFolder(const QString &path)
 
 void FileCommands::readLastFolder()
 {
-    const QString folder =
+    const QString stored =
         platform::keys::LayoutFolder.read(platform::SettingsFile(m_state.folders.ConfigFile()));
+    const QString folder = QUrl::fromPercentEncoding(stored.toLatin1());
     if (QFileInfo(folder).isDir())
         m_lastFolder = folder;
 }
@@ -123,22 +126,26 @@ void FileCommands::readLastFolder()
 void FileCommands::keepLastFolder() const
 {
     platform::SettingsFile file(m_state.folders.ConfigFile());
-    if (m_lastFolder.isEmpty() || platform::keys::LayoutFolder.read(file) == m_lastFolder)
+    const QString stored = QString::fromLatin1(QUrl::toPercentEncoding(m_lastFolder, "/")); // of any script
+    if (stored.isEmpty() || platform::keys::LayoutFolder.read(file) == stored)
         return;
-    platform::keys::LayoutFolder.write(file, m_lastFolder);
+    platform::keys::LayoutFolder.write(file, stored);
     file.save();
 }
 
-void FileCommands::load(const QString &path)
+bool FileCommands::load(const QString &path)
 {
     rememberFolder(path);
+    bool isLoaded = false;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
         const layoutfile::LoadContext context{m_design, m_state.catalogue, m_state.settings, m_prompts,
                                               busy,     m_state.folders,   m_state.locale};
-        if (layoutfile::LoadVGL(path, context))
+        isLoaded = layoutfile::LoadVGL(path, context);
+        if (isLoaded)
             m_design.setCaption(QFileInfo(path).completeBaseName());
     });
+    return isLoaded;
 }
 
 double FileCommands::CalculateComplexity() const
@@ -214,11 +221,13 @@ void FileCommands::saveRecovery()
     if (const auto layout = layoutBytes(SaveKind::Recovery, m_prompts, silent))
         platform::StagedFile(path, *layout, platform::Flush::None).commit();
     else
-        QFile::remove(path);
+        removeRecovery();
 }
 
+void FileCommands::removeRecovery() { QFile::remove(m_state.folders.recoveryFile()); }
+
 // What the next start offers. A design that is refused, or that has lost its variables, is a backup.
-void FileCommands::keepDesign(platform::Prompts &prompts, QByteArray &layout)
+platform::Standing FileCommands::keepDesign(platform::Prompts &prompts, QByteArray &layout)
 {
     platform::Busy busy(&m_window);
     std::optional<QByteArray> made;
@@ -229,19 +238,21 @@ void FileCommands::keepDesign(platform::Prompts &prompts, QByteArray &layout)
         made = layoutBytes(SaveKind::Backup, prompts, busy);
     layout = made.value_or(QByteArray());
     if (layout.isEmpty())
-        return;
+        return platform::Standing::Confirmed;
     const platform::Folders &folders = m_state.folders;
-    platform::reportStanding(prompts, folders.GetAppDataFolder(),
-                             isWorkspace ? keepAsWorkspace(layout, folders) : keepAsBackup(layout, folders));
+    const auto standing = isWorkspace ? keepAsWorkspace(layout, folders) : keepAsBackup(layout, folders);
+    platform::reportStanding(prompts, folders.workspaceFile(), standing);
+    return standing;
 }
 
-bool FileCommands::saveWorkspace(Leaving leaving)
+Parting FileCommands::saveWorkspace(Leaving leaving)
 {
     platform::SilentPrompts silent;
     const bool sessionEnds = leaving == Leaving::SessionEnds;
     platform::Prompts &prompts = sessionEnds ? silent : m_prompts;
     QByteArray layout;
-    auto failure = platform::failureOf([&] { keepDesign(prompts, layout); });
+    auto standing = platform::Standing::NotConfirmed;
+    auto failure = platform::failureOf([&] { standing = keepDesign(prompts, layout); });
     QString place;
     if (failure && !layout.isEmpty())
         place = keepAnywhere(layout, m_state.folders);
@@ -249,12 +260,13 @@ bool FileCommands::saveWorkspace(Leaving leaving)
         failure->append(QStringLiteral("\nThe design is kept in\n") + place);
     if (failure)
         platform::reportFailure(prompts, *failure);
-    const bool isKept = !failure || (!place.isEmpty() && !sessionEnds); // nobody was told of the place
-    if (isKept)
-        QFile::remove(m_state.folders.recoveryFile());
-    return isKept || sessionEnds ||
-           prompts.ask(Icon::Warning, ProductTitle,
-                       QStringLiteral("The layout could not be saved. Do you want to leave anyway?"));
+    if (failure ? !place.isEmpty() && !sessionEnds : standing == platform::Standing::Confirmed)
+        return Parting::DesignIsSafe;
+    const bool leaves =
+        !failure || sessionEnds || !place.isEmpty() ||
+        prompts.ask(Icon::Warning, ProductTitle,
+                    QStringLiteral("The layout could not be saved. Do you want to leave anyway?"));
+    return leaves ? Parting::DesignAtRisk : Parting::Stays;
 }
 
 } // namespace shell

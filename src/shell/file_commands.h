@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layoutfile/modSaveVGLFiles.h"
+#include "platform/file_replace.h"
 #include "platform/prompts.h"
 #include "shell/program_state.h"
 #include "surface/frm_interface.h"
@@ -10,6 +11,12 @@ namespace shell {
 enum class Leaving {
     ByCommand,
     SessionEnds // nobody is there to answer
+};
+
+enum class Parting {
+    DesignIsSafe,
+    DesignAtRisk, // the window may close, but nobody knows of a file that is sure to hold the design
+    Stays         // as the user wants
 };
 
 // The file commands of the main window. Each runs to its end inside the calling event; failures are reported
@@ -25,14 +32,15 @@ public:
     void mnuSaveConfig();
     void mnuPrdCPULoad();
 
-    // Loads a layout without asking and without clearing.
-    void load(const QString &path);
+    // Loads a layout without asking and without clearing. False, after a message, when that fails.
+    bool load(const QString &path);
     // The silent save at the closing of the design window. A design that cannot become the workspace is kept
-    // elsewhere, and the user is told where. False when it lies in no file and the user wants to stay.
-    bool saveWorkspace(Leaving leaving = Leaving::ByCommand);
+    // elsewhere, and the user is told where.
+    Parting saveWorkspace(Leaving leaving = Leaving::ByCommand);
     // Writes the design where the next start finds it after a crash; an empty design leaves no such file.
     // Throws RunTimeError.
     void saveRecovery();
+    void removeRecovery();
 
     // The folder of the last layout, from one run to the next. Writing throws RunTimeError.
     void readLastFolder();
@@ -43,7 +51,7 @@ private:
     void rememberFolder(const QString &path);
     bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
-    void keepDesign(platform::Prompts &prompts, QByteArray &layout);
+    platform::Standing keepDesign(platform::Prompts &prompts, QByteArray &layout);
     std::optional<QByteArray> layoutBytes(layoutfile::SaveKind kind, platform::Prompts &prompts,
                                           platform::Progress &progress);
     bool mayLoseVariables();

@@ -2,7 +2,6 @@
 
 #include "controls/overlay_control.h"
 #include "platform/guards.h"
-#include "shell/frm_start_splash.h"
 #include "shell/version.h"
 #include "surface/panel_area.h"
 #include "variables/edit_cycle.h"
@@ -16,96 +15,7 @@
 
 namespace shell {
 
-using recorder::EncodePattern;
 using recorder::VideoStandard;
-using surface::PanelId;
-
-// One command: where it stands, how it looks, what it does. An empty name is a separator.
-struct CommandRow
-{
-    const char *menu; // name of the menu or toolbar it stands in
-    const char *name;
-    const char *caption;
-    const char *icon; // in the resources; empty for none
-    const char *shortcut;
-    bool checkable;
-    void (*run)(frmMain &);
-};
-
-struct CommandTable
-{
-    template <PanelId Id>
-    static void togglePanel(frmMain &w)
-    {
-        surface::PanelArea &panels = w.m_design->panels();
-        panels.setPanelVisible(Id, !panels.isPanelVisible(Id));
-    }
-
-    static constexpr CommandRow Rows[] = {
-        {"mnuFile", "mnuNew", "&New Layout", "toolbar/new", "Ctrl+N", false,
-         [](frmMain &w) { w.m_files.mnuNew(); }},
-        {"mnuFile", "mnuLoadConfig", "&Load Layout", "toolbar/open", "Ctrl+O", false,
-         [](frmMain &w) { w.m_files.mnuLoadConfig(); }},
-        {"mnuFile", "mnuSaveConfig", "&Save Layout", "toolbar/save", "Ctrl+S", false,
-         [](frmMain &w) { w.m_files.mnuSaveConfig(); }},
-        {"mnuFile", "", "", "", "", false, nullptr},
-        {"mnuFile", "mnuLoadVarInfo", "Load &Variable Information", "", "", false,
-         [](frmMain &w) { w.m_variables.mnuLoadVarInfo(); }},
-        {"mnuFile", "mnuSaveVarInfo", "Save Variable &Information", "", "", false,
-         [](frmMain &w) { w.m_variables.mnuSaveVarInfo(); }},
-        {"mnuFile", "mnuRestoreDefaultVar", "&Restore Default Variable Information", "", "", false,
-         [](frmMain &w) { w.m_variables.mnuRestoreDefaultVar(); }},
-        {"mnuFile", "", "", "", "", false, nullptr},
-        {"mnuFile", "mnuPrdCPULoad", "Calculate Predictive CPU Load", "menu/load_estimate", "", false,
-         [](frmMain &w) { w.m_files.mnuPrdCPULoad(); }},
-        {"mnuFile", "", "", "", "", false, nullptr},
-        {"mnuFile", "mnuExit", "E&xit", "menu/exit", "Ctrl+Q", false, [](frmMain &w) { w.close(); }},
-        {"mnuView", "mnuPAL", "PAL", "", "", true,
-         [](frmMain &w) { w.m_design->setVideoStandard(VideoStandard::Pal); }},
-        {"mnuView", "mnuNTSC", "NTSC", "", "", true,
-         [](frmMain &w) { w.m_design->setVideoStandard(VideoStandard::Ntsc); }},
-        {"mnuView", "", "", "", "", false, nullptr},
-        {"mnuView", "mnuPanelDesign", "&Design Panel", "", "Ctrl+1", true, &togglePanel<PanelId::Design>},
-        {"mnuView", "mnuPanelLibrary", "&Control Library Panel", "", "Ctrl+2", true,
-         &togglePanel<PanelId::Library>},
-        {"mnuView", "mnuPanelFunctions", "&Variables Panel", "", "Ctrl+3", true,
-         &togglePanel<PanelId::Functions>},
-        {"mnuView", "", "", "", "", false, nullptr},
-        {"mnuView", "mnuNextPanel", "&Next Panel", "", "F6", false,
-         [](frmMain &w) { w.m_design->panels().stepPanel(true); }},
-        {"mnuView", "mnuPreviousPanel", "&Previous Panel", "", "Shift+F6", false,
-         [](frmMain &w) { w.m_design->panels().stepPanel(false); }},
-        {"mnuView", "mnuResetPanels", "&Reset Panels", "menu/panels", "", false,
-         [](frmMain &w) { w.m_design->resetPanels(); }},
-        {"mnuEncodePattern", "mnuI", "I", "", "", true,
-         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::I; }},
-        {"mnuEncodePattern", "mnuIP", "IP", "", "", true,
-         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::IP; }},
-        {"mnuEncodePattern", "mnuIPB", "IPB", "", "", true,
-         [](frmMain &w) { w.m_state.settings.encodePattern = EncodePattern::IPB; }},
-        {"mnuHelp", "mnuAbout", "About Us", "menu/about", "", false,
-         [](frmMain &w) { frmStartSplash(w.m_state.folders, &w).exec(); }},
-        {"Toolbar", "cmdLeft", "Nudge left", "toolbar/left", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Left); }},
-        {"Toolbar", "cmdUp", "Nudge up", "toolbar/up", "", false, [](frmMain &w) { w.sendKey(Qt::Key_Up); }},
-        {"Toolbar", "cmdDown", "Nudge down", "toolbar/down", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Down); }},
-        {"Toolbar", "cmdRight", "Nudge right", "toolbar/right", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Right); }},
-        {"Toolbar", "", "", "", "", false, nullptr},
-        {"Toolbar", "cmdPrevious", "Previous control", "toolbar/previous", "", false,
-         [](frmMain &w) { w.m_design->stepControl(false); }},
-        {"Toolbar", "cmdNext", "Next control", "toolbar/next", "", false,
-         [](frmMain &w) { w.m_design->stepControl(true); }},
-        {"Toolbar", "", "", "", "", false, nullptr},
-        {"Toolbar", "cmdEnter", "Properties of the selected control", "toolbar/properties", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Return); }},
-        {"mnuDropDown3", "mnuDelete_C", "&Delete", "menu/delete", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Delete); }},
-        {"mnuDropDown3", "mnuProperties_C", "P&roperties", "toolbar/properties", "", false,
-         [](frmMain &w) { w.sendKey(Qt::Key_Return); }},
-    };
-};
 
 namespace {
 
@@ -125,6 +35,7 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(platform::ProductTitle + QStringLiteral(" - Version ") + programVersion());
     setMinimumSize(640, 480);
+    makeActions();
     makeMenus();
     makeToolbar();
     makeStatusBar();
@@ -134,32 +45,37 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
     for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
         connect(m_design, change, &m_recovery, &Recovery::noteChange);
+    connect(m_design, &surface::frmInterface::designChanged, this, &frmMain::refreshFromState);
     connect(&m_design->panels(), &surface::PanelArea::visibilityChanged, this, &frmMain::refreshFromState);
     refreshFromState();
 }
 
-QAction *frmMain::makeAction(const CommandRow &row)
+void frmMain::makeActions()
 {
-    auto *made = new QAction(this);
-    if (!*row.name) {
-        made->setSeparator(true);
-        return made;
+    for (const Command &command : commands()) {
+        auto *action = new QAction(this);
+        m_actions.append(action);
+        action->setSeparator(!*command.name);
+        action->setObjectName(QLatin1String(command.name));
+        action->setText(QLatin1String(command.caption));
+        action->setIcon(resourceIcon(QLatin1String(command.icon)));
+        action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+        action->setCheckable(command.isChecked != nullptr);
+        connect(action, &QAction::triggered, this, [this, run = command.run] {
+            platform::reportFailures(m_prompts, [&] { run(*this); });
+            refreshFromState();
+            m_recovery.noteChange();
+        });
     }
-    made->setObjectName(QLatin1String(row.name));
-    made->setText(QLatin1String(row.caption));
-    made->setIcon(resourceIcon(QLatin1String(row.icon)));
-    made->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
-    made->setCheckable(row.checkable);
-    const auto run = row.run;
-    connect(made, &QAction::triggered, this, [this, run] {
-        platform::reportFailures(m_prompts, [&] { run(*this); });
-        refreshFromState();
-        m_recovery.noteChange();
-    });
-    return made;
 }
 
-QAction *frmMain::action(const char *name) const { return findChild<QAction *>(QLatin1String(name)); }
+void frmMain::fill(QWidget &menu, Place place)
+{
+    for (std::size_t i = 0; i < commands().size(); ++i) {
+        if (commands()[i].places & place)
+            menu.addAction(m_actions[static_cast<qsizetype>(i)]);
+    }
+}
 
 void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
 {
@@ -177,28 +93,22 @@ void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
 
 void frmMain::makeMenus()
 {
-    const auto fill = [this](QMenu *menu) {
-        for (const CommandRow &row : CommandTable::Rows) {
-            if (menu->objectName() == QLatin1String(row.menu))
-                menu->addAction(makeAction(row));
-        }
-    };
-    const auto addMenu = [this](const char *name, const char *caption) {
-        QMenu *menu = menuBar()->addMenu(QLatin1String(caption));
+    const auto addMenu = [](QWidget &owner, QMenu *menu, const char *name) {
         menu->setObjectName(QLatin1String(name));
+        owner.addAction(menu->menuAction());
         return menu;
     };
-    fill(addMenu("mnuFile", "&File"));
-    fill(addMenu("mnuView", "&View"));
+    QMenuBar &bar = *menuBar();
+    fill(*addMenu(bar, new QMenu(QStringLiteral("&File"), &bar), "mnuFile"), FileMenu);
+    fill(*addMenu(bar, new QMenu(QStringLiteral("&View"), &bar), "mnuView"), ViewMenu);
     m_addControl.setTitle(QStringLiteral("&Add Control"));
-    m_addControl.setObjectName(QStringLiteral("mnuAddControl"));
-    fillAddMenu(m_addControl, QStringLiteral("mnu"));
-    menuBar()->addMenu(&m_addControl);
-    QMenu *configuration = addMenu("mnuConfiguration", "&Configuration");
-    QMenu *pattern = configuration->addMenu(QStringLiteral("Encode Pattern"));
-    pattern->setObjectName(QStringLiteral("mnuEncodePattern"));
-    fill(pattern);
-    fill(addMenu("mnuHelp", "&Help"));
+    fillAddMenu(*addMenu(bar, &m_addControl, "mnuAddControl"), QStringLiteral("mnu"));
+    QMenu *configuration =
+        addMenu(bar, new QMenu(QStringLiteral("&Configuration"), &bar), "mnuConfiguration");
+    fill(*addMenu(*configuration, new QMenu(QStringLiteral("Encode Pattern"), configuration),
+                  "mnuEncodePattern"),
+         EncodePatternMenu);
+    fill(*addMenu(bar, new QMenu(QStringLiteral("&Help"), &bar), "mnuHelp"), HelpMenu);
 }
 
 void frmMain::makeToolbar()
@@ -208,12 +118,7 @@ void frmMain::makeToolbar()
     toolbar->setMovable(false);
     toolbar->setIconSize(QSize(24, 24));
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-    toolbar->addActions({action("mnuNew"), action("mnuLoadConfig"), action("mnuSaveConfig")});
-    toolbar->addSeparator();
-    for (const CommandRow &row : CommandTable::Rows) {
-        if (QLatin1String(row.menu) == QLatin1String("Toolbar"))
-            toolbar->addAction(makeAction(row));
-    }
+    fill(*toolbar, Toolbar);
     setContextMenuPolicy(Qt::NoContextMenu);
 }
 
@@ -239,10 +144,7 @@ void frmMain::makePopups()
     connect(m_design, &surface::frmInterface::canvasMenuRequested, this,
             [this](const QPoint &position) { m_canvasPopup.popup(position); });
     m_controlPopup.setObjectName(QStringLiteral("mnuDropDown3"));
-    for (const CommandRow &row : CommandTable::Rows) {
-        if (m_controlPopup.objectName() == QLatin1String(row.menu))
-            m_controlPopup.addAction(makeAction(row));
-    }
+    fill(m_controlPopup, ControlPopup);
     connect(m_design, &surface::frmInterface::controlMenuRequested, this,
             [this](const QPoint &position) { m_controlPopup.popup(position); });
 }
@@ -250,14 +152,14 @@ void frmMain::makePopups()
 void frmMain::refreshFromState()
 {
     const recorder::RecorderSettings &settings = m_state.settings;
-    action("mnuPAL")->setChecked(settings.VideoType == VideoStandard::Pal);
-    action("mnuNTSC")->setChecked(settings.VideoType == VideoStandard::Ntsc);
-    action("mnuPanelDesign")->setChecked(m_design->panels().isPanelVisible(PanelId::Design));
-    action("mnuPanelLibrary")->setChecked(m_design->panels().isPanelVisible(PanelId::Library));
-    action("mnuPanelFunctions")->setChecked(m_design->panels().isPanelVisible(PanelId::Functions));
-    action("mnuI")->setChecked(settings.encodePattern == EncodePattern::I);
-    action("mnuIP")->setChecked(settings.encodePattern == EncodePattern::IP);
-    action("mnuIPB")->setChecked(settings.encodePattern == EncodePattern::IPB);
+    for (std::size_t i = 0; i < commands().size(); ++i) {
+        const Command &command = commands()[i];
+        QAction &action = *m_actions[static_cast<qsizetype>(i)];
+        if (command.isChecked)
+            action.setChecked(command.isChecked(*this));
+        if (command.isEnabled)
+            action.setEnabled(command.isEnabled(*this));
+    }
     m_standard->setText(settings.VideoType == VideoStandard::Pal ? QStringLiteral("PAL 720 x 576")
                                                                  : QStringLiteral("NTSC 720 x 480"));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
@@ -279,10 +181,13 @@ void frmMain::closeEvent(QCloseEvent *event)
     platform::SilentPrompts silent;
     platform::Prompts &prompts = m_state.sessionEnds ? silent : m_prompts;
     variables::writePendingEdits(m_state.catalogue, m_state.folders, m_state.locale, prompts);
-    if (!m_files.saveWorkspace(m_state.sessionEnds ? Leaving::SessionEnds : Leaving::ByCommand)) {
+    const Parting parting =
+        m_files.saveWorkspace(m_state.sessionEnds ? Leaving::SessionEnds : Leaving::ByCommand);
+    if (parting == Parting::Stays) {
         event->ignore();
         return;
     }
+    m_recovery.end(parting == Parting::DesignIsSafe);
     platform::reportFailures(prompts, [this] {
         m_design->saveGeometry();
         m_files.keepLastFolder();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/commands.h"
 #include "shell/file_commands.h"
 #include "shell/recovery.h"
 #include "shell/variable_commands.h"
@@ -9,8 +10,6 @@
 #include <QMenu>
 
 namespace shell {
-
-struct CommandRow;
 
 // The main window: menus, toolbar, status bar and the design window inside. Its commands are rows of one
 // table; what they show is derived from the state by refreshFromState().
@@ -32,12 +31,12 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void makeActions();
     void makeMenus();
     void makeToolbar();
     void makeStatusBar();
     void makePopups();
-    QAction *makeAction(const CommandRow &row);
-    QAction *action(const char *name) const;
+    void fill(QWidget &menu, Place place);
     void fillAddMenu(QMenu &menu, const QString &prefix);
     void sendKey(Qt::Key key);
 
@@ -47,9 +46,10 @@ private:
     FileCommands m_files;
     Recovery m_recovery{m_files};
     VariableCommands m_variables;
-    QMenu m_addControl;   // shared by the menu bar and the canvas popup
-    QMenu m_canvasPopup;  // mnuDropDown
-    QMenu m_controlPopup; // mnuDropDown3
+    QList<QAction *> m_actions; // of commands(), in its order
+    QMenu m_addControl;         // shared by the menu bar and the canvas popup
+    QMenu m_canvasPopup;        // mnuDropDown
+    QMenu m_controlPopup;       // mnuDropDown3
     QLabel *m_position;
     QLabel *m_standard;
     QLabel *m_bitRate;

@@ -15,14 +15,17 @@ namespace {
 
 QString newestBackup(const Folders &folders) { return folders.inUserData("MORVELBackup.VGL"); }
 
-// The newest backup has no number; the two before it are 2 and 3. Each step leaves all but the oldest.
+// The one that stands, but has not got its place yet.
+QString comingBackup(const Folders &folders) { return folders.inUserData("MORVELBackupNew.VGL"); }
+
+// The newest backup has no number; the two before it are 2 and 3. Nothing but the oldest is lost at any step.
 void moveBackupsOn(const Folders &folders)
 {
     const QString names[] = {folders.inUserData("MORVELBackup3.VGL"), folders.inUserData("MORVELBackup2.VGL"),
-                             newestBackup(folders)};
-    if (!QFileInfo(names[2]).isFile())
+                             newestBackup(folders), comingBackup(folders)};
+    if (!QFileInfo(names[3]).isFile())
         return;
-    for (int older = 0; older < 2; ++older) {
+    for (int older = 0; older < 3; ++older) {
         if (QFileInfo(names[older + 1]).isFile())
             platform::moveFile(names[older + 1], names[older]);
     }
@@ -37,9 +40,10 @@ bool written(const QString &path, const QByteArray &layout)
 
 Standing keepAsBackup(const QByteArray &layout, const Folders &folders)
 {
-    platform::StagedFile newest(newestBackup(folders), layout);
+    platform::skipFailures([&] { moveBackupsOn(folders); }); // where the last time was cut short
+    const Standing standing = platform::replaceFile(comingBackup(folders), layout);
     moveBackupsOn(folders);
-    return newest.commit();
+    return standing;
 }
 
 Standing keepAsWorkspace(const QByteArray &layout, const Folders &folders)
@@ -62,17 +66,11 @@ QString keepAnywhere(const QByteArray &layout, const Folders &folders)
     return written(temporary, layout) ? temporary : QString();
 }
 
-bool hasRecovery(const Folders &folders)
+QByteArray leftToRecover(const Folders &folders)
 {
     QByteArray left;
-    return platform::skipFailures([&] { left = platform::readFile(folders.recoveryFile()); }) &&
-           layoutfile::IsValidVGL(left);
-}
-
-void keepRecoveryAsBackup(const Folders &folders)
-{
-    keepAsBackup(platform::readFile(folders.recoveryFile()), folders);
-    QFile::remove(folders.recoveryFile());
+    platform::skipFailures([&] { left = platform::readFile(folders.recoveryFile()); });
+    return layoutfile::IsValidVGL(left) ? left : QByteArray();
 }
 
 } // namespace shell

@@ -28,11 +28,9 @@ bool say(int argc, char **argv, const Saying &saying)
 // What has to be said before the program can start; empty for nothing.
 Saying completeUserData(const platform::Folders &folders)
 {
-    const QString question = shell::missingFilesQuestion(folders);
-    if (!shell::isNewUser(folders) && question.isEmpty())
-        return {};
     if (shell::isNewUser(folders)) {
-        const auto failure = platform::failureOf([&] { shell::seedUserData(folders); });
+        const auto failure =
+            platform::failureOf([&] { shell::seedUserData(folders, shell::shippedFiles(folders)); });
         if (!failure)
             return {};
         return [reason = *failure](platform::Prompts &prompts) {
@@ -40,9 +38,13 @@ Saying completeUserData(const platform::Folders &folders)
             return false;
         };
     }
-    return [folders, question](platform::Prompts &prompts) {
-        return !prompts.ask(platform::Icon::Question, platform::ProductTitle, question) ||
-               platform::reportFailures(prompts, [&] { shell::seedUserData(folders); });
+    const QStringList missing = shell::missingDefinitions(folders);
+    if (missing.isEmpty())
+        return {};
+    return [folders, missing](platform::Prompts &prompts) {
+        return !prompts.ask(platform::Icon::Question, platform::ProductTitle,
+                            shell::missingFilesQuestion(folders, missing)) ||
+               platform::reportFailures(prompts, [&] { shell::seedUserData(folders, missing); });
     };
 }
 

@@ -15,9 +15,13 @@ using namespace std::chrono_literals;
 
 constexpr qint64 ShortestPause = 1000; // milliseconds
 constexpr qint64 ShareOfTime = 10;     // one part in so many
-constexpr auto GestureGoesOn = 200ms;
+constexpr auto ChangeGoesOn = 200ms;
 
-bool isGestureRunning() { return QGuiApplication::mouseButtons() != Qt::NoButton; }
+// In the middle of a gesture or under the hourglass the design is no whole.
+bool isChanging()
+{
+    return QGuiApplication::mouseButtons() != Qt::NoButton || QGuiApplication::overrideCursor();
+}
 
 } // namespace
 
@@ -35,10 +39,18 @@ void Recovery::noteChange()
     m_timer.start(static_cast<int>(std::max<qint64>(m_pause - rested, 0)));
 }
 
+void Recovery::end(bool designIsSafe)
+{
+    m_timer.stop();
+    if (m_begun && designIsSafe)
+        m_files.removeRecovery();
+    m_begun = false;
+}
+
 void Recovery::write()
 {
-    if (isGestureRunning()) {
-        m_timer.start(GestureGoesOn);
+    if (isChanging()) {
+        m_timer.start(ChangeGoesOn);
         return;
     }
     QElapsedTimer cost;

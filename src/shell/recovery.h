@@ -8,9 +8,9 @@
 
 namespace shell {
 
-// Keeps the recovery file up to date with the design: after each finished change, once the event loop has
-// nothing else to do, at most once a second and for at most a tenth of the time. A write that fails is passed
-// over, the next change tries again.
+// Keeps the recovery file up to date with the design: after each finished change, from the event loop, at
+// most once a second and for at most a tenth of the time. A write that fails is passed over, the next change
+// tries again.
 class Recovery final : public QObject
 {
 public:
@@ -19,6 +19,8 @@ public:
     // Before this nothing is written: what an earlier run left is still to be asked about.
     void begin() { m_begun = true; }
     void noteChange();
+    // At the end of the run. The file goes when the design lies somewhere else.
+    void end(bool designIsSafe);
 
 private:
     void write();

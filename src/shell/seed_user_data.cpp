@@ -8,17 +8,12 @@ namespace shell {
 
 bool isNewUser(const platform::Folders &folders) { return !QFileInfo::exists(folders.GetAppDataFolder()); }
 
-void seedUserData(const platform::Folders &folders)
+QStringList shippedFiles(const platform::Folders &folders)
 {
-    const QString target = folders.GetAppDataFolder();
-    QDir().mkpath(target);
-    for (const QString &name : QDir(folders.seeds()).entryList(QDir::Files)) {
-        if (!QFileInfo::exists(target + name))
-            platform::replaceFile(target + name, platform::readFile(folders.seeds() + name));
-    }
+    return QDir(folders.seeds()).entryList(QDir::Files);
 }
 
-QString missingFilesQuestion(const platform::Folders &folders)
+QStringList missingDefinitions(const platform::Folders &folders)
 {
     QStringList missing;
     for (const QString &file : {folders.variablesFile(), folders.MessagesFile()}) {
@@ -26,10 +21,23 @@ QString missingFilesQuestion(const platform::Folders &folders)
         if (!QFileInfo::exists(file) && QFileInfo(folders.seeds() + name).isFile())
             missing.append(name);
     }
-    if (missing.isEmpty())
-        return {};
+    return missing;
+}
+
+QString missingFilesQuestion(const platform::Folders &folders, const QStringList &missing)
+{
     return QStringLiteral("The folder\n%1\nlacks\n%2\n\nDo you want to put the shipped definitions there?")
         .arg(folders.GetAppDataFolder(), missing.join(QLatin1Char('\n')));
+}
+
+void seedUserData(const platform::Folders &folders, const QStringList &names)
+{
+    const QString target = folders.GetAppDataFolder();
+    QDir().mkpath(target);
+    for (const QString &name : names) {
+        if (!QFileInfo::exists(target + name))
+            platform::replaceFile(target + name, platform::readFile(folders.seeds() + name));
+    }
 }
 
 } // namespace shell

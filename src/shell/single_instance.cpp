@@ -4,6 +4,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 namespace shell {
 
 using platform::ProcessLock;
@@ -22,7 +24,10 @@ SingleInstance::SingleInstance(const QString &dataFolder, platform::Prompts &pro
 
 void tellOfRunningInstance(const QStringList &arguments, platform::Prompts &prompts)
 {
-    if (arguments.contains(LaunchedMark) && arguments.size() > 1) {
+    const bool opensLayout = std::any_of(arguments.begin(), arguments.end(), [](const QString &argument) {
+        return argument.startsWith(QLatin1String("/F"), Qt::CaseInsensitive);
+    });
+    if (arguments.contains(LaunchedMark) && opensLayout) {
         prompts.message(
             platform::Icon::Information, platform::ProductTitle,
             QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));

@@ -21,6 +21,12 @@ using platform::FileExists;
 using platform::Icon;
 using recorder::VideoStandard;
 
+namespace {
+
+const QString LastLayout = QStringLiteral("Do you want to load last layout ?");
+
+} // namespace
+
 StartUp::StartUp(const StartUpInput &input, platform::Prompts &prompts) : m_input(input), m_prompts(prompts)
 {
     m_since.start();
@@ -42,8 +48,10 @@ bool StartUp::run()
     if (!loadVariables() || !loadMessages() || !checkExpressions())
         return false;
     showWindows();
+    tellOfKeptFiles();
     chooseFirstLayout();
-    m_window->recovery().begin();
+    if (m_mayReplaceRecovery)
+        m_window->recovery().begin();
     return true;
 }
 
@@ -62,6 +70,10 @@ void StartUp::makeFolders()
     for (const QString &folder : {m_state.folders.GetAppDataFolder(), m_state.folders.pictureFolder(),
                                   m_state.folders.FontFolder(), m_state.folders.temporary})
         platform::removeStagedFiles(folder);
+    const QDir temporary(m_state.folders.temporary);
+    for (const QString &left :
+         temporary.entryList({QStringLiteral("save*")}, QDir::Dirs | QDir::NoDotAndDotDot))
+        QDir(temporary.filePath(left)).removeRecursively(); // earlier versions wrote layouts there
 }
 
 void StartUp::missingFile(const QString &name)
@@ -154,28 +166,52 @@ void StartUp::showSplashWhenLate()
 void StartUp::chooseFirstLayout()
 {
     const platform::Folders &folders = m_state.folders;
-    const QString lastLayout = QStringLiteral("Do you want to load last layout ?");
     const bool isNamed = !m_commandLine.layoutToOpen.isEmpty();
-    if (hasRecovery(folders)) {
-        if (!isNamed && offerLayout(folders.recoveryFile(), lastLayout))
-            return;
-        platform::reportFailures(m_prompts, [&] { keepRecoveryAsBackup(folders); });
-    }
-    if (isNamed) {
+    if (recoverDesign(!isNamed))
+        return;
+    if (isNamed)
         m_window->files().load(m_commandLine.layoutToOpen);
-        return;
-    }
-    if (offerLayout(folders.workspaceFile(), lastLayout))
-        return;
-    offerLayout(folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
+    else if (!offerLayout(folders.workspaceFile(), LastLayout))
+        offerLayout(folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
+}
+
+// True when the design of a run that did not come to its end was loaded. Otherwise, and where a load brings
+// no variables, it is a backup from now on.
+bool StartUp::recoverDesign(bool mayAsk)
+{
+    const QString path = m_state.folders.recoveryFile();
+    const QByteArray left = leftToRecover(m_state.folders);
+    if (left.isEmpty())
+        return false;
+    const bool isLoaded = mayAsk && offerLayout(path, LastLayout);
+    if (!isLoaded || m_state.catalogue.definitionsLost)
+        m_mayReplaceRecovery = platform::reportFailures(m_prompts, [&] {
+            keepAsBackup(left, m_state.folders);
+            QFile::remove(path);
+        });
+    return isLoaded;
 }
 
 bool StartUp::offerLayout(const QString &path, const QString &question)
 {
-    if (!FileExists(path) || !m_prompts.ask(Icon::Question, platform::ProductTitle, question))
-        return false;
-    m_window->files().load(path);
-    return true;
+    return FileExists(path) && m_prompts.ask(Icon::Question, platform::ProductTitle, question) &&
+           m_window->files().load(path);
+}
+
+// A save that was killed while it copied over has left the old bytes, and nobody has been told of them.
+void StartUp::tellOfKeptFiles()
+{
+    const QDir folder(m_state.folders.GetAppDataFolder());
+    for (const QString &name : folder.entryList({platform::KeptPrefix + QLatin1String("*-*")}, QDir::Files)) {
+        const QString told = platform::unusedPath(folder.filePath(QStringLiteral("old-") + name));
+        platform::skipFailures([&] {
+            platform::moveFile(folder.filePath(name), told);
+            m_prompts.message(
+                Icon::Warning, platform::ProductTitle,
+                QStringLiteral("A save did not come to its end. What the file held before is kept in\n") +
+                    told);
+        });
+    }
 }
 
 } // namespace shell

@@ -43,6 +43,8 @@ private:
     void showWindows();
     void showSplashWhenLate();
     void chooseFirstLayout();
+    bool recoverDesign(bool mayAsk);
+    void tellOfKeptFiles();
     bool offerLayout(const QString &path, const QString &question);
 
     StartUpInput m_input;
@@ -52,6 +54,7 @@ private:
     std::unique_ptr<frmMain> m_window;
     std::unique_ptr<frmStartSplash> m_splash;
     QElapsedTimer m_since;
+    bool m_mayReplaceRecovery = true; // nothing in it that lies nowhere else
 };
 
 } // namespace shell

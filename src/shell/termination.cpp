@@ -1,6 +1,7 @@
 #include "shell/termination.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -17,12 +18,34 @@ namespace shell {
 
 namespace {
 
-void listenToSession(QObject *owner, bool &sessionEnds)
+// The desktop tells of an end that may be called off yet: whoever presses a key or a button is still there.
+class SessionWatch final : public QObject
 {
-    QObject::connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, owner,
-        [&sessionEnds](QSessionManager &) { sessionEnds = true; }, Qt::DirectConnection);
-}
+public:
+    SessionWatch(QObject *owner, bool &sessionEnds) : QObject(owner), m_sessionEnds(sessionEnds)
+    {
+        connect(
+            qGuiApp, &QGuiApplication::commitDataRequest, this,
+            [this](QSessionManager &) {
+                m_sessionEnds = true;
+                qGuiApp->installEventFilter(this);
+            },
+            Qt::DirectConnection);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
+            m_sessionEnds = false;
+            qGuiApp->removeEventFilter(this);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool &m_sessionEnds;
+};
 
 } // namespace
 
@@ -56,7 +79,7 @@ void closeEverything()
 
 void closeOnTermination(QObject *owner, bool &sessionEnds)
 {
-    listenToSession(owner, sessionEnds);
+    new SessionWatch(owner, sessionEnds);
     std::array<int, 2> pair{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair.data()) != 0)
         return;
@@ -73,7 +96,7 @@ void closeOnTermination(QObject *owner, bool &sessionEnds)
         std::signal(number, &tellEventLoop);
 }
 #else
-void closeOnTermination(QObject *owner, bool &sessionEnds) { listenToSession(owner, sessionEnds); }
+void closeOnTermination(QObject *owner, bool &sessionEnds) { new SessionWatch(owner, sessionEnds); }
 #endif
 
 } // namespace shell

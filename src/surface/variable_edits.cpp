@@ -15,8 +15,10 @@ namespace {
 
 bool beginsWithNumber(const QString &text, const QString &decimalMark)
 {
-    const QString number = QStringLiteral("^\\s*[-+]?([.,]|%1)?[0-9]");
-    return QRegularExpression(number.arg(QRegularExpression::escape(decimalMark))).match(text).hasMatch();
+    const QString number = QStringLiteral("^\\s*[-+]?([.,\u066B]|%1)?\\d"); // digits of any script
+    const QRegularExpression pattern(number.arg(QRegularExpression::escape(decimalMark)),
+                                     QRegularExpression::UseUnicodePropertiesOption);
+    return pattern.match(text).hasMatch();
 }
 
 // Stores what was typed; an empty answer is a cancel. Throws RunTimeError for a number past all bounds.

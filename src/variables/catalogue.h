@@ -78,8 +78,8 @@ struct Catalogue
     VariableTable live = VariableTable(LastIndex + 1);
     VariableTable staging = VariableTable(LastIndex + 1);
     UnitTable units = UnitTable(1);
-    // The user's definitions could not be read at the start. Until others are loaded the definition files stay
-    // as they are: what lies here is not what the user had.
+    // The user's definitions could not be read at the start. Until others are loaded the definition files
+    // stay as they are: what lies here is not what the user had.
     bool definitionsLost = false;
     bool hasUnwrittenEdits = false; // the files in the user data folder are older than `live`
 };

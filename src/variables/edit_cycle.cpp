@@ -12,15 +12,13 @@ namespace {
 void writeXvrFile(const Catalogue &catalogue, const platform::Folders &folders,
                   const platform::NumberLocale &locale)
 {
-    if (!catalogue.definitionsLost)
-        platform::replaceFile(folders.inUserData("QLM6ConfigTool.XVR"),
-                              writeXvr(catalogue.live, locale.decimalSeparator));
+    platform::replaceFile(folders.inUserData("QLM6ConfigTool.XVR"),
+                          writeXvr(catalogue.live, locale.decimalSeparator));
 }
 
 void writeDefinitionFile(const Catalogue &catalogue, const platform::Folders &folders)
 {
-    if (!catalogue.definitionsLost)
-        platform::replaceFile(folders.variablesFile(), saveDefinitions(catalogue));
+    platform::replaceFile(folders.variablesFile(), saveDefinitions(catalogue));
 }
 
 } // namespace
@@ -38,7 +36,7 @@ void commitEdits(Catalogue &catalogue, const platform::Folders &folders, const p
 void writePendingEdits(Catalogue &catalogue, const platform::Folders &folders,
                        const platform::NumberLocale &locale, platform::Prompts &prompts)
 {
-    if (!catalogue.hasUnwrittenEdits)
+    if (!catalogue.hasUnwrittenEdits || catalogue.definitionsLost)
         return;
     const auto writeDefinitions = [&] { writeDefinitionFile(catalogue, folders); };
     // Both files mostly fail for the same reason, which is told once.
@@ -51,6 +49,7 @@ void writePendingEdits(Catalogue &catalogue, const platform::Folders &folders,
 void writeCatalogueFiles(Catalogue &catalogue, const platform::Folders &folders,
                          const platform::NumberLocale &locale)
 {
+    catalogue.hasUnwrittenEdits = true;
     writeDefinitionFile(catalogue, folders); // what the next start reads comes first
     writeXvrFile(catalogue, folders, locale);
     catalogue.hasUnwrittenEdits = false;

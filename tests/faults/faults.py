@@ -76,7 +76,7 @@ class Road:
     def held(self):
         """What lies where: the file, and all kept copies."""
         now = self.path.read_bytes() if self.path.exists() else b""
-        return now, [copy.read_bytes() for copy in self.keep.iterdir() if copy.name.endswith(".kept")]
+        return now, [copy.read_bytes() for copy in self.keep.iterdir() if copy.name.startswith("kept")]
 
 
 def judge(road, result, verdicts):

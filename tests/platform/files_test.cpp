@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QSysInfo>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -18,6 +19,8 @@
 namespace {
 
 using namespace platform;
+
+constexpr timeval LongAgo[2] = {{1000, 0}, {1000, 0}};
 
 class Files : public testing::Test
 {
@@ -98,12 +101,23 @@ TEST_F(Files, whatIsNoRegularFileIsNeitherReadNorReplaced)
 
 TEST_F(Files, whatAKilledSaveLeftGoesWithTheNextOneOrAtTheStart)
 {
-    put("f.morvel-new", "half");
-    replaceFile(at("f"), "new");
-    EXPECT_EQ(names(), QStringList{"f"});
-    put("g.morvel-new", "half");
+    const QString here = QString::fromLatin1(QUrl::toPercentEncoding(QSysInfo::machineHostName()));
+    const QString dead = at(qPrintable(here + "-4194305.morvel-new")); // no process has this number
+    const QString alive = here + QString("-%1.morvel-new").arg(getppid()), elsewhere = "pitwall-7.morvel-new";
+    for (const QString &name : {alive, elsewhere})
+        put(qPrintable(name), "half");
+    for (const bool saves : {true, false}) {
+        put(qPrintable(QFileInfo(dead).fileName()), "half");
+        if (saves)
+            replaceFile(at("f"), "new");
+        else
+            removeStagedFiles(folder.path());
+        EXPECT_FALSE(QFile::exists(dead));
+        EXPECT_TRUE(QFile::exists(at(qPrintable(alive))) && QFile::exists(at(qPrintable(elsewhere))));
+    }
+    ASSERT_EQ(utimes(qPrintable(at(qPrintable(elsewhere))), LongAgo), 0);
     removeStagedFiles(folder.path());
-    EXPECT_EQ(names(), QStringList{"f"});
+    EXPECT_EQ(names(), (QStringList{"f", alive}));
 }
 
 TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
@@ -121,6 +135,8 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
     const auto without = [](QFile &) { return ProcessLock::Answer::Unsupported; };
     const QByteArray here = QSysInfo::machineHostName().toUtf8();
     const QByteArray self = QByteArray::number(getpid()), parent = QByteArray::number(getppid());
+    QFile named("/proc/" + parent + "/comm");
+    const QByteArray name = named.open(QIODevice::ReadOnly) ? named.readAll().trimmed() : "parent";
     // A system lock alone decides, whatever an earlier kind of lock left.
     for (const char *content : {"", "1\nx\npitwall\n", "no lock"})
         EXPECT_EQ(stateOver(content, 0, &ProcessLock::systemLock), State::Ours) << content;
@@ -129,7 +145,9 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
         {"", 60, State::Ours},
         {"no lock", 60, State::Ours},
         {"12", 60, State::Ours},
-        {parent + "\nmorvel-config\n" + here + "\n", 60, State::Others},
+        {"", -600, State::Ours}, // the clock was set back
+        {parent + "\n" + name + "\n" + here + "\n", 60, State::Others},
+        {parent + "\nanother name\n" + here + "\n", 60, State::Ours}, // a number that came round again
         {self + "\nmorvel-config\n" + here + "\n", 0, State::Ours},
         {"4194305\nmorvel-config\n" + here + "\n", 0, State::Ours}, // no process has this number
         {parent + "\nmorvel-config\npitwall\n", 60, State::OtherHosts},
@@ -145,8 +163,7 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
     EXPECT_FALSE(QFile::exists(path)); // other hosts can see that nobody holds it
     ASSERT_TRUE(QDir(folder.path()).mkdir("lock"));
     EXPECT_EQ(ProcessLock(path).state(), State::Others); // somebody may be making it
-    const timeval old[2] = {{1000, 0}, {1000, 0}};
-    ASSERT_EQ(utimes(qPrintable(path), old), 0);
+    ASSERT_EQ(utimes(qPrintable(path), LongAgo), 0);
     EXPECT_EQ(ProcessLock(path).state(), State::Ours);
     EXPECT_TRUE(QFileInfo(path).isFile());
 }

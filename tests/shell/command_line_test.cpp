@@ -10,8 +10,8 @@ namespace {
 using namespace shell;
 using recorder::VideoStandard;
 
-const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl", "c.VGL",
-                         "/x/a.txt",        "/x/fooVGL",      "/me/12\" disc.VGL"};
+const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl",    "c.VGL",          "/x/a.txt",
+                         "/x/fooVGL",       "/me/12\" disc.VGL", "/me/12 disc.VGL"};
 
 TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
 {

@@ -6,6 +6,7 @@
 
 namespace {
 
+using shell::Parting;
 using test::DesignWindow;
 
 const QString Clear = "Do you want to clear design area ?";
@@ -85,7 +86,6 @@ TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowO
 {
     const platform::Folders &folders = w.world.state.folders;
     w.addBar(100, 100);
-    platform::replaceFile(folders.recoveryFile(), "left");
     const QString general = "The command could not be completed.\n";
     const QString refused = general + folders.workspaceFile() + ": not a regular file";
     const QString places[] = {folders.inUserData("MORVELBackup.VGL"),
@@ -93,9 +93,12 @@ TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowO
     QDir().mkpath(folders.workspaceFile());
     for (const QString &place : places) {
         prompts.expectMessage(refused + "\nThe design is kept in\n" + place);
-        EXPECT_TRUE(w.window.files().saveWorkspace());
+        EXPECT_EQ(w.window.files().saveWorkspace(), Parting::DesignIsSafe);
         EXPECT_EQ(count(place), 1);
-        EXPECT_FALSE(QFile::exists(folders.recoveryFile()));
+        QFile::remove(place);
+        // At the end of the session nobody can be told.
+        EXPECT_EQ(w.window.files().saveWorkspace(shell::Leaving::SessionEnds), Parting::DesignAtRisk);
+        EXPECT_EQ(count(place), 1);
         QFile::remove(place);
         QDir().mkpath(place);
     }
@@ -105,7 +108,7 @@ TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowO
         EXPECT_EQ(w.window.close(), leaves);
         EXPECT_EQ(w.window.isVisible(), !leaves);
     }
-    EXPECT_TRUE(w.window.files().saveWorkspace(shell::Leaving::SessionEnds)); // and nobody is asked
+    EXPECT_EQ(w.window.files().saveWorkspace(shell::Leaving::SessionEnds), Parting::DesignAtRisk);
 }
 
 TEST_F(FileCommands, ABackupThatFailsCostsNoOlderOne)

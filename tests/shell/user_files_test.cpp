@@ -49,16 +49,23 @@ TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
     QDir(root.path()).mkpath("home/Torvane");
     EXPECT_FALSE(isNewUser(folders)); // cut short as it was
     platform::replaceFile(folders.inUserData("back.bmp"), "mine");
-    EXPECT_TRUE(missingFilesQuestion(folders).contains("QLM6ConfigToolVars.cfg\nQLM6ConfigToolMessages.cfg"));
-    seedUserData(folders);
+    EXPECT_EQ(missingDefinitions(folders),
+              (QStringList{"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg"}));
+    seedUserData(folders, shippedFiles(folders));
     EXPECT_EQ(platform::readFile(folders.inUserData("back.bmp")), "mine");
     EXPECT_EQ(platform::readFile(folders.variablesFile()), "shipped");
-    EXPECT_EQ(missingFilesQuestion(folders), "");
+    EXPECT_EQ(missingDefinitions(folders), QStringList());
+    for (const QString &file : {folders.variablesFile(), folders.inUserData("back.bmp")})
+        QFile::remove(file);
+    const QStringList missing = missingDefinitions(folders);
+    EXPECT_EQ(missing, QStringList{"QLM6ConfigToolVars.cfg"});
+    const QString question = missingFilesQuestion(folders, missing);
+    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()) && question.contains(missing[0]));
+    seedUserData(folders, missing);
+    EXPECT_TRUE(QFile::exists(folders.variablesFile()) && !QFile::exists(folders.inUserData("back.bmp")));
     QFile::remove(folders.variablesFile());
-    const QString question = missingFilesQuestion(folders);
-    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()) && !question.contains("Messages"));
     QFile::remove(folders.seeds() + "QLM6ConfigToolVars.cfg");
-    EXPECT_EQ(missingFilesQuestion(folders), ""); // nothing to offer
+    EXPECT_EQ(missingDefinitions(folders), QStringList()); // nothing to offer
 }
 
 TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
@@ -87,7 +94,7 @@ TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
         EXPECT_EQ(SingleInstance(path("a/"), prompts, without).isFirst(), yes);
     }
     tellOfRunningInstance({"/F/x.VGL"}, prompts);
-    tellOfRunningInstance({LaunchedMark}, prompts);
+    tellOfRunningInstance({LaunchedMark, "/tpal"}, prompts);
     prompts.expectMessage("The tool is already open. Load the layout there with File, Load Layout.");
     tellOfRunningInstance({LaunchedMark, "/F/x.VGL"}, prompts);
 }

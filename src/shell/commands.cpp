@@ -1,0 +1,228 @@
+#include "shell/commands.h"
+
+#include "shell/frm_main.h"
+#include "shell/frm_start_splash.h"
+#include "surface/panel_area.h"
+
+namespace shell {
+
+using recorder::EncodePattern;
+using recorder::VideoStandard;
+using surface::PanelId;
+
+// What a command may see of the main window.
+struct CommandTable
+{
+    template <PanelId Id>
+    static void togglePanel(frmMain &w)
+    {
+        surface::PanelArea &panels = w.m_design->panels();
+        panels.setPanelVisible(Id, !panels.isPanelVisible(Id));
+    }
+    template <PanelId Id>
+    static bool isPanelVisible(const frmMain &w)
+    {
+        return w.m_design->panels().isPanelVisible(Id);
+    }
+    template <VideoStandard Standard>
+    static void setStandard(frmMain &w)
+    {
+        w.m_design->setVideoStandard(Standard);
+    }
+    template <VideoStandard Standard>
+    static bool isStandard(const frmMain &w)
+    {
+        return w.m_state.settings.VideoType == Standard;
+    }
+    template <EncodePattern Pattern>
+    static void setPattern(frmMain &w)
+    {
+        w.m_state.settings.encodePattern = Pattern;
+    }
+    template <EncodePattern Pattern>
+    static bool isPattern(const frmMain &w)
+    {
+        return w.m_state.settings.encodePattern == Pattern;
+    }
+    template <Qt::Key Key>
+    static void sendKey(frmMain &w)
+    {
+        w.sendKey(Key);
+    }
+    static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
+
+    static constexpr Command Rows[] = {
+        {.places = FileMenu | Toolbar,
+         .name = "mnuNew",
+         .caption = "&New Layout",
+         .icon = "toolbar/new",
+         .shortcut = "Ctrl+N",
+         .run = [](frmMain &w) { w.m_files.mnuNew(); }},
+        {.places = FileMenu | Toolbar,
+         .name = "mnuLoadConfig",
+         .caption = "&Load Layout",
+         .icon = "toolbar/open",
+         .shortcut = "Ctrl+O",
+         .run = [](frmMain &w) { w.m_files.mnuLoadConfig(); }},
+        {.places = FileMenu | Toolbar,
+         .name = "mnuSaveConfig",
+         .caption = "&Save Layout",
+         .icon = "toolbar/save",
+         .shortcut = "Ctrl+S",
+         .run = [](frmMain &w) { w.m_files.mnuSaveConfig(); }},
+        {.places = FileMenu | Toolbar},
+        {.places = FileMenu,
+         .name = "mnuLoadVarInfo",
+         .caption = "Load &Variable Information",
+         .run = [](frmMain &w) { w.m_variables.mnuLoadVarInfo(); }},
+        {.places = FileMenu,
+         .name = "mnuSaveVarInfo",
+         .caption = "Save Variable &Information",
+         .run = [](frmMain &w) { w.m_variables.mnuSaveVarInfo(); }},
+        {.places = FileMenu,
+         .name = "mnuRestoreDefaultVar",
+         .caption = "&Restore Default Variable Information",
+         .run = [](frmMain &w) { w.m_variables.mnuRestoreDefaultVar(); }},
+        {.places = FileMenu},
+        {.places = FileMenu,
+         .name = "mnuPrdCPULoad",
+         .caption = "Calculate Predictive CPU Load",
+         .icon = "menu/load_estimate",
+         .run = [](frmMain &w) { w.m_files.mnuPrdCPULoad(); }},
+        {.places = FileMenu},
+        {.places = FileMenu,
+         .name = "mnuExit",
+         .caption = "E&xit",
+         .icon = "menu/exit",
+         .shortcut = "Ctrl+Q",
+         .run = [](frmMain &w) { w.close(); }},
+
+        {.places = ViewMenu,
+         .name = "mnuPAL",
+         .caption = "PAL",
+         .run = &setStandard<VideoStandard::Pal>,
+         .isChecked = &isStandard<VideoStandard::Pal>},
+        {.places = ViewMenu,
+         .name = "mnuNTSC",
+         .caption = "NTSC",
+         .run = &setStandard<VideoStandard::Ntsc>,
+         .isChecked = &isStandard<VideoStandard::Ntsc>},
+        {.places = ViewMenu},
+        {.places = ViewMenu,
+         .name = "mnuPanelDesign",
+         .caption = "&Design Panel",
+         .shortcut = "Ctrl+1",
+         .run = &togglePanel<PanelId::Design>,
+         .isChecked = &isPanelVisible<PanelId::Design>},
+        {.places = ViewMenu,
+         .name = "mnuPanelLibrary",
+         .caption = "&Control Library Panel",
+         .shortcut = "Ctrl+2",
+         .run = &togglePanel<PanelId::Library>,
+         .isChecked = &isPanelVisible<PanelId::Library>},
+        {.places = ViewMenu,
+         .name = "mnuPanelFunctions",
+         .caption = "&Variables Panel",
+         .shortcut = "Ctrl+3",
+         .run = &togglePanel<PanelId::Functions>,
+         .isChecked = &isPanelVisible<PanelId::Functions>},
+        {.places = ViewMenu},
+        {.places = ViewMenu,
+         .name = "mnuNextPanel",
+         .caption = "&Next Panel",
+         .shortcut = "F6",
+         .run = [](frmMain &w) { w.m_design->panels().stepPanel(true); }},
+        {.places = ViewMenu,
+         .name = "mnuPreviousPanel",
+         .caption = "&Previous Panel",
+         .shortcut = "Shift+F6",
+         .run = [](frmMain &w) { w.m_design->panels().stepPanel(false); }},
+        {.places = ViewMenu,
+         .name = "mnuResetPanels",
+         .caption = "&Reset Panels",
+         .icon = "menu/panels",
+         .run = [](frmMain &w) { w.m_design->resetPanels(); }},
+
+        {.places = EncodePatternMenu,
+         .name = "mnuI",
+         .caption = "I",
+         .run = &setPattern<EncodePattern::I>,
+         .isChecked = &isPattern<EncodePattern::I>},
+        {.places = EncodePatternMenu,
+         .name = "mnuIP",
+         .caption = "IP",
+         .run = &setPattern<EncodePattern::IP>,
+         .isChecked = &isPattern<EncodePattern::IP>},
+        {.places = EncodePatternMenu,
+         .name = "mnuIPB",
+         .caption = "IPB",
+         .run = &setPattern<EncodePattern::IPB>,
+         .isChecked = &isPattern<EncodePattern::IPB>},
+
+        {.places = HelpMenu,
+         .name = "mnuAbout",
+         .caption = "About Us",
+         .icon = "menu/about",
+         .run = [](frmMain &w) { frmStartSplash(w.m_state.folders, &w).exec(); }},
+
+        {.places = Toolbar,
+         .name = "cmdLeft",
+         .caption = "Nudge left",
+         .icon = "toolbar/left",
+         .run = &sendKey<Qt::Key_Left>,
+         .isEnabled = &hasControls},
+        {.places = Toolbar,
+         .name = "cmdUp",
+         .caption = "Nudge up",
+         .icon = "toolbar/up",
+         .run = &sendKey<Qt::Key_Up>,
+         .isEnabled = &hasControls},
+        {.places = Toolbar,
+         .name = "cmdDown",
+         .caption = "Nudge down",
+         .icon = "toolbar/down",
+         .run = &sendKey<Qt::Key_Down>,
+         .isEnabled = &hasControls},
+        {.places = Toolbar,
+         .name = "cmdRight",
+         .caption = "Nudge right",
+         .icon = "toolbar/right",
+         .run = &sendKey<Qt::Key_Right>,
+         .isEnabled = &hasControls},
+        {.places = Toolbar},
+        {.places = Toolbar,
+         .name = "cmdPrevious",
+         .caption = "Previous control",
+         .icon = "toolbar/previous",
+         .run = [](frmMain &w) { w.m_design->stepControl(false); },
+         .isEnabled = &hasControls},
+        {.places = Toolbar,
+         .name = "cmdNext",
+         .caption = "Next control",
+         .icon = "toolbar/next",
+         .run = [](frmMain &w) { w.m_design->stepControl(true); },
+         .isEnabled = &hasControls},
+        {.places = Toolbar},
+        {.places = Toolbar,
+         .name = "cmdEnter",
+         .caption = "Properties of the selected control",
+         .icon = "toolbar/properties",
+         .run = &sendKey<Qt::Key_Return>,
+         .isEnabled = &hasControls},
+
+        {.places = ControlPopup,
+         .name = "mnuDelete_C",
+         .caption = "&Delete",
+         .icon = "menu/delete",
+         .run = &sendKey<Qt::Key_Delete>},
+        {.places = ControlPopup,
+         .name = "mnuProperties_C",
+         .caption = "P&roperties",
+         .icon = "toolbar/properties",
+         .run = &sendKey<Qt::Key_Return>},
+    };
+};
+
+std::span<const Command> commands() { return CommandTable::Rows; }
+
+} // namespace shell

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+namespace shell {
+
+class frmMain;
+
+// The menus, popups and bars that a command may stand in; they are combined.
+enum Place : unsigned {
+    FileMenu = 1U << 0U,
+    ViewMenu = 1U << 1U,
+    EncodePatternMenu = 1U << 2U,
+    HelpMenu = 1U << 3U,
+    Toolbar = 1U << 4U,
+    ControlPopup = 1U << 5U
+};
+
+// One entry: where it stands, how it looks, what it does, and what it shows of the program's state. In each
+// of its places the entries stand in the order of the rows.
+struct Command
+{
+    unsigned places;
+    const char *name = ""; // of its action; empty for a separator
+    const char *caption = "";
+    const char *icon = ""; // in the resources
+    const char *shortcut = "";
+    void (*run)(frmMain &) = nullptr;
+    bool (*isChecked)(const frmMain &) = nullptr; // null for entries without a mark
+    bool (*isEnabled)(const frmMain &) = nullptr; // null for always
+};
+
+std::span<const Command> commands();
+
+} // namespace shell
