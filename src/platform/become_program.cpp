@@ -21,6 +21,7 @@ QString becomeProgram(const QString &path, const QStringList &arguments)
     for (const QString &argument : arguments)
         words.push_back(QFile::encodeName(argument));
     std::vector<char *> line;
+    line.reserve(words.size() + 1);
     for (QByteArray &word : words)
         line.push_back(word.data());
     line.push_back(nullptr);

@@ -184,11 +184,12 @@ bool StartUp::recoverDesign(bool mayAsk)
     if (left.isEmpty())
         return false;
     const bool isLoaded = mayAsk && offerLayout(path, LastLayout);
-    if (!isLoaded || m_state.catalogue.definitionsLost)
+    if (!isLoaded || m_state.catalogue.definitionsLost) {
         m_mayReplaceRecovery = platform::reportFailures(m_prompts, [&] {
             keepAsBackup(left, m_state.folders);
             QFile::remove(path);
         });
+    }
     return isLoaded;
 }
 

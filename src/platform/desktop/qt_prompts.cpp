@@ -83,7 +83,7 @@ QMessageBox::StandardButton showBox(QWidget *parent, Icon icon, const QString &t
     QMessageBox box(boxIcon(icon), title, text, buttons, parent);
     if (icon == Icon::Warning)
         box.setDefaultButton(QMessageBox::No); // Return alone risks nothing
-    box.setTextFormat(Qt::PlainText); // names from files are shown, never interpreted
+    box.setTextFormat(Qt::PlainText);          // names from files are shown, never interpreted
     makeRoomForTitle(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
