@@ -84,8 +84,9 @@ QStringList OverlayControl::Serialise() const
 
 void OverlayControl::Deserialise(const QStringList &texts)
 {
-    deserialise(properties(), values(), texts, screen(), m_host.locale().decimalSeparator);
+    deserialise(properties(), values(), texts, m_host.locale().decimalSeparator);
     placeWidget();
+    settle();
 }
 
 void OverlayControl::setColour(quint32 colour, quint32 /*unused*/)

@@ -118,6 +118,8 @@ protected:
     virtual GripSet grips() const { return GripSet::All; }
     // After the box has changed its size by other means than the dialog.
     virtual void sizeChanged() {}
+    // The end of Deserialise(): what follows from the properties that were just read.
+    virtual void settle() {}
     // One arrow key: changes the position property by (dx, dy) canvas pixels and raises Reposition.
     virtual void nudge(int dx, int dy) = 0;
 

@@ -2,6 +2,8 @@
 
 #include "common/number_text.h"
 
+#include <algorithm>
+
 namespace controls {
 
 namespace {
@@ -27,24 +29,36 @@ QString toText(const PropertyValue &value, const QString &decimalMark)
         QString operator()(qint32 number) const { return QString::number(number); }
         QString operator()(float number) const { return common::shortestText(number, mark); }
         QString operator()(const QString &text) const { return text; }
+        QString operator()(const QImage &) const { return {}; }
     } const visitor{decimalMark};
     return std::visit(visitor, value);
 }
 
-float floatOf(QString text, const QString &decimalMark)
+double numberIn(QString text, const QString &decimalMark)
 {
-    return detail::toSingle(common::leadingNumber(text.replace(decimalMark, QLatin1String("."))));
+    return common::leadingNumber(text.replace(decimalMark, QLatin1String(".")));
 }
 
-// `kind` tells by its alternative what the text stands for.
-PropertyValue fromText(const QString &text, const PropertyValue &kind, const QString &decimalMark)
+float floatOf(const QString &text, const QString &decimalMark)
 {
-    if (std::holds_alternative<QString>(kind))
+    return detail::toSingle(numberIn(text, decimalMark));
+}
+
+PropertyValue fromText(const QString &text, PropertyKind kind, const QString &decimalMark)
+{
+    if (kind == PropertyKind::Text)
         return text;
-    if (std::holds_alternative<float>(kind))
+    if (kind == PropertyKind::Single)
         return floatOf(text, decimalMark);
-    QString number = text;
-    return common::toInteger<qint32>(common::leadingNumber(number.replace(decimalMark, QLatin1String("."))));
+    return common::toInteger<qint32>(numberIn(text, decimalMark));
+}
+
+template <typename T>
+const T &valueAs(const PropertyValue &value)
+{
+    if (const T *held = std::get_if<T>(&value))
+        return *held;
+    throw RunTimeError(QStringLiteral("Type mismatch"));
 }
 
 } // namespace
@@ -55,18 +69,12 @@ double numberOf(const PropertyValue &value)
 {
     if (const auto *whole = std::get_if<qint32>(&value))
         return *whole;
-    if (const auto *single = std::get_if<float>(&value))
-        return static_cast<double>(*single);
-    throw RunTimeError(QStringLiteral("Type mismatch"));
+    return static_cast<double>(valueAs<float>(value));
 }
 
-void fromProperty(const PropertyValue &value, QString &member)
-{
-    const auto *text = std::get_if<QString>(&value);
-    if (!text)
-        throw RunTimeError(QStringLiteral("Type mismatch"));
-    member = *text;
-}
+void fromProperty(const PropertyValue &value, QString &member) { member = valueAs<QString>(value); }
+
+void fromProperty(const PropertyValue &value, QImage &member) { member = valueAs<QImage>(value); }
 
 } // namespace detail
 
@@ -85,23 +93,26 @@ QStringList serialise(const PropertyTable &table, const ControlValues &values, c
 {
     QStringList texts{common::shortestText(values.box.Width, decimalMark),
                       common::shortestText(values.box.Height, decimalMark)};
-    for (const std::string_view name : table.serialised)
-        texts.append(toText(table.reader(name)->get(values, screen), decimalMark));
+    for (const PropertyRow &row : table.rows) {
+        if (row.isSerialised)
+            texts.append(toText(row.get(values, screen), decimalMark));
+    }
     return texts;
 }
 
 void deserialise(const PropertyTable &table, ControlValues &values, const QStringList &texts,
-                 const platform::Screen &screen, const QString &decimalMark)
+                 const QString &decimalMark)
 {
-    if (texts.size() < SizeEntries + static_cast<qsizetype>(table.serialised.size()))
+    const auto serialised = std::count_if(table.rows.begin(), table.rows.end(),
+                                          [](const PropertyRow &row) { return row.isSerialised; });
+    if (texts.size() < SizeEntries + serialised)
         throw RunTimeError(QStringLiteral("Subscript out of range"));
     values.box.Width = floatOf(texts[0], decimalMark);
     values.box.Height = floatOf(texts[1], decimalMark);
     qsizetype entry = SizeEntries;
-    for (const std::string_view name : table.serialised) {
-        const PropertyRow &row = *table.reader(name);
-        row.set(values, fromText(texts[entry++], row.get(values, screen), decimalMark));
-        row.set(values, row.get(values, screen));
+    for (const PropertyRow &row : table.rows) {
+        if (row.isSerialised)
+            row.set(values, fromText(texts[entry++], row.kind, decimalMark));
     }
 }
 

@@ -5,11 +5,10 @@
 #include "controls/geometry.h"
 #include "platform/screen.h"
 
+#include <QImage>
 #include <QString>
 #include <QStringList>
 
-#include <algorithm>
-#include <limits>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -22,14 +21,30 @@ struct ControlValues
     Box box;
 };
 
-// A property as it passes by name: whole numbers and colours, floats, text.
-using PropertyValue = std::variant<qint32, float, QString>;
+// Text of a fixed width: cut or padded with blanks to N characters whenever it is set.
+template <int N>
+class FixedString
+{
+public:
+    FixedString(const QString &text = {}) : m_text(text.leftJustified(N, QLatin1Char(' '), true)) {}
+    operator const QString &() const { return m_text; }
 
-// One property: the names of its reader and writer and how they reach its member.
+private:
+    QString m_text;
+};
+
+// A property as it passes by name: whole numbers and colours, floats, text, pictures.
+using PropertyValue = std::variant<qint32, float, QString, QImage>;
+enum class PropertyKind { Whole, Single, Text, Picture }; // the alternatives, in order
+
+// One property: the names of its reader and writer and how they reach its member. Rows without names are
+// elements of the serialised array alone.
 struct PropertyRow
 {
     std::string_view reader;
     std::string_view writer; // empty for a read-only property
+    PropertyKind kind;
+    bool isSerialised;
     PropertyValue (*get)(const ControlValues &, const platform::Screen &);
     void (*set)(ControlValues &, const PropertyValue &) = nullptr; // throws RunTimeError when it does not fit
 
@@ -41,28 +56,33 @@ struct PropertyRow
         row.get = reading;
         return row;
     }
+    // The same row, left out of the serialised array.
+    constexpr PropertyRow notSerialised() const
+    {
+        PropertyRow row = *this;
+        row.isSerialised = false;
+        return row;
+    }
 };
 
-// A family's properties and the order of its serialised array behind width and height.
+// A family's properties in the order of its serialised array behind width and height.
 struct PropertyTable
 {
     std::span<const PropertyRow> rows;
-    std::span<const std::string_view> serialised;
 
     // Null when there is none of this name.
     const PropertyRow *reader(std::string_view name) const;
     const PropertyRow *writer(std::string_view name) const;
 };
 
-// The flat array of texts: outer width and height in twips, then the table's order.
+// The flat array of texts: outer width and height in twips, then the serialised rows.
 QStringList serialise(const PropertyTable &table, const ControlValues &values, const platform::Screen &screen,
                       const QString &decimalMark);
 
-// The reverse. Each property keeps what its reader answers, so that values that were never set are settled.
-// Throws RunTimeError when the array is too short or a text does not fit its property; the values may then be
-// changed in part.
+// The reverse, into the members as they stand. Throws RunTimeError when the array is too short or a text does
+// not fit its property; the values may then be changed in part.
 void deserialise(const PropertyTable &table, ControlValues &values, const QStringList &texts,
-                 const platform::Screen &screen, const QString &decimalMark);
+                 const QString &decimalMark);
 
 namespace detail {
 
@@ -83,9 +103,10 @@ PropertyValue toProperty(T value)
 inline PropertyValue toProperty(float value) { return value; }
 inline PropertyValue toProperty(const common::Colour &value) { return static_cast<qint32>(value.packed()); }
 inline PropertyValue toProperty(const QString &value) { return value; }
+inline PropertyValue toProperty(const QImage &value) { return value; }
 
 using common::toSingle;
-double numberOf(const PropertyValue &value); // throws RunTimeError for text
+double numberOf(const PropertyValue &value); // throws RunTimeError for what is no number
 
 template <std::integral T>
 void fromProperty(const PropertyValue &value, T &member)
@@ -97,16 +118,42 @@ inline void fromProperty(const PropertyValue &value, common::Colour &member)
 {
     member.setPacked(static_cast<quint32>(common::toInteger<qint32>(numberOf(value))));
 }
-void fromProperty(const PropertyValue &value, QString &member); // throws RunTimeError for a number
+// These throw RunTimeError for every other kind.
+void fromProperty(const PropertyValue &value, QString &member);
+void fromProperty(const PropertyValue &value, QImage &member);
+template <int N>
+void fromProperty(const PropertyValue &value, FixedString<N> &member)
+{
+    QString text;
+    fromProperty(value, text);
+    member = text;
+}
+
+template <typename T>
+constexpr PropertyKind kindOf()
+{
+    if constexpr (std::is_same_v<T, float>)
+        return PropertyKind::Single;
+    else if constexpr (std::is_same_v<T, QImage>)
+        return PropertyKind::Picture;
+    else if constexpr (std::is_convertible_v<const T &, const QString &>)
+        return PropertyKind::Text;
+    else
+        return PropertyKind::Whole;
+}
 
 } // namespace detail
 
-// The row of a member: property<&GaugeValues::curMax>("curMax", "newMax").
+// The row of a member: property<&GaugeValues::curMax>("curMax", "newMax"). Pictures are not serialised.
 template <auto M>
 constexpr PropertyRow property(std::string_view reader, std::string_view writer)
 {
     using Owner = typename detail::Member<decltype(M)>::Owner;
-    return {reader, writer,
+    constexpr PropertyKind Kind = detail::kindOf<typename detail::Member<decltype(M)>::Type>();
+    return {reader,
+            writer,
+            Kind,
+            Kind != PropertyKind::Picture,
             [](const ControlValues &values, const platform::Screen &) {
                 return detail::toProperty(static_cast<const Owner &>(values).*M);
             },
@@ -115,20 +162,18 @@ constexpr PropertyRow property(std::string_view reader, std::string_view writer)
             }};
 }
 
-// A read-only row that is worked out from the others.
+// An element of the serialised array that repeats a property or holds what has no name.
+template <auto M>
+constexpr PropertyRow element()
+{
+    return property<M>({}, {});
+}
+
+// A read-only float that is worked out from the others; not serialised.
 constexpr PropertyRow computed(std::string_view reader,
                                PropertyValue (*get)(const ControlValues &, const platform::Screen &))
 {
-    return {reader, {}, get};
-}
-
-// Whether each name of a serialised order is a reader of the table: for static_assert beside the table.
-constexpr bool refersToRows(std::span<const std::string_view> order, std::span<const PropertyRow> rows)
-{
-    return std::all_of(order.begin(), order.end(), [rows](std::string_view name) {
-        return std::any_of(rows.begin(), rows.end(),
-                           [name](const PropertyRow &row) { return row.reader == name; });
-    });
+    return {reader, {}, PropertyKind::Single, false, get};
 }
 
 } // namespace controls

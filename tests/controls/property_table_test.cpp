@@ -13,40 +13,69 @@ constexpr platform::Screen Usual;
 const QString GaugeTexts = "1950.5|1965|6025|360|66|59|3|-2147483643|-90|45|-0.25|1E+07|0.1|7|1.5|2";
 const QString BarTexts = "1950|450|2|20|16711680|100|-5.5|50|1|204|3|0.5|9";
 
+// What the rows of other families hold besides: text of a fixed width, elements without a name, a picture.
+struct SampleValues : ControlValues
+{
+    FixedString<6> caption{"SPEED"};
+    common::Colour colour{255};
+    quint8 hidden = 9;
+    QImage picture;
+};
+
+const PropertyTable &sampleProperties()
+{
+    using V = SampleValues;
+    static constexpr std::array Rows{
+        property<&V::caption>("curCaption", "newCaption"), property<&V::colour>("curColour", "newColour"),
+        property<&V::hidden>("curHidden", "newHidden").notSerialised(),
+        property<&V::picture>("curPicture", "newPicture"), element<&V::colour>()};
+    static constexpr PropertyTable Table{Rows};
+    return Table;
+}
+
 QString textsOf(const PropertyTable &table, const ControlValues &values, const QString &mark = ".")
 {
     return serialise(table, values, Usual, mark).join('|');
 }
 
-TEST(Serialise, gaugeHasSixteenElementsInTheLocalesNumbers)
+template <typename Values>
+Values valuesOf(const PropertyTable &table, const QString &texts, const QString &mark = ".")
 {
-    GaugeValues values;
-    deserialise(gaugeProperties(), values, GaugeTexts.split('|'), Usual, ".");
-    EXPECT_EQ(values.box, (Box{0, 0, 1950.5F, 1965})); // its place is the paste's
-    EXPECT_EQ(values.curColour.packed(), 0x80000005U);
-    EXPECT_EQ(textsOf(gaugeProperties(), values), GaugeTexts);
-    const QString inComma = QString(GaugeTexts).replace('.', ',');
-    EXPECT_EQ(textsOf(gaugeProperties(), values, ","), inComma);
-    GaugeValues copy;
-    deserialise(gaugeProperties(), copy, inComma.split('|'), Usual, ",");
-    EXPECT_EQ(textsOf(gaugeProperties(), copy), GaugeTexts);
-    // A pivot that was never set is half the box (1965 / 15 / 2 is 65.5). A copy keeps that, taking it does
-    // not.
-    values.curCenterY = 0;
-    deserialise(gaugeProperties(), copy, textsOf(gaugeProperties(), values).split('|'), Usual, ".");
-    EXPECT_EQ(copy.curCenterY, 66);
-    EXPECT_EQ(values.curCenterY, 0);
-    deserialise(gaugeProperties(), copy, QString(GaugeTexts).replace("|360|", "|0|").split('|'), Usual, ".");
-    EXPECT_EQ(copy.curCenterX, 65);
+    Values values;
+    deserialise(table, values, texts.split('|'), mark);
+    return values;
 }
 
-TEST(Serialise, barGraphHasThirteenElements)
+TEST(Serialise, eachFamilyHasItsElementsInItsOrderInTheLocalesNumbers)
 {
-    BarGraphValues values;
-    deserialise(barGraphProperties(), values, BarTexts.split('|'), Usual, ".");
-    EXPECT_EQ(textsOf(barGraphProperties(), values), BarTexts);
-    EXPECT_EQ(barGraphProperties().reader("curWidth")->get(values, {12, 10}), PropertyValue(150.0F));
-    EXPECT_EQ(barGraphProperties().reader("curHeight")->get(values, {12, 10}), PropertyValue(30.0F));
+    const auto gauge = valuesOf<GaugeValues>(gaugeProperties(), GaugeTexts);
+    EXPECT_EQ(gauge.box, (Box{0, 0, 1950.5F, 1965})); // its place is the paste's
+    EXPECT_EQ(gauge.curColour.packed(), 0x80000005U);
+    EXPECT_EQ(textsOf(gaugeProperties(), gauge), GaugeTexts);
+    const QString inComma = QString(GaugeTexts).replace('.', ',');
+    EXPECT_EQ(textsOf(gaugeProperties(), gauge, ","), inComma);
+    EXPECT_EQ(textsOf(gaugeProperties(), valuesOf<GaugeValues>(gaugeProperties(), inComma, ",")), GaugeTexts);
+
+    const auto bar = valuesOf<BarGraphValues>(barGraphProperties(), BarTexts);
+    EXPECT_EQ(textsOf(barGraphProperties(), bar), BarTexts);
+    EXPECT_EQ(barGraphProperties().reader("curWidth")->get(bar, {12, 10}), PropertyValue(150.0F));
+    EXPECT_EQ(barGraphProperties().reader("curHeight")->get(bar, {12, 10}), PropertyValue(30.0F));
+
+    EXPECT_EQ(textsOf(sampleProperties(), SampleValues()), "0|0|SPEED |255|255");
+    const auto sample = valuesOf<SampleValues>(sampleProperties(), "1|2|revolutions|3|4");
+    EXPECT_EQ(textsOf(sampleProperties(), sample), "1|2|revolu|4|4");
+    EXPECT_EQ(sample.hidden, 9);
+}
+
+TEST(Serialise, aPivotThatWasNeverSetIsHalfTheBoxAndIsStoredOnceItIsTaken)
+{
+    // 1950.5 / 15 / 2 is 65.02, 1965 / 15 / 2 is 65.5
+    const QString unset = QString(GaugeTexts).replace("|360|66|", "|0|0|");
+    const auto values = valuesOf<GaugeValues>(gaugeProperties(), unset);
+    EXPECT_EQ(textsOf(gaugeProperties(), values), QString(GaugeTexts).replace("|360|66|", "|65|66|"));
+    EXPECT_TRUE(values.curCenterX == 0 && values.curCenterY == 0);
+    const GaugeValues taken = withPivot(values, Usual);
+    EXPECT_TRUE(taken.curCenterX == 65 && taken.curCenterY == 66);
 }
 
 TEST(Deserialise, refusesWhatAnotherKindOrADamagedStoreHolds)
@@ -58,16 +87,29 @@ TEST(Deserialise, refusesWhatAnotherKindOrADamagedStoreHolds)
         refused.push_back(good);
         refused.back()[element] = text;
     }
-    for (const QStringList &texts : refused) {
-        GaugeValues values;
-        EXPECT_THROW(deserialise(gaugeProperties(), values, texts, Usual, "."), RunTimeError) << texts.size();
-    }
-    GaugeValues values;
-    EXPECT_THROW(gaugeProperties().writer("newMax")->set(values, QString("1")), RunTimeError);
+    for (const QStringList &texts : refused)
+        EXPECT_THROW(valuesOf<GaugeValues>(gaugeProperties(), texts.join('|')), RunTimeError) << texts.size();
+    // text that is no number counts as 0
+    EXPECT_EQ(valuesOf<GaugeValues>(gaugeProperties(), QStringList(17, "rubbish").join('|')).curMax, 0);
+}
+
+TEST(PropertyTable, valuesPassByNameAndInTheirKindOnly)
+{
+    SampleValues values;
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    const PropertyRow &row = *sampleProperties().writer("newPicture");
+    row.set(values, picture);
+    EXPECT_EQ(sampleProperties().reader("curPicture")->get(values, Usual), PropertyValue(picture));
+    for (const auto &[writer, value] : {std::pair<const char *, PropertyValue>{"newPicture", 1},
+                                        {"newCaption", 1.0F},
+                                        {"newColour", "1"},
+                                        {"newHidden", 256},
+                                        {"newHidden", picture}})
+        EXPECT_THROW(sampleProperties().writer(writer)->set(values, value), RunTimeError) << writer;
     EXPECT_EQ(gaugeProperties().writer("curMax"), nullptr);
     EXPECT_EQ(barGraphProperties().writer(""), nullptr); // the computed size has no writer
-    deserialise(gaugeProperties(), values, QStringList(17, "rubbish"), Usual, ".");
-    EXPECT_EQ(values.curMax, 0); // text that is no number counts as 0
+    EXPECT_EQ(sampleProperties().reader(""), nullptr);   // nor has an element a name
 }
 
 } // namespace

@@ -36,8 +36,8 @@ constexpr std::array Rows{
     property<&V::curMax>("curMax", "newMax"),
     property<&V::curDefaultVal>("curDefaultVal", "newDefaultVal"),
     property<&V::curBarType>("curBarType", "newBarType"),
-    property<&V::curLeft>("curLeft", "newLeft"),
-    property<&V::curTop>("curTop", "newTop"),
+    property<&V::curLeft>("curLeft", "newLeft").notSerialised(),
+    property<&V::curTop>("curTop", "newTop").notSerialised(),
     computed("curWidth", &innerWidth),
     computed("curHeight", &innerHeight),
     property<&V::curAlfa>("curAlfa", "newAlfa"),
@@ -45,11 +45,6 @@ constexpr std::array Rows{
     property<&V::curColourVarMin>("curColourVarMin", "newColourVarMin"),
     property<&V::curColourVarMax>("curColourVarMax", "newColourVarMax"),
 };
-
-constexpr std::array<std::string_view, 11> Serialised{
-    "curVarID",   "curBarWidth", "curColour",         "curMin",          "curMax",         "curDefaultVal",
-    "curBarType", "curAlfa",     "curColourVariable", "curColourVarMin", "curColourVarMax"};
-static_assert(refersToRows(Serialised, Rows));
 
 // One axis of the rule that keeps a bar on the canvas: all in pixels, `frame` being the editing frame.
 float pulledInto(float position, float outerSize, float frame, float canvas)
@@ -61,7 +56,7 @@ float pulledInto(float position, float outerSize, float frame, float canvas)
 
 const PropertyTable &barGraphProperties()
 {
-    static constexpr PropertyTable Table{Rows, Serialised};
+    static constexpr PropertyTable Table{Rows};
     return Table;
 }
 

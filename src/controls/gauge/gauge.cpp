@@ -68,12 +68,6 @@ constexpr std::array Rows{
     property<&V::curColourVarMax>("curColourVarMax", "newColourVarMax"),
 };
 
-constexpr std::array<std::string_view, 14> Serialised{
-    "curVarID",      "curCenterX",        "curCenterY",      "curPointerLength", "curPointerWidth",
-    "curColour",     "curMinAngle",       "curMaxAngle",     "curMin",           "curMax",
-    "curDefaultVal", "curColourVariable", "curColourVarMin", "curColourVarMax"};
-static_assert(refersToRows(Serialised, Rows));
-
 // The share of the scale at which the default value stands; not limited to 0..1.
 std::optional<double> fractionOfScale(const GaugeValues &values)
 {
@@ -100,7 +94,7 @@ void paintNeedle(QPainter &painter, const GaugeValues &values, const std::option
 
 const PropertyTable &gaugeProperties()
 {
-    static constexpr PropertyTable Table{Rows, Serialised};
+    static constexpr PropertyTable Table{Rows};
     return Table;
 }
 
@@ -110,15 +104,21 @@ QPoint pivot(const GaugeValues &values, const platform::Screen &screen)
             orHalf(values.curCenterY, values.box.Height, screen.ty)};
 }
 
+GaugeValues withPivot(GaugeValues values, const platform::Screen &screen)
+{
+    const QPoint centre = pivot(values, screen);
+    values.curCenterX = toInteger<qint16>(centre.x());
+    values.curCenterY = toInteger<qint16>(centre.y());
+    return values;
+}
+
 GaugeValues placed(GaugeValues values, const platform::Screen &screen)
 {
     // A box of this size gives the same length again by the resize rule.
     const float side = 2.0F * values.curPointerLength * screen.tx + BothFrames;
     values.box.Width = side;
     values.box.Height = side;
-    const QPoint centre = pivot(values, screen);
-    values.curCenterX = toInteger<qint16>(centre.x());
-    values.curCenterY = toInteger<qint16>(centre.y());
+    values = withPivot(values, screen);
     const QPointF corner = cornerOf(values, screen);
     values.box.Left = static_cast<float>(corner.x()) * screen.tx;
     values.box.Top = static_cast<float>(corner.y()) * screen.ty;
@@ -147,6 +147,8 @@ std::optional<Needle> previewNeedle(const GaugeValues &values, VideoStandard sta
         needle->tail = tail;
     return needle;
 }
+
+void Gauge::settle() { m_values = withPivot(m_values, screen()); }
 
 void Gauge::raiseReposition()
 {

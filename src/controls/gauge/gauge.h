@@ -28,8 +28,9 @@ const PropertyTable &gaugeProperties();
 
 // The pivot as it is read, canvas pixels: half the box where none was set.
 QPoint pivot(const GaugeValues &values, const platform::Screen &screen);
-// The gauge as it stands on the canvas: its box sized by the length and centred on the pivot, which is set to
-// what it reads as.
+// The gauge with its pivot set to what it reads as.
+GaugeValues withPivot(GaugeValues values, const platform::Screen &screen);
+// The gauge as it stands on the canvas: its box sized by the length and centred on the pivot, which is set.
 GaugeValues placed(GaugeValues values, const platform::Screen &screen);
 
 // The needle of the gauge for its default value, about `pivot`, in pixels. Nothing when the scale or the
@@ -70,6 +71,7 @@ protected:
     void paintInner(QPainter &painter, const QSize &size) const override;
     GripSet grips() const override { return GripSet::Corners; }
     void sizeChanged() override;
+    void settle() override;
     void nudge(int dx, int dy) override;
 
 private:
