@@ -1,0 +1,38 @@
+#pragma once
+
+#include "graphics/font_store.h"
+#include "layoutfile/layout_file.h"
+
+namespace layoutfile {
+
+// The fonts of a layout: each distinct one once, in the order of first use.
+class FontList
+{
+public:
+    // Without a store there are ids and names only, and no font is made: for layouts that no recorder reads.
+    explicit FontList(graphics::FontStore *store) : m_store(store) {}
+
+    // How a record names its font.
+    struct Name
+    {
+        quint8 id = 0;
+        FixedText<30> file;
+    };
+    // A font that cannot be made is stored as the one that stands in for it; `usualSize`, in points, is the
+    // family's. Throws RunTimeError when no font can be made, and for the 257th.
+    Name add(const graphics::FontRequest &request, int usualSize);
+
+    // Those that something else stands in for.
+    const QStringList &replaced() const { return m_replaced; }
+
+    // Adds the directories and the rasters; nothing without fonts.
+    void addRecords(RecordGroups &groups) const;
+
+private:
+    graphics::FontStore *m_store;
+    QStringList m_names;
+    QStringList m_replaced;
+    std::vector<std::shared_ptr<const graphics::ReadyFont>> m_fonts; // as many as there are names, or none
+};
+
+} // namespace layoutfile

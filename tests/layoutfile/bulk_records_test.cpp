@@ -1,0 +1,161 @@
+#include "common/run_time_error.h"
+#include "layoutfile/font_list.h"
+#include "layoutfile/layout_bytes.h"
+#include "layoutfile/loading.h"
+#include "platform/file_replace.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace layoutfile;
+using graphics::AlphaPlane;
+using graphics::Planes;
+using test::bytes;
+
+template <typename Record>
+std::vector<QByteArray> payloads(const RecordGroups &groups)
+{
+    std::vector<QByteArray> found;
+    for (const LayoutRecord &record : groups.of(Record::Type)) {
+        found.push_back(encodePayload(record.body));
+        EXPECT_EQ(record.object, static_cast<qint16>(found.size()));
+    }
+    return found;
+}
+
+BitmapRecord bitmap(qint16 width, qint16 height)
+{
+    BitmapRecord record;
+    record.width = width;
+    record.height = height;
+    return record;
+}
+
+const Planes Even{4, 2, "YYYYyyyy", "Uu", "Vv"}, Odd{3, 3, "123456789", "U", "V"};
+const AlphaPlane EvenAlpha{4, 2, "aAaAaAaA"}, OddAlpha{3, 3, "987654321"};
+const QByteArray BothImages = "YYYYyyyyUuVvaAaAaAaA123456789UV987654321";
+
+TEST(Images, standBackToBackInTheOrderOfTheBitmaps)
+{
+    RecordGroups groups;
+    ImageList().addRecord(groups);
+    EXPECT_TRUE(groups.of(RecordType::ImagePlanes).empty());
+    ImageList images;
+    images.add(Even, EvenAlpha);
+    images.add(Odd, OddAlpha);
+    images.addRecord(groups);
+    EXPECT_EQ(payloads<ImagePlanesRecord>(groups), std::vector{BothImages});
+}
+
+TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
+{
+    constexpr qint16 Largest = 32767;
+    const Planes none;
+    const AlphaPlane noAlpha;
+    struct
+    {
+        const char *name;
+        QByteArray planes;
+        BitmapRecord first;
+        Planes expected;
+        AlphaPlane expectedAlpha;
+        Planes expectedOdd;
+        AlphaPlane expectedOddAlpha;
+    } const cases[] = {
+        {"whole", BothImages, bitmap(4, 2), Even, EvenAlpha, Odd, OddAlpha},
+        {"bytes that nobody names", BothImages + "more", bitmap(4, 2), Even, EvenAlpha, Odd, OddAlpha},
+        {"cut in the last alpha plane", BothImages.chopped(1), bitmap(4, 2), Even, EvenAlpha, Odd, noAlpha},
+        {"cut in the first chroma plane", BothImages.first(9), bitmap(4, 2), none, noAlpha, none, noAlpha},
+        {"no planes", {}, bitmap(4, 2), none, noAlpha, none, noAlpha},
+        {"the largest size", BothImages, bitmap(Largest, Largest), none, noAlpha, none, noAlpha},
+        {"no width", BothImages.sliced(20), bitmap(0, 2), none, noAlpha, Odd, OddAlpha},
+        {"negative sides", BothImages.sliced(20), bitmap(-4, -2), none, noAlpha, Odd, OddAlpha},
+    };
+    for (const auto &c : cases) {
+        const StoredImages images =
+            storedImages({{7, c.first}, {3, bitmap(3, 3)}, {1, ImagePlanesRecord{Bulk{c.planes}}}});
+        ASSERT_EQ(images.size(), 2U);
+        const StoredImage &first = images.at(7), &second = images.at(3);
+        EXPECT_TRUE(first.colours == c.expected && first.alpha == c.expectedAlpha) << c.name;
+        EXPECT_TRUE(second.colours == c.expectedOdd && second.alpha == c.expectedOddAlpha) << c.name;
+        EXPECT_TRUE(first.number == 0 && second.number == 2) << c.name;
+    }
+}
+
+TEST(Loading, findsWhatBelongsToARecordByTypeAndObjectNumber)
+{
+    const std::vector<LayoutRecord> records{{2, LongTextRecord{{"Oil pressure, rear"}, 18}},
+                                            {2, TrackMapUnderlayRecord{1, 2, 128}},
+                                            {2, bitmap(4, 2)},
+                                            {1, ImagePlanesRecord{Bulk{BothImages}}}};
+    const platform::Folders folders;
+    const platform::Stamp stamp = test::stamp({}, {});
+    const Loading load(records, folders, stamp, {});
+    ASSERT_TRUE(load.find<LongTextRecord>(2) && load.find<TrackMapUnderlayRecord>(2) && load.imageOf(2));
+    EXPECT_EQ(load.find<LongTextRecord>(2)->text.text, "Oil pressure, rear");
+    EXPECT_EQ(load.imageOf(2)->colours, Even);
+    EXPECT_FALSE(load.find<LongTextRecord>(1) || load.find<GaugeRecord>(2) || load.imageOf(1));
+}
+
+graphics::FontRequest font(const char *face, int size) { return {QLatin1String(face), size, {true}}; }
+
+TEST(FontList, storesEachFontOnceWithBothItsFiles)
+{
+    const QTemporaryDir root;
+    platform::Folders folders;
+    folders.program = MORVEL_PROGRAM_DIR "/";
+    folders.applicationData = root.path() + '/';
+    graphics::FontStore store(folders);
+    FontList fonts(&store);
+    const auto named = [&fonts](const char *face, int size) {
+        const FontList::Name name = fonts.add(font(face, size), 9);
+        return std::pair<int, QByteArray>(name.id, name.file.text);
+    };
+    EXPECT_EQ(named("Arial", 8), std::pair(0, QByteArray("Arial B 8.qlg")));
+    EXPECT_EQ(named("Arial", 9), std::pair(1, QByteArray("Arial B 9.qlg")));
+    EXPECT_EQ(named("Arial", 8).first, 0);
+    EXPECT_TRUE(fonts.replaced().isEmpty());
+    EXPECT_EQ(named("No Such Face", 8), std::pair(2, QByteArray("No Such Face B 8.qlg")));
+    EXPECT_EQ(fonts.replaced(), QStringList("No Such Face B 8.qlg"));
+
+    RecordGroups groups;
+    fonts.addRecords(groups);
+    std::vector<QByteArray> directory, extendedDirectory;
+    QByteArray rasters, extendedRasters;
+    quint8 id = 0;
+    for (const auto &stored : {font("Arial", 8), font("Arial", 9), font("QL Sans Serif", 8)}) {
+        const auto append = [id](const QString &path, std::vector<QByteArray> &entries, QByteArray &all) {
+            const QByteArray file = platform::readFile(path);
+            EXPECT_FALSE(file.isEmpty());
+            entries.push_back(QByteArray(1, static_cast<char>(id)) +
+                              test::littleEndian(static_cast<quint32>(file.size()), 4) +
+                              test::littleEndian(static_cast<quint32>(all.size()), 4));
+            all += file;
+        };
+        append(store.standardPath(stored), directory, rasters);
+        append(store.extendedPath(stored), extendedDirectory, extendedRasters);
+        ++id;
+    }
+    EXPECT_EQ(payloads<FontDirectoryRecord>(groups), directory);
+    EXPECT_EQ(payloads<ExtendedFontDirectoryRecord>(groups), extendedDirectory);
+    EXPECT_EQ(payloads<FontRastersRecord>(groups), std::vector{rasters});
+    EXPECT_EQ(payloads<ExtendedFontRastersRecord>(groups), std::vector{extendedRasters});
+}
+
+TEST(FontList, countsWithoutAStoreAndAsFarAsAByteReaches)
+{
+    FontList fonts(nullptr);
+    for (int size = 0; size < 256; ++size)
+        EXPECT_EQ(fonts.add(font("Arial", size), 9).id, size);
+    EXPECT_THROW(fonts.add(font("Arial", 256), 9), common::RunTimeError);
+    RecordGroups groups;
+    fonts.addRecords(groups);
+    for (const RecordType type : {RecordType::FontDirectory, RecordType::FontRasters,
+                                  RecordType::ExtendedFontDirectory, RecordType::ExtendedFontRasters})
+        EXPECT_TRUE(groups.of(type).empty());
+}
+
+} // namespace
