@@ -77,6 +77,8 @@ public:
     virtual void paintPreview(QPainter &painter) const = 0;
     // The term of the load estimate. Throws RunTimeError when it cannot be computed.
     virtual double complexity() const = 0;
+    // Whether the recorder draws it behind everything else, over the whole frame: a layout holds one such.
+    virtual bool isFullFrame() const { return false; }
     // See-through families show the canvas below them.
     virtual bool isSeeThrough() const { return false; }
     void setBackImage(const QImage &capture);

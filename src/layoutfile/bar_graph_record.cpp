@@ -1,5 +1,6 @@
 #include "controls/bar_graph/bar_graph.h"
 #include "layoutfile/family_records.h"
+#include "layoutfile/field_link.h"
 
 #include <cstdlib>
 
@@ -14,75 +15,85 @@ using controls::BarGraphValues;
 using controls::Box;
 using controls::FrameTwips;
 
-struct Point
+void link(auto &values, auto &record, auto field)
 {
-    qint16 x;
-    qint16 y;
-};
+    field(values.curAlfa, record.alpha);
+    field(values.curBarWidth, record.barWidth);
+    field(values.curColour, record.colour);
+    field(values.curMin, record.min);
+    field(values.curMax, record.max);
+    field(values.curDefaultVal, record.defaultValue);
+    field(values.curVarID, record.variable);
+    field(values.curColourVariable, record.colourVariable);
+    field(values.curColourVarMin, record.colourVariableMin);
+    field(values.curColourVarMax, record.colourVariableMax);
+}
 
 // The bar as a line from its start end to its full-scale end; exchanged limits turn it round.
-std::pair<Point, Point> barEnds(const BarGraphValues &values, const platform::Screen &screen)
+void putEnds(const BarGraphValues &values, const platform::Screen &screen, BarGraphRecord &record)
 {
     const Box &box = values.box;
     const auto left = toIntegerClamped<qint16>(wholeDivide(box.Left + FrameTwips, screen.tx));
     const auto right = toIntegerClamped<qint16>(wholeDivide(box.right() - FrameTwips, screen.tx));
     const auto top = toIntegerClamped<qint16>(wholeDivide(box.Top + FrameTwips, screen.ty));
     const auto bottom = toIntegerClamped<qint16>(wholeDivide(box.bottom() - FrameTwips, screen.ty));
-    const bool reversed = values.curMin > values.curMax;
-    std::pair<Point, Point> ends = values.isHorizontal() ? std::pair{Point{left, top}, Point{right, top}}
-                                                         : std::pair{Point{left, bottom}, Point{left, top}};
-    if (reversed)
-        std::swap(ends.first, ends.second);
-    return ends;
+    const bool isHorizontal = values.isHorizontal();
+    record.startX = left;
+    record.startY = isHorizontal ? top : bottom;
+    record.endX = isHorizontal ? right : left;
+    record.endY = top;
+    if (values.curMin > values.curMax) {
+        std::swap(record.startX, record.endX);
+        std::swap(record.startY, record.endY);
+    }
 }
 
-void gather(controls::OverlayControl &control, Gathering &save)
+void gather(const controls::OverlayControl &control, Gathering &save)
 {
-    const BarGraphValues &values = static_cast<BarGraph &>(control).get();
-    const auto [start, end] = barEnds(values, save.screen);
-    save.groups.add(BarGraphRecord{start.x, start.y, end.x, end.y, values.curAlfa, values.curBarWidth,
-                                   values.curColour.yuv(), values.curMin, values.curMax, values.curDefaultVal,
-                                   values.curVarID, values.curColourVariable, values.curColourVarMin,
-                                   values.curColourVarMax});
+    const BarGraphValues &values = static_cast<const BarGraph &>(control).get();
+    BarGraphRecord record;
+    putEnds(values, save.screen, record);
+    link(values, record, ToRecord());
+    save.groups.add(record);
     save.used.mark(values.curVarID);
 }
 
-void build(const RecordBody &body, controls::OverlayControl &control)
+controls::BarType typeOf(const BarGraphRecord &record)
 {
-    const auto &record = std::get<BarGraphRecord>(body);
-    const platform::Screen &screen = control.host().screen();
-    auto &bar = static_cast<BarGraph &>(control);
-    BarGraphValues values;
-    values.curBarType = record.startY == record.endY ? 0 : 1;
-    values.curAlfa = record.alpha;
-    values.curBarWidth = record.barWidth;
-    values.curColour = common::Colour::fromFile(record.colour);
-    values.curMin = record.min;
-    values.curMax = record.max;
-    values.curDefaultVal = record.defaultValue;
-    values.curVarID = record.variable;
-    values.curColourVariable = record.colourVariable;
-    values.curColourVarMin = record.colourVariableMin;
-    values.curColourVarMax = record.colourVariableMax;
-    bar.set(values);
+    return record.startY == record.endY ? controls::BarType::Horizontal : controls::BarType::Vertical;
+}
 
-    const int length =
-        values.isHorizontal() ? std::abs(record.endX - record.startX) : std::abs(record.endY - record.startY);
-    const auto longSide = static_cast<float>(length);
-    const auto shortSide = static_cast<float>(record.barWidth);
-    const float width = (values.isHorizontal() ? longSide : shortSide) * screen.tx;
-    const float height = (values.isHorizontal() ? shortSide : longSide) * screen.ty;
-    bar.setBox({std::min(record.startX, record.endX) * screen.tx - FrameTwips,
-                std::min(record.startY, record.endY) * screen.ty - FrameTwips, width + controls::BothFrames,
-                height + controls::BothFrames});
-    bar.updatePosition();
+Box boxOf(const BarGraphRecord &record, const platform::Screen &screen)
+{
+    const bool isHorizontal = typeOf(record) == controls::BarType::Horizontal;
+    const auto width =
+        static_cast<float>(isHorizontal ? std::abs(record.endX - record.startX) : record.barWidth);
+    const auto height =
+        static_cast<float>(isHorizontal ? record.barWidth : std::abs(record.endY - record.startY));
+    return {std::min(record.startX, record.endX) * screen.tx - FrameTwips,
+            std::min(record.startY, record.endY) * screen.ty - FrameTwips,
+            width * screen.tx + controls::BothFrames, height * screen.ty + controls::BothFrames};
+}
+
+void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)
+{
+    const auto &record = std::get<BarGraphRecord>(stored.body);
+    BarGraphValues values;
+    link(values, record, FromRecord());
+    values.curBarType = static_cast<quint8>(typeOf(record));
+    values.box = boxOf(record, load.screen);
+    place(static_cast<BarGraph &>(control), values);
 }
 
 } // namespace
 
 FamilyRecord barGraphRecord()
 {
-    return {controls::ControlType::BarGraph, RecordType::BarGraph, &gather, &build};
+    return {.family = controls::ControlType::BarGraph,
+            .type = RecordType::BarGraph,
+            .gather = &gather,
+            .build = &build,
+            .progressSteps = 2}; // deliberate
 }
 
 } // namespace layoutfile

@@ -1,11 +1,42 @@
 #include "layoutfile/family_records.h"
 
+#include <algorithm>
+
 namespace layoutfile {
+
+using controls::ControlType;
 
 std::span<const FamilyRecord> familyRecords()
 {
-    static const std::array Records{barGraphRecord(), gaugeRecord()};
+    static const std::array Records{
+        FamilyRecord{.family = ControlType::VideoSource, .type = RecordType::VideoSource},
+        FamilyRecord{.family = ControlType::Bitmap, .type = RecordType::Bitmap},
+        FamilyRecord{.family = ControlType::TextTag, .type = RecordType::TextTag},
+        FamilyRecord{.family = ControlType::DigitalDisplay, .type = RecordType::DigitalDisplay},
+        barGraphRecord(),
+        gaugeRecord(),
+        FamilyRecord{.family = ControlType::TrackMap,
+                     .type = RecordType::TrackMap,
+                     .secondRefused = "System does not support more than one Track Map"},
+        customDialRecord()};
     return Records;
 }
+
+namespace {
+
+// Every family and every type of a control's record has its row.
+template <typename Key>
+const FamilyRecord &rowWith(Key FamilyRecord::*member, Key key)
+{
+    const auto rows = familyRecords();
+    return *std::find_if(rows.begin(), rows.end(),
+                         [&](const FamilyRecord &row) { return row.*member == key; });
+}
+
+} // namespace
+
+const FamilyRecord &recordOf(ControlType family) { return rowWith(&FamilyRecord::family, family); }
+
+const FamilyRecord &recordOf(RecordType type) { return rowWith(&FamilyRecord::type, type); }
 
 } // namespace layoutfile

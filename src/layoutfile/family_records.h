@@ -1,38 +1,48 @@
 #pragma once
 
 #include "controls/overlay_control.h"
-#include "graphics/font_store.h"
-#include "layoutfile/layout_file.h"
+#include "layoutfile/font_list.h"
+#include "layoutfile/images.h"
+#include "layoutfile/loading.h"
 #include "layoutfile/used_variables.h"
 
 #include <span>
 
 namespace layoutfile {
 
-// What the walk over the controls fills during a save.
+// What the walk over the controls fills during a save. A gather that throws has added nothing: what a record
+// is made of is worked out before the first of its parts is added.
 struct Gathering
 {
-    RecordGroups groups;
+    RecordGroups groups; // adding a record answers its object number
     UsedVariables used;
+    FontList fonts;
+    ImageList images;
     platform::Screen screen;
-    graphics::FontStore &fonts; // made without progress: a second window would take the place of the save's
 };
 
-// How the controls of one family become records and come back. To add a family: one file with these two
-// functions, one row in family_records.cpp.
+// How the controls of one family become records and come back. Without the two functions, a family's controls
+// are not stored and its records build none.
 struct FamilyRecord
 {
     controls::ControlType family;
     RecordType type;
-    void (*gather)(controls::OverlayControl &, Gathering &);
+    void (*gather)(const controls::OverlayControl &, Gathering &) = nullptr;
     // Sets place, size and properties of a fresh control.
-    void (*build)(const RecordBody &, controls::OverlayControl &);
+    void (*build)(const LayoutRecord &, controls::OverlayControl &, const Loading &) = nullptr;
+    // Names the records that were made from this one for the recorder: they come back with its control.
+    void (*claimParts)(const RecordBody &, ObjectNames &) = nullptr;
+    int progressSteps = 1;               // that one control counts on the progress bar
+    const char *secondRefused = nullptr; // the Save command's complaint where a file holds only one
 };
 
 // In the order in which a load builds them.
 std::span<const FamilyRecord> familyRecords();
+const FamilyRecord &recordOf(controls::ControlType family);
+const FamilyRecord &recordOf(RecordType type); // of a control's own record
 
 FamilyRecord barGraphRecord();
 FamilyRecord gaugeRecord();
+FamilyRecord customDialRecord();
 
 } // namespace layoutfile

@@ -1,5 +1,6 @@
 #include "controls/gauge/gauge.h"
 #include "layoutfile/family_records.h"
+#include "layoutfile/field_link.h"
 
 namespace layoutfile {
 
@@ -8,47 +9,58 @@ namespace {
 using controls::Gauge;
 using controls::GaugeValues;
 
-void gather(controls::OverlayControl &control, Gathering &save)
+void link(auto &values, auto &record, auto field)
 {
-    const GaugeValues values = controls::placed(static_cast<Gauge &>(control).get(), save.screen);
-    save.groups.add(GaugeRecord{values.curCenterX, values.curCenterY, values.curPointerLength,
-                                values.curPointerWidth, values.curColour.yuv(), values.curMinAngle,
-                                values.curMaxAngle, values.curMin, values.curMax, values.curDefaultVal,
-                                values.curVarID, values.curColourVariable, values.curColourVarMin,
-                                values.curColourVarMax});
+    field(values.curCenterX, record.centreX);
+    field(values.curCenterY, record.centreY);
+    field(values.curPointerLength, record.pointerLength);
+    field(values.curPointerWidth, record.pointerWidth);
+    field(values.curColour, record.colour);
+    field(values.curMinAngle, record.minAngle);
+    field(values.curMaxAngle, record.maxAngle);
+    field(values.curMin, record.min);
+    field(values.curMax, record.max);
+    field(values.curDefaultVal, record.defaultValue);
+    field(values.curVarID, record.variable);
+    field(values.curColourVariable, record.colourVariable);
+    field(values.curColourVarMin, record.colourVariableMin);
+    field(values.curColourVarMax, record.colourVariableMax);
+}
+
+void gather(const controls::OverlayControl &control, Gathering &save)
+{
+    const GaugeValues values = controls::placed(static_cast<const Gauge &>(control).get(), save.screen);
+    GaugeRecord record;
+    link(values, record, ToRecord());
+    save.groups.add(record);
     save.used.mark(values.curVarID);
 }
 
-void build(const RecordBody &body, controls::OverlayControl &control)
+controls::Box boxOf(const GaugeRecord &record, const platform::Screen &screen)
 {
-    const auto &record = std::get<GaugeRecord>(body);
-    const platform::Screen &screen = control.host().screen();
-    auto &gauge = static_cast<Gauge &>(control);
-    // The box first: its resize rule must not touch what the record says.
     const float length = record.pointerLength;
     const float side = 2 * length * screen.tx + controls::BothFrames;
-    gauge.setBox({(record.centreX - length) * screen.tx - controls::FrameTwips,
-                  (record.centreY - length) * screen.ty - controls::FrameTwips, side, side});
+    return {(record.centreX - length) * screen.tx - controls::FrameTwips,
+            (record.centreY - length) * screen.ty - controls::FrameTwips, side, side};
+}
+
+void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)
+{
+    const auto &record = std::get<GaugeRecord>(stored.body);
     GaugeValues values;
-    values.curCenterX = record.centreX;
-    values.curCenterY = record.centreY;
-    values.curPointerLength = record.pointerLength;
-    values.curPointerWidth = record.pointerWidth;
-    values.curColour = common::Colour::fromFile(record.colour);
-    values.curMinAngle = record.minAngle;
-    values.curMaxAngle = record.maxAngle;
-    values.curMin = record.min;
-    values.curMax = record.max;
-    values.curDefaultVal = record.defaultValue;
-    values.curVarID = record.variable;
-    values.curColourVariable = record.colourVariable;
-    values.curColourVarMin = record.colourVariableMin;
-    values.curColourVarMax = record.colourVariableMax;
-    gauge.set(values);
+    link(values, record, FromRecord());
+    values.box = boxOf(record, load.screen);
+    place(static_cast<Gauge &>(control), values);
 }
 
 } // namespace
 
-FamilyRecord gaugeRecord() { return {controls::ControlType::Gauge, RecordType::Gauge, &gather, &build}; }
+FamilyRecord gaugeRecord()
+{
+    return {.family = controls::ControlType::Gauge,
+            .type = RecordType::Gauge,
+            .gather = &gather,
+            .build = &build};
+}
 
 } // namespace layoutfile

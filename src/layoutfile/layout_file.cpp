@@ -118,16 +118,30 @@ void RecordGroups::add(RecordBody body, qint16 object)
     m_groups[slot(record.type())].push_back(std::move(record));
 }
 
+LayoutWriter::LayoutWriter(const platform::Stamp &stamp) { putHeader(m_out, stamp); }
+
+void LayoutWriter::put(const RecordGroups &groups, RecordType last,
+                       const std::function<void(const LayoutRecord &)> &written)
+{
+    for (bool isLast = false; !isLast; ++m_next) {
+        for (const LayoutRecord &record : groups.of(WritingOrder[m_next])) {
+            putRecord(m_out, record);
+            written(record);
+        }
+        isLast = WritingOrder[m_next] == last;
+    }
+}
+
+QByteArray LayoutWriter::finish(const RecordGroups &groups)
+{
+    put(groups, WritingOrder.back(), [](const LayoutRecord &) {});
+    m_out.put(modCRC(m_out.bytes()));
+    return m_out.bytes();
+}
+
 QByteArray assembleLayout(const RecordGroups &groups, const platform::Stamp &stamp)
 {
-    ByteWriter out;
-    putHeader(out, stamp);
-    for (const RecordType type : WritingOrder) {
-        for (const LayoutRecord &record : groups.of(type))
-            putRecord(out, record);
-    }
-    out.put(modCRC(out.bytes()));
-    return out.bytes();
+    return LayoutWriter(stamp).finish(groups);
 }
 
 bool IsValidVGL(QByteArrayView file)

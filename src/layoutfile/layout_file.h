@@ -3,6 +3,8 @@
 #include "layoutfile/record_codec.h"
 #include "platform/stamp.h"
 
+#include <functional>
+
 namespace layoutfile {
 
 // The records of a layout while it is being put together, in groups by type.
@@ -22,7 +24,25 @@ private:
     std::array<std::vector<LayoutRecord>, std::variant_size_v<RecordBody> + 1> m_groups;
 };
 
-// The whole file: header with its stamp, the records in the format's order, each with its sum, the CRC.
+// Puts a file together front to back: the header with its stamp, the records in the format's order, each with
+// its sum, the CRC.
+class LayoutWriter
+{
+public:
+    explicit LayoutWriter(const platform::Stamp &stamp);
+
+    // Goes on with the groups up to that of `last`; `written` is called after each record.
+    void put(const RecordGroups &groups, RecordType last,
+             const std::function<void(const LayoutRecord &)> &written);
+    // The rest of the groups, and the end of the file.
+    QByteArray finish(const RecordGroups &groups);
+
+private:
+    common::ByteWriter m_out;
+    std::size_t m_next = 0; // place in the format's order
+};
+
+// The whole file at once.
 QByteArray assembleLayout(const RecordGroups &groups, const platform::Stamp &stamp);
 
 // Whether the last four bytes are the CRC of all before them. That is all the validation there is.

@@ -11,7 +11,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <set>
 
 namespace layoutfile {
 
@@ -37,40 +36,41 @@ qsizetype controlCount(const Records &records)
     });
 }
 
-void buildControl(const FamilyRecord &family, const RecordBody &body, controls::ControlSurface &surface)
+void buildControl(const FamilyRecord &family, const LayoutRecord &record, const Loading &load,
+                  controls::ControlSurface &surface)
 {
     OverlayControl *control = surface.loadControl(family.family);
     if (!control)
         return;
-    platform::skipFailures([&] { family.build(body, *control); });
+    platform::skipFailures([&] { family.build(record, *control, load); });
     surface.showControl(*control);
     platform::skipFailures([&] { control->AssignProperties(); });
 }
 
-using ObjectNames = std::set<std::pair<RecordType, qint16>>;
-
-// The gauge and the bitmap that a custom dial was split into for the recorder come back with the dial.
-ObjectNames dialParts(const Records &records)
+ObjectNames claimedParts(const Records &records)
 {
     ObjectNames parts;
-    for (const LayoutRecord &record : records) {
-        if (const auto *dial = std::get_if<CustomDialRecord>(&record.body))
-            parts.insert({{RecordType::Bitmap, dial->bitmapObject}, {RecordType::Gauge, dial->gaugeObject}});
+    for (const FamilyRecord &family : familyRecords()) {
+        for (const LayoutRecord &record : records) {
+            if (family.claimParts && record.type() == family.type)
+                family.claimParts(record.body, parts);
+        }
     }
     return parts;
 }
 
 void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
 {
-    const ObjectNames parts = dialParts(records);
+    const Loading load(records, context.folders, context.stamp, context.screen);
+    const ObjectNames parts = claimedParts(records);
     const qsizetype total = controlCount(records);
     qsizetype done = 0;
     for (const FamilyRecord &family : familyRecords()) {
         for (const LayoutRecord &record : records) {
             if (record.type() != family.type)
                 continue;
-            if (!parts.contains({record.type(), record.object}))
-                buildControl(family, record.body, context.surface);
+            if (family.build && !parts.contains({record.type(), record.object}))
+                buildControl(family, record, load, context.surface);
             progress.advance(50, 40, ++done, total);
         }
     }

@@ -5,6 +5,8 @@
 #include "platform/locale.h"
 #include "platform/progress.h"
 #include "platform/prompts.h"
+#include "platform/screen.h"
+#include "platform/stamp.h"
 #include "recorder/recorder_settings.h"
 #include "variables/catalogue.h"
 
@@ -18,6 +20,8 @@ struct LoadContext
     platform::Prompts &prompts;
     platform::Progress &progress;
     const platform::Folders &folders;
+    const platform::Stamp &stamp; // names pictures after the time
+    platform::Screen screen;
     platform::NumberLocale locale{}; // in which equations will be read
 };
 

@@ -12,7 +12,6 @@ namespace layoutfile {
 
 namespace {
 
-using controls::ControlType;
 using controls::OverlayControl;
 using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
@@ -23,51 +22,53 @@ const QString SharedCamera =
 
 bool checksCameras(SaveKind kind) { return kind == SaveKind::Command || kind == SaveKind::Workspace; }
 
-bool isTrackMap(const OverlayControl *control) { return control->family().type == ControlType::TrackMap; }
-
-bool isFullFrame(const OverlayControl *control)
+std::vector<ControlKind> kindsOf(const ControlList &controls)
 {
-    return control->family().type == ControlType::VideoSource &&
-           control->read("curDivisor") == controls::PropertyValue(qint32{1});
+    std::vector<ControlKind> kinds;
+    for (const OverlayControl *control : controls)
+        kinds.push_back({control->family().type, control->isFullFrame()});
+    return kinds;
 }
 
-DesignCounts countsOf(const ControlList &controls)
+int progressSteps(const ControlList &controls)
 {
-    return {.controls = controls.size(),
-            .trackMaps = std::count_if(controls.begin(), controls.end(), &isTrackMap),
-            .fullFrameSources = std::count_if(controls.begin(), controls.end(), &isFullFrame)};
-}
-
-// Bar graphs count twice on the progress bar: deliberate.
-int objectsOf(const OverlayControl *control)
-{
-    return control->family().type == ControlType::BarGraph ? 2 : 1;
-}
-
-void gatherControl(Gathering &save, OverlayControl &control)
-{
-    for (const FamilyRecord &record : familyRecords()) {
-        if (record.family == control.family().type)
-            record.gather(control, save);
-    }
+    int steps = 0;
+    for (const OverlayControl *control : controls)
+        steps += recordOf(control->family().type).progressSteps;
+    return steps;
 }
 
 // A control that cannot be stored ends the user's Save, which says so. A silent save goes on without it: the
 // rest of the design must not be lost with it.
 void gatherControls(Gathering &save, SaveKind kind, const ControlList &controls, ProgressScope &progress)
 {
-    int total = 0;
-    for (const OverlayControl *control : controls)
-        total += objectsOf(control);
+    const int total = progressSteps(controls);
     int done = 0;
-    for (OverlayControl *control : controls) {
+    for (const OverlayControl *control : controls) {
+        const FamilyRecord &family = recordOf(control->family().type);
+        const auto gather = [&] {
+            if (family.gather)
+                family.gather(*control, save);
+        };
         if (kind == SaveKind::Command)
-            gatherControl(save, *control);
+            gather();
         else
-            platform::skipFailures([&] { gatherControl(save, *control); });
-        done += objectsOf(control);
+            platform::skipFailures(gather);
+        done += family.progressSteps;
         progress.advance(0, 25, done, total);
     }
+    save.fonts.addRecords(save.groups);
+    save.images.addRecord(save.groups);
+}
+
+// The records that stand in front of the variables. A control may have more than one among them.
+void writeControls(LayoutWriter &file, const RecordGroups &groups, int total, ProgressScope &progress)
+{
+    int done = 0;
+    file.put(groups, RecordType::Gauge, [&](const LayoutRecord &record) {
+        done = std::min(done + recordOf(record.type()).progressSteps, total);
+        progress.advance(25, 25, done, total);
+    });
 }
 
 void gatherVariables(Gathering &save, const SaveContext &context, ProgressScope &progress)
@@ -167,7 +168,9 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
 
 LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
-    Gathering save{{}, {}, context.screen, context.fonts};
+    // Recovery makes no fonts: nothing but the tool reads it.
+    Gathering save{
+        {}, {}, FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts), {}, context.screen};
     if (kind != SaveKind::Recovery)
         gatherThumbnail(save.groups, kind, context);
     ProgressScope progress(context.progress, kind == SaveKind::Command
@@ -177,11 +180,13 @@ LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlLi
     if (checksCameras(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return {{}, SharedCamera};
     markSettings(save.used, context.settings);
+    LayoutWriter file(context.stamp);
+    writeControls(file, save.groups, progressSteps(controls), progress);
     gatherVariables(save, context, progress);
     gatherSettings(save.groups, context.settings, progress);
-    const QByteArray file = assembleLayout(save.groups, context.stamp);
+    LayoutBytes made{file.finish(save.groups), {}};
     progress.setValue(100);
-    return {file, {}};
+    return made;
 }
 
 } // namespace
@@ -190,7 +195,7 @@ LayoutBytes layoutBytes(SaveKind kind, const SaveContext &context)
 {
     const ControlList controls = context.surface.controls();
     if (kind == SaveKind::Command) {
-        if (const QString complaint = saveComplaint(countsOf(controls)); !complaint.isEmpty())
+        if (const QString complaint = saveComplaint(kindsOf(controls)); !complaint.isEmpty())
             return {{}, complaint};
     }
     return controls.isEmpty() ? LayoutBytes() : assembled(kind, context, controls);

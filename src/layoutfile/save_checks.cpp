@@ -1,18 +1,25 @@
 #include "layoutfile/save_checks.h"
 
+#include "layoutfile/family_records.h"
+
 #include <algorithm>
 #include <set>
 
 namespace layoutfile {
 
-QString saveComplaint(const DesignCounts &counts)
+QString saveComplaint(const std::vector<ControlKind> &design)
 {
-    if (counts.trackMaps > 1)
-        return QStringLiteral("System does not support more than one Track Map");
-    if (counts.fullFrameSources > 1)
+    const auto moreThanOne = [&design](auto &&test) {
+        return std::count_if(design.begin(), design.end(), test) > 1;
+    };
+    for (const FamilyRecord &row : familyRecords()) {
+        if (row.secondRefused && moreThanOne([&row](ControlKind kind) { return kind.family == row.family; }))
+            return QLatin1String(row.secondRefused);
+    }
+    if (moreThanOne([](ControlKind kind) { return kind.isFullFrame; }))
         return QStringLiteral("You can't use multiple Video Sources as background video\n"
                               "Please select one Video Source as a background video");
-    if (counts.controls == 0)
+    if (design.empty())
         return QStringLiteral("System can't detect any object(s) to save");
     return {};
 }

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "controls/control_type.h"
 #include "layoutfile/record_codec.h"
 
 namespace layoutfile {
 
-// What the checks before a save look at.
-struct DesignCounts
+// What the checks before a save look at in a control.
+struct ControlKind
 {
-    qsizetype controls = 0;
-    qsizetype trackMaps = 0;
-    qsizetype fullFrameSources = 0; // video sources of divisor 1: they act as background
+    controls::ControlType family;
+    bool isFullFrame = false;
 };
 
-// The first complaint that the Save command shows; empty when there is none.
-QString saveComplaint(const DesignCounts &counts);
+// The first complaint that the Save command shows about a design of such controls; empty when there is none.
+QString saveComplaint(const std::vector<ControlKind> &design);
 
 // Whether two of these video source records name the same camera.
 bool sharesCamera(const std::vector<LayoutRecord> &sources);

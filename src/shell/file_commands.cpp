@@ -139,8 +139,9 @@ bool FileCommands::load(const QString &path)
     bool isLoaded = false;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
-        const layoutfile::LoadContext context{m_design, m_state.catalogue, m_state.settings, m_prompts,
-                                              busy,     m_state.folders,   m_state.locale};
+        const layoutfile::LoadContext context{
+            m_design,        m_state.catalogue, m_state.settings, m_prompts,     busy,
+            m_state.folders, m_state.stamp,     m_state.screen,   m_state.locale};
         isLoaded = layoutfile::LoadVGL(path, context);
         if (isLoaded)
             m_design.setCaption(QFileInfo(path).completeBaseName());

@@ -100,6 +100,23 @@ TEST(Loading, findsWhatBelongsToARecordByTypeAndObjectNumber)
     EXPECT_FALSE(load.find<LongTextRecord>(1) || load.find<GaugeRecord>(2) || load.imageOf(1));
 }
 
+// These files back to back, and for each its id, length and offset.
+template <typename Entry, typename Rasters>
+void expectFiles(const RecordGroups &groups, const QStringList &paths)
+{
+    std::vector<QByteArray> entries;
+    QByteArray rasters;
+    for (const QString &path : paths) {
+        const QByteArray file = platform::readFile(path);
+        entries.push_back(test::littleEndian(static_cast<quint32>(entries.size()), 1) +
+                          test::littleEndian(static_cast<quint32>(file.size()), 4) +
+                          test::littleEndian(static_cast<quint32>(rasters.size()), 4));
+        rasters += file;
+    }
+    EXPECT_EQ(payloads<Entry>(groups), entries);
+    EXPECT_EQ(payloads<Rasters>(groups), std::vector{rasters});
+}
+
 graphics::FontRequest font(const char *face, int size) { return {QLatin1String(face), size, {true}}; }
 
 TEST(FontList, storesEachFontOnceWithBothItsFiles)
@@ -123,26 +140,13 @@ TEST(FontList, storesEachFontOnceWithBothItsFiles)
 
     RecordGroups groups;
     fonts.addRecords(groups);
-    std::vector<QByteArray> directory, extendedDirectory;
-    QByteArray rasters, extendedRasters;
-    quint8 id = 0;
-    for (const auto &stored : {font("Arial", 8), font("Arial", 9), font("QL Sans Serif", 8)}) {
-        const auto append = [id](const QString &path, std::vector<QByteArray> &entries, QByteArray &all) {
-            const QByteArray file = platform::readFile(path);
-            EXPECT_FALSE(file.isEmpty());
-            entries.push_back(QByteArray(1, static_cast<char>(id)) +
-                              test::littleEndian(static_cast<quint32>(file.size()), 4) +
-                              test::littleEndian(static_cast<quint32>(all.size()), 4));
-            all += file;
-        };
-        append(store.standardPath(stored), directory, rasters);
-        append(store.extendedPath(stored), extendedDirectory, extendedRasters);
-        ++id;
-    }
-    EXPECT_EQ(payloads<FontDirectoryRecord>(groups), directory);
-    EXPECT_EQ(payloads<ExtendedFontDirectoryRecord>(groups), extendedDirectory);
-    EXPECT_EQ(payloads<FontRastersRecord>(groups), std::vector{rasters});
-    EXPECT_EQ(payloads<ExtendedFontRastersRecord>(groups), std::vector{extendedRasters});
+    const graphics::FontRequest stored[] = {font("Arial", 8), font("Arial", 9), font("QL Sans Serif", 8)};
+    expectFiles<FontDirectoryRecord, FontRastersRecord>(
+        groups,
+        {store.standardPath(stored[0]), store.standardPath(stored[1]), store.standardPath(stored[2])});
+    expectFiles<ExtendedFontDirectoryRecord, ExtendedFontRastersRecord>(
+        groups,
+        {store.extendedPath(stored[0]), store.extendedPath(stored[1]), store.extendedPath(stored[2])});
 }
 
 TEST(FontList, countsWithoutAStoreAndAsFarAsAByteReaches)

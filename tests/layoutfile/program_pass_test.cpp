@@ -173,11 +173,16 @@ TEST(Folding, whatPointsNowhereChangesNoDefinition)
 
 TEST(SaveChecks, complainOfOneThingAtATime)
 {
-    EXPECT_EQ(saveComplaint({4, 2, 2}), "System does not support more than one Track Map");
-    EXPECT_EQ(saveComplaint({3, 1, 2}), "You can't use multiple Video Sources as background video\n"
-                                        "Please select one Video Source as a background video");
-    EXPECT_EQ(saveComplaint({0, 0, 0}), "System can't detect any object(s) to save");
-    EXPECT_EQ(saveComplaint({2, 1, 1}), "");
+    constexpr ControlKind Map{controls::ControlType::TrackMap}, Bar{controls::ControlType::BarGraph};
+    constexpr ControlKind Source{controls::ControlType::VideoSource};
+    constexpr ControlKind Background{controls::ControlType::VideoSource, true};
+    EXPECT_EQ(saveComplaint({Background, Map, Background, Map}),
+              "System does not support more than one Track Map");
+    EXPECT_EQ(saveComplaint({Background, Map, Background}),
+              "You can't use multiple Video Sources as background video\n"
+              "Please select one Video Source as a background video");
+    EXPECT_EQ(saveComplaint({}), "System can't detect any object(s) to save");
+    EXPECT_EQ(saveComplaint({Background, Source, Source, Map, Bar, Bar}), "");
 }
 
 TEST(SaveChecks, findTheCameraThatIsNamedTwice)

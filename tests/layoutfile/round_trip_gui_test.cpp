@@ -1,5 +1,6 @@
 #include "layoutfile/saved_design.h"
 
+#include <map>
 #include <set>
 
 namespace {
@@ -41,6 +42,48 @@ RecordGroups someLayout()
     groups.add(ProgramsRecord{});
     groups.add(SpecialIconRecord{1, 8, 2, 30, 40, 128, QByteArray(16, 'Y') + QByteArray(8, 'C')});
     return groups;
+}
+
+// One family: every property by the name of its writer, and the bytes of its record.
+struct Linked
+{
+    controls::ControlType family;
+    const controls::PropertyTable &properties;
+    std::map<std::string_view, controls::PropertyValue> written;
+    const char *payload;
+};
+
+// clang-format off
+const Linked LinkedFamilies[] = {
+    {controls::ControlType::Gauge, controls::gaugeProperties(),
+     {{"newVarID", 2}, {"newCenterX", 360}, {"newCenterY", 250}, {"newPointerLength", 200},
+      {"newPointerWidth", 5}, {"newColour", 255}, {"newMinAngle", -100}, {"newMaxAngle", 110},
+      {"newMin", -1.5F}, {"newMax", 100.0F}, {"newDefaultVal", 0.5F}, {"newColourVariable", 3},
+      {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F}},
+     "6801 FA00 C8 05 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"},
+    // upright, so it starts at its lower edge; 20 pixels long, the inner height of a new bar
+    {controls::ControlType::BarGraph, controls::barGraphProperties(),
+     {{"newVarID", 2}, {"newBarWidth", 30}, {"newColour", 255}, {"newMin", -1.5F}, {"newMax", 100.0F},
+      {"newDefaultVal", 0.5F}, {"newBarType", 1}, {"newLeft", 1500}, {"newTop", 3000}, {"newAlfa", 128},
+      {"newColourVariable", 3}, {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F}},
+     "6400 DC00 6400 C800 80 1E 525BF0 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"},
+};
+// clang-format on
+
+TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
+{
+    for (const Linked &linked : LinkedFamilies) {
+        DesignWindow d;
+        d.design().addControl(linked.family, {});
+        controls::OverlayControl &control = *d.design().controls().last();
+        for (const controls::PropertyRow &row : linked.properties.rows) {
+            if (!row.writer.empty())
+                control.write(row.writer, linked.written.at(row.writer));
+        }
+        control.AssignProperties();
+        EXPECT_EQ(encodePayload(parseLayout(test::savedDesign(d)).front().body).toHex(),
+                  test::bytes(linked.payload).toHex());
+    }
 }
 
 TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
@@ -91,6 +134,7 @@ TEST(Load, theNeedleOfADialIsNoControlOfItsOwn)
     DesignWindow d;
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
     ASSERT_EQ(d.design().controls().size(), 2);
+    EXPECT_EQ(test::whole(*d.design().controls().first(), "curCenterX"), 100);
     EXPECT_EQ(test::whole(*d.design().controls().last(), "curCenterX"), 300);
 }
 

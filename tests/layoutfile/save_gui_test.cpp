@@ -54,6 +54,39 @@ TEST(Save, onlyTheUsersSaveEndsAtAControlThatCannotBeStored)
     }
 }
 
+TEST(Save, leavesAPivotThatWasNeverSetAndATakenOneIsStored)
+{
+    DesignWindow d;
+    controls::Gauge &gauge = d.addGauge(100, 100);
+    gauge.write("newCenterX", 0);
+    EXPECT_FALSE(test::savedDesign(d).isEmpty());
+    EXPECT_EQ(gauge.get().curCenterX, 0);
+    QStringList texts = gauge.Serialise();
+    texts[3] = "0";
+    gauge.Deserialise(texts);
+    EXPECT_EQ(gauge.get().curCenterX, 70); // half of 2 x 65 + 10 pixels
+}
+
+struct Bar final : platform::Progress
+{
+    void begin(const QString &) override {}
+    void setValue(int percent) override { values.push_back(percent); }
+    void end() override {}
+
+    std::vector<int> values;
+};
+
+TEST(Save, advancesTheBarByStretchesAndTwiceForABarGraph)
+{
+    DesignWindow d;
+    d.addGauge(100, 100);
+    d.addBar(300, 100);
+    Bar shown;
+    test::save(d, d.design(), SaveKind::Recovery, shown);
+    // a gauge and a bar graph gathered, a bar graph and a gauge written, three variables, the settings
+    EXPECT_EQ(shown.values, std::vector({8, 25, 41, 50, 53, 56, 60, 65, 70, 75, 80, 85, 90, 100}));
+}
+
 TEST(Save, theThumbnailIsASixthOfTheOverlay)
 {
     const std::pair<VideoStandard, int> heights[] = {{VideoStandard::Pal, 96}, {VideoStandard::Ntsc, 80}};

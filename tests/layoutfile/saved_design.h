@@ -14,12 +14,18 @@ inline QString pathIn(DesignWindow &d, const char *name)
 }
 
 inline layoutfile::LayoutBytes save(DesignWindow &d, controls::ControlSurface &surface,
-                                    layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
+                                    layoutfile::SaveKind kind, platform::Progress &progress)
 {
     shell::ProgramState &state = d.world.state;
-    platform::NoProgress progress;
     return layoutfile::layoutBytes(kind, {surface, state.catalogue, state.settings, state.fonts,
                                           d.world.prompts, progress, state.stamp, state.screen});
+}
+
+inline layoutfile::LayoutBytes save(DesignWindow &d, controls::ControlSurface &surface,
+                                    layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
+{
+    platform::NoProgress progress;
+    return save(d, surface, kind, progress);
 }
 
 inline QByteArray savedDesign(DesignWindow &d) { return save(d, d.design()).file; }

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "common/colour.h"
+
+namespace layoutfile {
+
+// The two directions of a family's link(values, record, field), which names each property beside its record
+// field. Both sides are of one type, but that a colour is stored as Y, U, V.
+
+struct ToRecord
+{
+    template <typename T>
+    void operator()(const T &value, T &stored) const
+    {
+        stored = value;
+    }
+    void operator()(const common::Colour &value, common::Yuv &stored) const { stored = value.yuv(); }
+};
+
+struct FromRecord
+{
+    template <typename T>
+    void operator()(T &value, const T &stored) const
+    {
+        value = stored;
+    }
+    void operator()(common::Colour &value, const common::Yuv &stored) const
+    {
+        value = common::Colour::fromFile(stored);
+    }
+};
+
+// Takes over what was read from a record. The box first: its resize rule must not touch the values; the
+// position properties follow from it.
+template <typename Control, typename Values>
+void place(Control &control, const Values &values)
+{
+    control.setBox(values.box);
+    control.set(values);
+    control.updatePosition();
+}
+
+} // namespace layoutfile
