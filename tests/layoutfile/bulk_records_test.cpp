@@ -13,7 +13,6 @@ namespace {
 using namespace layoutfile;
 using graphics::AlphaPlane;
 using graphics::Planes;
-using test::bytes;
 
 template <typename Record>
 std::vector<QByteArray> payloads(const RecordGroups &groups)
