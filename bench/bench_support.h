@@ -19,6 +19,7 @@ public:
 
     void message(platform::Icon, const QString &, const QString &text) override;
     bool ask(platform::Icon, const QString &, const QString &) override { return true; }
+    bool confirm(platform::Icon, const QString &, const QString &) override { return true; }
     std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return 0; }
     QString input(const QString &, const QString &, const QString &) override { return {}; }
     QString openFile(const platform::FileRequest &) override { return {}; }

@@ -28,6 +28,7 @@ class NoPrompts final : public platform::Prompts
 public:
     void message(platform::Icon, const QString &, const QString &) override {}
     bool ask(platform::Icon, const QString &, const QString &) override { return false; }
+    bool confirm(platform::Icon, const QString &, const QString &) override { return false; }
     std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return {}; }
     QString input(const QString &, const QString &, const QString &) override { return {}; }
     QString openFile(const platform::FileRequest &) override { return {}; }

@@ -4,18 +4,20 @@
 source "$(dirname "${BASH_SOURCE[0]}")/findings.sh"
 
 declare -A arrows=(
-    [shell]="surface layoutfile controls recorder variables graphics platform common"
-    [surface]="controls recorder variables graphics platform common"
-    [layoutfile]="controls recorder variables graphics platform common"
-    [controls]="recorder variables graphics platform common"
-    [recorder]="variables platform common"
-    [variables]="platform common"
-    [graphics]="platform common"
+    [shell]="surface layoutfile controls recorder variables graphics forms platform common"
+    [surface]="controls recorder variables graphics forms platform common"
+    [layoutfile]="controls recorder variables graphics forms platform common"
+    [controls]="recorder variables graphics forms platform common"
+    [recorder]="variables forms platform common"
+    [variables]="forms platform common"
+    [graphics]="forms platform common"
+    [forms]="platform common"
     [platform]="common"
     [common]=""
 )
 windowless='^src/(common|platform|graphics|variables|recorder)/'
 window_folders='/(desktop|dialogs|editors)/'
+forms_rules='^forms/(choice|verdict)\.h$' # what a rule may know of a dialog
 
 qt_headers=$(qmake6 -query QT_INSTALL_HEADERS 2>/dev/null) || qt_headers=
 
@@ -39,7 +41,8 @@ check_room() # FILE LINE ROOM INCLUDED
 check_windows() # FILE LINE INCLUDED
 {
     [[ $1 =~ $windowless && ! $1 =~ $window_folders ]] || return 0
-    if is_widgets_header "$3" || [[ src/$3 =~ $windowless && $3 =~ $window_folders ]]; then
+    if is_widgets_header "$3" || [[ src/$3 =~ $windowless && $3 =~ $window_folders ]] ||
+        [[ $3 == forms/* && ! $3 =~ $forms_rules ]]; then
         finding "$1" "$2" "$3 brings windows into the rules"
     fi
 }

@@ -2,8 +2,8 @@
 
 #include "common/number_text.h"
 #include "platform/guards.h"
-#include "variables/number_parser.h"
-#include "variables/numeric_keys.h"
+#include "common/number_parser.h"
+#include "forms/numeric_keys.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -29,7 +29,7 @@ quint8 alphaFromPercent(const QString &percent, quint8 stored)
 {
     if (percent == alphaPercentText(stored))
         return stored;
-    return common::toInteger<quint8>(variables::parseNumber(percent) * AlphaOpaque / PercentFull);
+    return common::toInteger<quint8>(common::parseNumber(percent) * AlphaOpaque / PercentFull);
 }
 
 ColourSwatch::ColourSwatch(platform::Prompts &prompts)
@@ -107,7 +107,7 @@ QLineEdit *PropertyDialog::addNumber(const char *name, const QString &label, con
 {
     auto *field = new QLineEdit(text);
     field->setObjectName(QLatin1String(name));
-    new variables::NumericKeys(field, m_control.host().locale().decimalSeparator);
+    new forms::NumericKeys(field, m_control.host().locale().decimalSeparator);
     addRow(label, field, unit);
     return field;
 }

@@ -32,6 +32,8 @@ public:
     virtual void message(Icon icon, const QString &title, const QString &text) = 0;
     // Yes is true; No and a closed box are false.
     virtual bool ask(Icon icon, const QString &title, const QString &text) = 0;
+    // OK is true; Cancel and a closed box are false.
+    virtual bool confirm(Icon icon, const QString &title, const QString &text) = 0;
     // One of `options` by number, or nothing when the user cancels.
     virtual std::optional<int> choose(const QString &title, const QString &text,
                                       const QStringList &options) = 0;
@@ -50,6 +52,7 @@ class SilentPrompts final : public Prompts
 public:
     void message(Icon, const QString &, const QString &) override {}
     bool ask(Icon, const QString &, const QString &) override { return false; }
+    bool confirm(Icon, const QString &, const QString &) override { return false; }
     std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return {}; }
     QString input(const QString &, const QString &, const QString &) override { return {}; }
     QString openFile(const FileRequest &) override { return {}; }

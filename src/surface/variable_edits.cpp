@@ -2,7 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/rounding.h"
-#include "variables/number_parser.h"
+#include "common/number_parser.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -26,7 +26,7 @@ bool storeNumber(float &field, const QString &answer)
 {
     if (answer.trimmed().isEmpty())
         return false;
-    field = common::toSingle(variables::parseNumber(answer));
+    field = common::toSingle(common::parseNumber(answer));
     return true;
 }
 

@@ -1,9 +1,9 @@
 #include "variables/curve_fit.h"
 
+#include "common/number_parser.h"
 #include "common/rounding.h"
 #include "common/run_time_error.h"
 #include "variables/least_squares.h"
-#include "variables/number_parser.h"
 
 #include <QLocale>
 
@@ -66,7 +66,7 @@ QList<QPointF> fitPoints(const QList<QStringList> &rows)
     QList<QPointF> points;
     for (const QStringList &cells : rows) {
         if (!cells.value(0).trimmed().isEmpty() && !cells.value(1).trimmed().isEmpty())
-            points.append({finite(parseNumber(cells[0])), finite(parseNumber(cells[1]))});
+            points.append({finite(common::parseNumber(cells[0])), finite(common::parseNumber(cells[1]))});
     }
     return points;
 }

@@ -1,7 +1,7 @@
 #include "variables/filter_settings.h"
 
+#include "common/number_parser.h"
 #include "common/rounding.h"
-#include "variables/number_parser.h"
 
 #include <algorithm>
 
@@ -55,10 +55,10 @@ FilterSettings filterEntered(const FilterForm &form)
 {
     return {FilterModels.at(static_cast<std::size_t>(form.model)).value,
             FilterTypes.at(static_cast<std::size_t>(form.type)).value,
-            parseNumber(form.lower),
-            parseNumber(form.upper),
-            parseNumber(form.ripple),
-            parseNumber(form.order)};
+            common::parseNumber(form.lower),
+            common::parseNumber(form.upper),
+            common::parseNumber(form.ripple),
+            common::parseNumber(form.order)};
 }
 
 double clampTo(double minimum, double value, double maximum)

@@ -1,9 +1,9 @@
 #include "variables/units.h"
 
+#include "common/number_parser.h"
 #include "common/rounding.h"
 #include "variables/expression/compiler.h"
 #include "variables/expression/variable_name.h"
-#include "variables/number_parser.h"
 
 #include <QLocale>
 
@@ -92,11 +92,11 @@ Conversion readConversion(const QString &text)
         conversion.isEquation = true;
         conversion.equation = text;
     } else if (parts.size() == LineParts) {
-        conversion.coefficients = {0, 0, parseNumber(parts[1]), parseNumber(parts[2])};
+        conversion.coefficients = {0, 0, common::parseNumber(parts[1]), common::parseNumber(parts[2])};
         conversion.isIdentity = conversion.coefficients == Coefficients{0, 0, 1, 0};
     } else if (parts.size() == CubicParts) {
-        conversion.coefficients = {parseNumber(parts[1]), parseNumber(parts[2]), parseNumber(parts[3]),
-                                   parseNumber(parts[4])};
+        conversion.coefficients = {common::parseNumber(parts[1]), common::parseNumber(parts[2]),
+                                   common::parseNumber(parts[3]), common::parseNumber(parts[4])};
     }
     return conversion;
 }

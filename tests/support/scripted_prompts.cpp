@@ -34,6 +34,12 @@ bool ScriptedPrompts::ask(platform::Icon icon, const QString &title, const QStri
     return take(Kind::Question, text).toBool();
 }
 
+bool ScriptedPrompts::confirm(platform::Icon icon, const QString &title, const QString &text)
+{
+    m_shown.push_back({icon, title, text});
+    return take(Kind::Confirmation, text).toBool();
+}
+
 std::optional<int> ScriptedPrompts::choose(const QString &title, const QString &text, const QStringList &)
 {
     m_shown.push_back({platform::Icon::None, title, text});
@@ -67,8 +73,8 @@ std::optional<QRgb> ScriptedPrompts::colour(QRgb)
 
 std::optional<QFont> ScriptedPrompts::font(const QFont &)
 {
-    ADD_FAILURE() << "unexpected font dialog";
-    return std::nullopt;
+    const QVariant answer = take(Kind::Font, {});
+    return answer.isValid() ? std::optional(answer.value<QFont>()) : std::nullopt;
 }
 
 } // namespace test

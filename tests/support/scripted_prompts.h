@@ -25,6 +25,7 @@ public:
 
     void expectMessage(const QString &text) { m_script.push_back({Kind::Message, text, {}}); }
     void expectQuestion(const QString &text, bool yes) { m_script.push_back({Kind::Question, text, yes}); }
+    void expectConfirm(const QString &text, bool ok) { m_script.push_back({Kind::Confirmation, text, ok}); }
     void expectChoice(std::optional<int> option)
     {
         m_script.push_back({Kind::Choice, {}, option.value_or(-1)});
@@ -32,6 +33,7 @@ public:
     void expectInput(const QString &answer) { m_script.push_back({Kind::Input, {}, answer}); }
     void expectOpenFile(const QString &path) { m_script.push_back({Kind::OpenFile, {}, path}); }
     void expectSaveFile(const QString &path) { m_script.push_back({Kind::SaveFile, {}, path}); }
+    void expectFont(const QFont &font) { m_script.push_back({Kind::Font, {}, font}); }
     void expectColour(std::optional<QRgb> rgb)
     {
         m_script.push_back({Kind::Colour, {}, rgb ? QVariant(*rgb) : QVariant()});
@@ -43,6 +45,7 @@ public:
 
     void message(platform::Icon icon, const QString &title, const QString &text) override;
     bool ask(platform::Icon icon, const QString &title, const QString &text) override;
+    bool confirm(platform::Icon icon, const QString &title, const QString &text) override;
     std::optional<int> choose(const QString &title, const QString &text, const QStringList &options) override;
     QString input(const QString &title, const QString &prompt, const QString &initial) override;
     QString openFile(const platform::FileRequest &request) override;
@@ -51,7 +54,7 @@ public:
     std::optional<QFont> font(const QFont &initial) override;
 
 private:
-    enum class Kind { Message, Question, Choice, Input, OpenFile, SaveFile, Colour };
+    enum class Kind { Message, Question, Confirmation, Choice, Input, OpenFile, SaveFile, Colour, Font };
     struct Step
     {
         Kind kind;

@@ -1,13 +1,13 @@
 #include "controls/bar_graph/bar_graph_dialog.h"
 
 #include "common/number_text.h"
-#include "variables/number_parser.h"
+#include "common/number_parser.h"
 
 namespace controls {
 
 using common::leadingNumber;
 using common::toInteger;
-using variables::parseNumber;
+using common::parseNumber;
 
 std::optional<QString> validate(const BarGraphForm &form)
 {

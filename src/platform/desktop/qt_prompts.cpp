@@ -100,6 +100,11 @@ bool QtPrompts::ask(Icon icon, const QString &title, const QString &text)
     return showBox(parent(), icon, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+bool QtPrompts::confirm(Icon icon, const QString &title, const QString &text)
+{
+    return showBox(parent(), icon, title, text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
 std::optional<int> QtPrompts::choose(const QString &title, const QString &text, const QStringList &options)
 {
     const ArrowPointer pointer;

@@ -10,6 +10,7 @@ class QtPrompts final : public Prompts
 public:
     void message(Icon icon, const QString &title, const QString &text) override;
     bool ask(Icon icon, const QString &title, const QString &text) override;
+    bool confirm(Icon icon, const QString &title, const QString &text) override;
     std::optional<int> choose(const QString &title, const QString &text, const QStringList &options) override;
     QString input(const QString &title, const QString &prompt, const QString &initial) override;
     QString openFile(const FileRequest &request) override;

@@ -1,6 +1,6 @@
 #include "variables/editors/dialog_parts.h"
 
-#include "variables/numeric_keys.h"
+#include "forms/numeric_keys.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -27,7 +27,7 @@ QLineEdit *newNumberField(const char *name, const QString &text, const QString &
 {
     auto *field = new QLineEdit(text);
     field->setObjectName(QLatin1String(name));
-    new NumericKeys(field, decimalSeparator);
+    new forms::NumericKeys(field, decimalSeparator);
     return field;
 }
 

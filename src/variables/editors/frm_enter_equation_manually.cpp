@@ -1,7 +1,7 @@
 #include "variables/editors/frm_enter_equation_manually.h"
 
+#include "common/number_parser.h"
 #include "variables/editors/dialog_parts.h"
-#include "variables/number_parser.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -67,8 +67,8 @@ std::optional<Coefficients> FrmEnterEquationManually::run()
 {
     if (exec() != Accepted)
         return std::nullopt;
-    return Coefficients{parseNumber(m_fields[0]->text()), parseNumber(m_fields[1]->text()),
-                        parseNumber(m_fields[2]->text()), parseNumber(m_fields[3]->text())};
+    return Coefficients{common::parseNumber(m_fields[0]->text()), common::parseNumber(m_fields[1]->text()),
+                        common::parseNumber(m_fields[2]->text()), common::parseNumber(m_fields[3]->text())};
 }
 
 } // namespace variables

@@ -1,6 +1,6 @@
 #include "variables/editors/point_grid.h"
 
-#include "variables/numeric_keys.h"
+#include "forms/numeric_keys.h"
 #include "variables/table_text.h"
 
 #include <QAction>
@@ -15,44 +15,18 @@
 namespace variables {
 
 PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decimalSeparator)
-    : m_edit(new QLineEdit(viewport())), m_menu(new QMenu(this))
+    : EditGrid(rows, headers), m_edit(new QLineEdit), m_menu(new QMenu(this))
 {
-    setRowCount(rows);
-    setColumnCount(static_cast<int>(headers.size()));
-    for (int row = 0; row < rowCount(); ++row) {
-        for (int column = 0; column < columnCount(); ++column) {
-            auto *item = new QTableWidgetItem;
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            setItem(row, column, item);
-        }
-    }
-    setHorizontalHeaderLabels(headers);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setHighlightSections(false);
-    verticalHeader()->setHighlightSections(false);
-    setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
-    setTabKeyNavigation(false);
-    setFocusProxy(m_edit);
-
     m_edit->setObjectName(QStringLiteral("txtCell"));
-    m_edit->setAlignment(Qt::AlignRight);
-    new NumericKeys(m_edit, decimalSeparator);
-    m_edit->installEventFilter(this);
-    connect(m_edit, &QLineEdit::textEdited, this, &PointGrid::changed);
-    connect(m_edit, &QLineEdit::editingFinished, this, &PointGrid::commit);
+    new forms::NumericKeys(m_edit, decimalSeparator);
+    setEditor(m_edit, {0, 1});
 
     m_menu->setObjectName(QStringLiteral("mnuPop"));
     addEntry("mnuCut", QStringLiteral("Cu&t"), QKeySequence::Cut, &PointGrid::cut);
     addEntry("mnuCopy", QStringLiteral("&Copy"), QKeySequence::Copy, &PointGrid::copy);
     addEntry("mnuPaste", QStringLiteral("&Paste"), QKeySequence::Paste, &PointGrid::paste);
     addEntry("mnuDelete", QStringLiteral("&Delete"), QKeySequence::Delete, &PointGrid::deleteBlock);
-
-    connect(this, &QTableWidget::currentCellChanged, this, [this](int, int, int row, int column) {
-        setCell(row, column, m_edit->text());
-        showCell();
-    });
-    setCurrentCell(0, 0);
 }
 
 void PointGrid::addEntry(const char *name, const QString &text, QKeySequence::StandardKey key,
@@ -64,52 +38,6 @@ void PointGrid::addEntry(const char *name, const QString &text, QKeySequence::St
     action->setShortcutContext(Qt::WidgetShortcut);
 }
 
-QList<QStringList> PointGrid::cells() const
-{
-    QList<QStringList> rows;
-    for (int row = 0; row < rowCount(); ++row) {
-        QStringList texts;
-        for (int column = 0; column < columnCount(); ++column)
-            texts.append(cell(row, column));
-        rows.append(texts);
-    }
-    rows[currentRow()][currentColumn()] = m_edit->text();
-    return rows;
-}
-
-QString PointGrid::cell(int row, int column) const
-{
-    const QTableWidgetItem *found = item(row, column);
-    return found ? found->text() : QString();
-}
-
-bool PointGrid::setCell(int row, int column, const QString &text)
-{
-    QTableWidgetItem *found = item(row, column);
-    if (!found || found->text() == text)
-        return false;
-    found->setText(text);
-    return true;
-}
-
-void PointGrid::commit() { setCell(currentRow(), currentColumn(), m_edit->text()); }
-
-void PointGrid::showCell()
-{
-    m_edit->setGeometry(visualRect(currentIndex()));
-    m_edit->setText(cell(currentRow(), currentColumn()));
-    m_edit->selectAll();
-    m_edit->setAccessibleName(QStringLiteral("%1, row %2")
-                                  .arg(horizontalHeaderItem(currentColumn())->text())
-                                  .arg(currentRow() + 1));
-}
-
-void PointGrid::updateGeometries()
-{
-    QTableWidget::updateGeometries();
-    m_edit->setGeometry(visualRect(currentIndex()));
-}
-
 QTableWidgetSelectionRange PointGrid::block() const
 {
     const QList<QTableWidgetSelectionRange> ranges = selectedRanges();
@@ -118,22 +46,16 @@ QTableWidgetSelectionRange PointGrid::block() const
     return {currentRow(), currentColumn(), currentRow(), currentColumn()};
 }
 
-void PointGrid::moveBy(int rows, int columns, bool extend)
+// Moves the corner of the block that lies opposite the current cell.
+void PointGrid::extendBy(int rows, int columns)
 {
-    int row = currentRow();
-    int column = currentColumn();
-    if (extend) { // the corner of the block that lies opposite the current cell
-        const QTableWidgetSelectionRange selected = block();
-        row = row == selected.topRow() ? selected.bottomRow() : selected.topRow();
-        column = column == selected.leftColumn() ? selected.rightColumn() : selected.leftColumn();
-    }
-    row = std::clamp(row + rows, 0, rowCount() - 1);
-    column = std::clamp(column + columns, 0, columnCount() - 1);
+    const QTableWidgetSelectionRange selected = block();
+    const int row = currentRow() == selected.topRow() ? selected.bottomRow() : selected.topRow();
+    const int column =
+        currentColumn() == selected.leftColumn() ? selected.rightColumn() : selected.leftColumn();
     commit();
-    if (extend)
-        extendTo(model()->index(row, column));
-    else
-        setCurrentCell(row, column);
+    extendTo(model()->index(std::clamp(row + rows, 0, rowCount() - 1),
+                            std::clamp(column + columns, 0, columnCount() - 1)));
     m_edit->selectAll();
 }
 
@@ -145,10 +67,8 @@ void PointGrid::extendTo(const QModelIndex &corner)
 
 bool PointGrid::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_edit)
-        return QTableWidget::eventFilter(watched, event);
-    if (event->type() == QEvent::KeyPress)
-        return keyPressed(*static_cast<QKeyEvent *>(event));
+    if (!isEditor(watched))
+        return EditGrid::eventFilter(watched, event);
     if (event->type() == QEvent::ContextMenu) {
         contextMenuEvent(static_cast<QContextMenuEvent *>(event));
         return true;
@@ -161,36 +81,32 @@ bool PointGrid::eventFilter(QObject *watched, QEvent *event)
         extendTo(below);
         return true;
     }
-    return false;
+    return EditGrid::eventFilter(watched, event);
 }
 
 bool PointGrid::keyPressed(const QKeyEvent &event)
 {
-    const bool shift = event.modifiers() & Qt::ShiftModifier;
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier))
         return blockKeyPressed(event);
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        moveBy(1, 0, false);
-        return true;
-    case Qt::Key_Down:
-        moveBy(1, 0, shift);
-        return true;
-    case Qt::Key_Up:
-        moveBy(-1, 0, shift);
-        return true;
-    case Qt::Key_Left:
-        moveBy(0, -1, shift);
-        return true;
-    case Qt::Key_Right:
-        moveBy(0, 1, shift);
-        return true;
-    case Qt::Key_Escape:
-        return restoreCell();
-    default:
-        return blockKeyPressed(event);
+    if (event.modifiers() & Qt::ShiftModifier) {
+        switch (event.key()) {
+        case Qt::Key_Down:
+            extendBy(1, 0);
+            return true;
+        case Qt::Key_Up:
+            extendBy(-1, 0);
+            return true;
+        case Qt::Key_Left:
+            extendBy(0, -1);
+            return true;
+        case Qt::Key_Right:
+            extendBy(0, 1);
+            return true;
+        default:
+            break;
+        }
     }
+    return blockKeyPressed(event) || EditGrid::keyPressed(event);
 }
 
 // The keys of the popup menu. Within a single cell the edit box does as every edit box does, but a paste
@@ -212,18 +128,6 @@ bool PointGrid::blockKeyPressed(const QKeyEvent &event)
         deleteBlock();
     else
         return false;
-    return true;
-}
-
-// Whether there was something to take back.
-bool PointGrid::restoreCell()
-{
-    const QString stored = cell(currentRow(), currentColumn());
-    if (m_edit->text() == stored)
-        return false;
-    m_edit->setText(stored);
-    m_edit->selectAll();
-    emit changed();
     return true;
 }
 

@@ -1,4 +1,4 @@
-#include "variables/number_parser.h"
+#include "common/number_parser.h"
 
 #include "common/number_text.h"
 
@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace variables {
+namespace common {
 
 namespace {
 
@@ -84,4 +84,4 @@ bool isNumericKey(QChar key, const QString &decimalSeparator)
     return key.isDigit() || accepted.contains(key) || decimalSeparator.contains(key);
 }
 
-} // namespace variables
+} // namespace common

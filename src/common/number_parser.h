@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace variables {
+namespace common {
 
 // The locale-proof number parser: the decimal marks of all locales are alike, and so are the digits of all
 // scripts. An exponent is read, letters and stray signs are passed over, an empty text is 0. At most 40
@@ -13,4 +13,4 @@ double parseNumber(const QString &text);
 // and the characters of the system's decimal mark.
 bool isNumericKey(QChar key, const QString &decimalSeparator);
 
-} // namespace variables
+} // namespace common

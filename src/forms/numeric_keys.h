@@ -1,11 +1,11 @@
 #pragma once
 
-#include "variables/number_parser.h"
+#include "common/number_parser.h"
 
 #include <QKeyEvent>
 #include <QObject>
 
-namespace variables {
+namespace forms {
 
 // Swallows the keys that no number holds before the text box it is made for sees them. What stands in the box
 // already (an exponent that the program shows) and what is pasted is left alone.
@@ -25,11 +25,11 @@ protected:
             return false;
         const QString typed = static_cast<QKeyEvent *>(event)->text();
         return !typed.isEmpty() && typed.front().isPrint() &&
-               !isNumericKey(typed.front(), m_decimalSeparator);
+               !common::isNumericKey(typed.front(), m_decimalSeparator);
     }
 
 private:
     QString m_decimalSeparator;
 };
 
-} // namespace variables
+} // namespace forms

@@ -1,10 +1,10 @@
-#include "variables/number_parser.h"
+#include "common/number_parser.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using namespace variables;
+using namespace common;
 
 TEST(NumberParser, readsBothDecimalMarksWhateverTheLocale)
 {

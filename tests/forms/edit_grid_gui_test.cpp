@@ -1,0 +1,41 @@
+#include "forms/edit_grid.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QtTest/QtTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(EditGrid, editsByTextBoxAndListAndLeavesTheOtherColumnsAlone)
+{
+    forms::EditGrid grid(3, {"Number", "Rate", "Value"});
+    auto *rates = new QComboBox;
+    rates->addItems({"fast", "slow"});
+    auto *value = new QLineEdit;
+    grid.setCell(0, 1, "slow");
+    grid.setEditor(rates, {1});
+    grid.setEditor(value, {2});
+    grid.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+    EXPECT_FALSE(rates->isVisible() || value->isVisible()); // the first column has no editor
+
+    grid.setCurrentCell(0, 1);
+    EXPECT_TRUE(rates->isVisible() && rates->currentText() == "slow");
+    EXPECT_EQ(rates->geometry(), grid.visualRect(grid.currentIndex()));
+    grid.setFocus();
+    QTest::keyClick(rates, Qt::Key_Up);
+    EXPECT_EQ(grid.cells()[0][1], "fast");
+    QTest::keyClick(rates, Qt::Key_Right);
+    EXPECT_TRUE(value->isVisible() && value->hasFocus() && !rates->isVisible());
+    QTest::keyClicks(value, "12");
+    QTest::keyClick(value, Qt::Key_Return);
+    EXPECT_EQ(grid.currentRow(), 1);
+    EXPECT_EQ(grid.cells(), (QList<QStringList>{{"", "fast", "12"}, {"", "", ""}, {"", "", ""}}));
+    QTest::keyClicks(value, "9");
+    QTest::keyClick(value, Qt::Key_Escape);
+    EXPECT_EQ(value->text(), "");
+}
+
+} // namespace
