@@ -1,104 +1,81 @@
 #pragma once
 
 #include "controls/overlay_control.h"
-
-#include <QComboBox>
-#include <QDialog>
-#include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QToolButton>
-
-#include <optional>
+#include "forms/dialog_of.h"
+#include "variables/variable_choices.h"
 
 namespace controls {
 
-// The percentage that a dialog shows for an alpha byte, and the byte for a percentage as typed: `stored`
-// itself when its text was left alone. Throws RunTimeError past a byte.
-QString alphaPercentText(quint8 alpha);
-quint8 alphaFromPercent(const QString &percent, quint8 stored);
+// The standard colour of everything that is drawn: red.
+inline constexpr quint32 StandardColour = 0x0000FF;
 
-// What a colour-variable group holds as typed.
-struct ColourVariableForm
+// The rows that a colour and the variable that takes its place consist of: one excludes the other.
+struct ColourRows
 {
-    qint32 variable = 0; // catalogue index; 0 is "None"
-    QString minimum;
-    QString maximum;
+    forms::ColourField &colour;
+    forms::ListField &variable;
+    forms::NumberField &minimum;
+    forms::NumberField &maximum;
+
+    void name() const;         // the captions, by the contract
+    void showChoice() const;   // what is enabled and which captions show
+    void chooseColour() const; // black for a variable
 };
 
-// The swatch of a colour property: shows the colour, a click opens the colour dialog.
-class ColourSwatch final : public QToolButton
+// What the property dialogs of the families share: rows that bind a variable of the host's catalogue.
+template <typename Values>
+class PropertyDialog : public forms::DialogOf<Values>
 {
-    Q_OBJECT
-
-public:
-    explicit ColourSwatch(platform::Prompts &prompts);
-    quint32 colour() const { return m_colour; }
-    void setColour(quint32 packed);
-
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    using Base = forms::DialogOf<Values>;
+
+    PropertyDialog(OverlayControl &control, const QString &title, const Values &values)
+        : Base(title, values, {control.host().prompts(), control.host().locale(), control.window()}),
+          m_host(control.host())
+    {
+    }
+
+    template <typename Member>
+    forms::ListField &variable(Member member, const forms::RowText &row)
+    {
+        return variableList(member, row, {});
+    }
+    // With "None" for no variable.
+    template <typename Member>
+    forms::ListField &variableOrNone(Member member, const forms::RowText &row)
+    {
+        return variableList(member, row, {forms::none()});
+    }
+
+    // The colour of the family's graphic, and the variable that changes it between two limits.
+    void colourRows()
+    {
+        forms::ColourField &colour = Base::colour(&Values::curColour, {"picForeColour", "C&olour"},
+                                                  "cmdResetForeColour", StandardColour);
+        const ColourRows rows{
+            colour, variableOrNone(&Values::curColourVariable, {"cmbColourVariable", "Colour &variable"}),
+            Base::number(&Values::curColourVarMin, {"txtColourVarMin", "Colour minimum"}),
+            Base::number(&Values::curColourVarMax, {"txtColourVarMax", "Colour maximum"})};
+        rows.name();
+        this->react(rows.variable, [rows] { rows.chooseColour(); });
+        this->follow([rows] { rows.showChoice(); });
+    }
 
 private:
-    quint32 m_colour = 0;
-};
+    template <typename Member>
+    forms::ListField &variableList(Member member, const forms::RowText &row, forms::Choices choices)
+    {
+        const variables::VariableTable &table = m_host.catalogue().live;
+        const qint32 stored = std::invoke(member, Base::kept());
+        for (forms::Choice &choice :
+             variables::variableChoices(table, &variables::VariableRecord::Available, stored))
+            choices.push_back(std::move(choice));
+        forms::ListField &list = Base::choice(member, row, choices, 0);
+        list.takeWhatIsShown();
+        return list;
+    }
 
-// What all property dialogs share: fields under their contract names in groups of labelled rows, numeric key
-// filter, variable lists, colour swatch, colour variable, alpha percentage, and the road of an Apply:
-// validate the typed form, convert every field, write all at once.
-class PropertyDialog : public QDialog
-{
-    Q_OBJECT
-
-protected:
-    PropertyDialog(OverlayControl &control, const QString &title, const char *applyName,
-                   const char *cancelName);
-
-    // A titled group; rows are added to the last group.
-    void addGroup(const QString &title);
-    QLineEdit *addNumber(const char *name, const QString &label, const QString &text,
-                         const QString &unit = {});
-    // The list of available variables; a stored variable that is not offered any more is still shown. Each
-    // row carries its catalogue index, since several variables may have one name.
-    QComboBox *addVariable(const char *name, const QString &label, qint32 variable);
-    ColourSwatch *addColour(const char *name, const char *resetName, const QString &label, quint32 colour);
-    // "None" or a variable that changes the colour of `swatch`'s graphic between two limits.
-    void addColourVariable(qint32 variable, float minimum, float maximum);
-    void addRow(const QString &label, QWidget *field, const QString &unit = {});
-
-    // A float as a field shows it, with the locale's decimal mark.
-    QString shown(float value) const;
-    // The catalogue index of the chosen row; 0 for "None".
-    static qint32 chosenVariable(const QComboBox &list) { return list.currentData().toInt(); }
-    ColourVariableForm colourVariableForm() const;
-
-    // The first message that applies to what is typed; nothing when all is well.
-    virtual std::optional<QString> validate() const = 0;
-    // Converts every field (throws RunTimeError when one does not fit) and only then writes all of them.
-    virtual void write() = 0;
-    // After the dialog has gone.
-    virtual void applied() = 0;
-
-    void finishLayout(); // last step of a dialog's constructor
-
-private:
-    void apply();
-    void fillVariables(QComboBox &list, qint32 variable) const;
-    void colourVariableChosen(int row);
-
-    OverlayControl &m_control;
-    QVBoxLayout *m_groups;
-    QFormLayout *m_form = nullptr;
-    QPushButton *m_apply;
-    QPushButton *m_cancel;
-    // The colour and its variable exclude each other.
-    ColourSwatch *m_swatch = nullptr;
-    QPushButton *m_reset = nullptr;
-    QLabel *m_colourLabel = nullptr;
-    QComboBox *m_colourVariable = nullptr;
-    QLineEdit *m_colourMinimum = nullptr;
-    QLineEdit *m_colourMaximum = nullptr;
+    ControlHost &m_host;
 };
 
 } // namespace controls

@@ -7,9 +7,9 @@ namespace {
 using controls::BarGraph;
 using controls::BarGraphDialog;
 using controls::Box;
-using controls::ColourSwatch;
 using controls::Gauge;
 using controls::GaugeDialog;
+using forms::ColourSwatch;
 using test::DesignWindow;
 
 QLineEdit &box(QDialog &dialog, const QString &name) { return *dialog.findChild<QLineEdit *>("txt" + name); }
