@@ -1,6 +1,5 @@
 #include "variables/filter_settings.h"
 
-#include "common/number_parser.h"
 #include "common/rounding.h"
 
 #include <algorithm>
@@ -51,16 +50,6 @@ void storeFilter(const FilterSettings &filter, VariableRecord &record)
     record.FilterOrder = common::toInteger<qint32>(filter.order);
 }
 
-FilterSettings filterEntered(const FilterForm &form)
-{
-    return {FilterModels.at(static_cast<std::size_t>(form.model)).value,
-            FilterTypes.at(static_cast<std::size_t>(form.type)).value,
-            common::parseNumber(form.lower),
-            common::parseNumber(form.upper),
-            common::parseNumber(form.ripple),
-            common::parseNumber(form.order)};
-}
-
 double clampTo(double minimum, double value, double maximum)
 {
     return value > minimum ? std::min(value, maximum) : minimum;
@@ -69,8 +58,10 @@ double clampTo(double minimum, double value, double maximum)
 FilterSettings filterWithinBounds(const FilterSettings &entered)
 {
     FilterSettings filter = entered;
-    filter.lower = clampTo(LowestFrequency, entered.lower, HighestFrequency);
-    filter.upper = clampTo(LowestFrequency, entered.upper, HighestFrequency);
+    if (usesLower(filter.type))
+        filter.lower = clampTo(LowestFrequency, entered.lower, HighestFrequency);
+    if (usesUpper(filter.type))
+        filter.upper = clampTo(LowestFrequency, entered.upper, HighestFrequency);
     filter.order = clampTo(LowestOrder, 2 * common::roundHalfEven(entered.order / 2), HighestOrder);
     if ((usesLower(filter.type) && filter.lower < LowCorner) ||
         (usesUpper(filter.type) && filter.upper < LowCorner))

@@ -47,22 +47,11 @@ constexpr bool usesUpper(FilterType type) { return type != FilterType::HighPass;
 FilterSettings filterOf(const VariableRecord &record);
 void storeFilter(const FilterSettings &filter, VariableRecord &record);
 
-// The filter window's fields: model and type by their rows above, numbers as typed.
-struct FilterForm
-{
-    int model = 0;
-    int type = 0;
-    QString lower, upper; // Hz
-    QString ripple;       // dB
-    QString order;
-};
-FilterSettings filterEntered(const FilterForm &form);
-
 // `value` taken into minimum to maximum; what is not a number becomes the minimum.
 double clampTo(double minimum, double value, double maximum);
 
 // Frequencies 1 to 50 Hz, order even and 2 to 10 (2 where a corner in use is below 5 Hz), ripple 0.01 to 3
-// dB.
+// dB. A frequency that the type does not use stays as it is: it may be wanted again.
 FilterSettings filterWithinBounds(const FilterSettings &entered);
 
 } // namespace variables

@@ -1,3 +1,4 @@
+#include "support/scripted_prompts.h"
 #include "variables/editors/frm_curve_fit.h"
 
 #include <QClipboard>
@@ -47,7 +48,8 @@ struct FitWindow
     QStringList row(int number) const { return grid->cells()[number]; }
     QString label() const { return window.findChild<QLabel *>("lblEquationLabel")->text(); }
 
-    frmCurveFit window{{}, nullptr};
+    test::ScriptedPrompts prompts;
+    frmCurveFit window{{prompts, {}}};
     PointGrid *grid = window.findChild<PointGrid *>("grdInput");
     QLineEdit *cell = window.findChild<QLineEdit *>("txtCell");
     Chart *chart = window.findChild<Chart *>("chtPolyFit");

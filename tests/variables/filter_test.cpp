@@ -93,28 +93,23 @@ TEST(AdvancedFiltering, staysFiniteAtTheEndsOfTheRange)
 
 TEST(FilterRules, bringWhatWasTypedWithinBounds)
 {
-    struct Case
+    const struct
     {
-        int type;
-        const char *lower, *upper, *ripple, *order;
-        FilterSettings expected;
+        FilterSettings typed, expected;
+    } cases[] = {
+        {{Chebyshev, LowPass, 0, 10, 1, 7}, {Chebyshev, LowPass, 0, 10, 1, 8}},
+        {{Chebyshev, LowPass, 0, 10, 1, 1}, {Chebyshev, LowPass, 0, 10, 1, 2}},
+        {{Chebyshev, LowPass, 0, 10, 1, 5}, {Chebyshev, LowPass, 0, 10, 1, 4}}, // 2.5 goes to the even 2
+        {{Chebyshev, LowPass, 0, 10, 1, 30}, {Chebyshev, LowPass, 0, 10, 1, 10}},
+        {{Chebyshev, LowPass, 0, 3, 1, 6}, {Chebyshev, LowPass, 0, 3, 1, 2}},
+        {{Chebyshev, LowPass, 2, 10, 1, 6}, {Chebyshev, LowPass, 2, 10, 1, 6}}, // 2 is not in use
+        {{Chebyshev, HighPass, 4.9, 60, 0, 6}, {Chebyshev, HighPass, 4.9, 60, 0.01, 2}},
+        {{Chebyshev, BandPass, 4, 20, 0.5, 6}, {Chebyshev, BandPass, 4, 20, 0.5, 2}},
+        {{Chebyshev, BandPass, 5, 20, 0.5, 6}, {Chebyshev, BandPass, 5, 20, 0.5, 6}},
+        {{Chebyshev, BandPass, std::nan(""), HUGE_VAL, 9, 0}, {Chebyshev, BandPass, 1, 50, 3, 2}},
     };
-    const Case cases[] = {
-        {0, "", "10", "1", "7", {Chebyshev, LowPass, 1, 10, 1, 8}},
-        {0, "", "10", "1", "1", {Chebyshev, LowPass, 1, 10, 1, 2}},
-        {0, "", "10", "1", "5", {Chebyshev, LowPass, 1, 10, 1, 4}}, // half of it, 2.5, goes to the even 2
-        {0, "", "3", "1", "6", {Chebyshev, LowPass, 1, 3, 1, 2}},
-        {0, "2", "10", "1", "6", {Chebyshev, LowPass, 2, 10, 1, 6}}, // the lower one is not in use
-        {1, "4,9", "60", "0", "6", {Chebyshev, HighPass, 4.9, 50, 0.01, 2}},
-        {2, "4", "20", "0.5", "6", {Chebyshev, BandPass, 4, 20, 0.5, 2}},
-        {2, "5", "20", "0.5", "6", {Chebyshev, BandPass, 5, 20, 0.5, 6}},
-        {2, "0e999", "9e999", "x", "", {Chebyshev, BandPass, 1, 50, 0.01, 2}},
-    };
-    for (const Case &typed : cases) {
-        const FilterSettings filter = filterWithinBounds(
-            filterEntered({2, typed.type, typed.lower, typed.upper, typed.ripple, typed.order}));
-        EXPECT_EQ(filter, typed.expected) << typed.lower << " " << typed.upper << " " << typed.order;
-    }
+    for (const auto &c : cases)
+        EXPECT_EQ(filterWithinBounds(c.typed), c.expected) << c.typed.lower << " " << c.typed.order;
 }
 
 } // namespace

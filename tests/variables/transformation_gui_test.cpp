@@ -40,7 +40,7 @@ Catalogue smallCatalogue()
 
 struct Editor
 {
-    explicit Editor(int index) : window(index, catalogue, generated, prompts, locale, nullptr)
+    explicit Editor(int index) : window(index, catalogue, generated, {prompts, {}})
     {
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -70,7 +70,6 @@ struct Editor
     Catalogue catalogue = smallCatalogue();
     Coefficients generated;
     test::ScriptedPrompts prompts;
-    platform::NumberLocale locale;
     frmVariableTransformation window;
 };
 

@@ -19,7 +19,7 @@ using enum FilterType;
 
 struct FilterWindow
 {
-    explicit FilterWindow(const FilterSettings &filter) : window("Speed", filter, {}, nullptr)
+    explicit FilterWindow(const FilterSettings &filter) : window("Speed", filter, {prompts, {}})
     {
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -35,6 +35,7 @@ struct FilterWindow
         return box(name).text();
     }
 
+    test::ScriptedPrompts prompts;
     frmFilterDesign window;
     Chart *chart = window.findChild<Chart *>("chtResponse");
 };

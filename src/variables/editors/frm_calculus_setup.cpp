@@ -1,35 +1,14 @@
 #include "variables/editors/frm_calculus_setup.h"
 
 #include "variables/calculus.h"
-#include "variables/editors/dialog_parts.h"
-
-#include <QVBoxLayout>
 
 namespace variables {
 
-FrmCalculusSetup::FrmCalculusSetup(qint32 mode, QWidget *parent) : QDialog(parent), m_modes(new QComboBox)
+FrmCalculusSetup::FrmCalculusSetup(const VariableRecord &record, const forms::Context &context)
+    : DialogOf(QLatin1String(CalculusTitle), record, context)
 {
-    const QString title = QLatin1String(CalculusTitle);
-    setWindowTitle(title);
-    m_modes->setObjectName(QStringLiteral("CalcCombo"));
-    for (const char *text : CalculusModes)
-        m_modes->addItem(QLatin1String(text));
-    m_modes->setCurrentIndex(mode >= 0 && mode < m_modes->count() ? mode : 0);
-    auto *layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    auto *form = new QFormLayout;
-    addField(*form, QStringLiteral("Calculus &mode"), *m_modes);
-    layout->addLayout(form);
-    layout->addSpacing(8);
-    connect(addButtons(*this, "cmdOk", "cmdCancel").accept, &QPushButton::clicked, this, &QDialog::accept);
-    m_modes->setFocus();
-}
-
-std::optional<qint32> FrmCalculusSetup::run()
-{
-    if (exec() != Accepted)
-        return std::nullopt;
-    return m_modes->currentIndex();
+    choice(&VariableRecord::calculus, {"CalcCombo", "Calculus &mode"}, forms::numbered(CalculusModes), 0);
+    finish(forms::okAndCancel());
 }
 
 } // namespace variables

@@ -1,10 +1,6 @@
 #include "variables/editors/frm_curve_fit.h"
 
 #include "platform/guards.h"
-#include "variables/editors/dialog_parts.h"
-
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -29,14 +25,14 @@ QRectF rangeOf(const QList<QPointF> &points)
 
 } // namespace
 
-frmCurveFit::frmCurveFit(const platform::NumberLocale &locale, QWidget *parent)
-    : QDialog(parent),
+frmCurveFit::frmCurveFit(const forms::Context &context)
+    : Dialog(QStringLiteral("Generate an equation from a table"), context),
       m_grid(new PointGrid(GridRows, {QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y")},
-                           locale.decimalSeparator)),
+                           decimalMark())),
       m_chart(new Chart(QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y"))),
       m_equation(new QLabel)
 {
-    setWindowTitle(QStringLiteral("Generate an equation from a table"));
+    makeResizable();
     m_grid->setObjectName(QStringLiteral("grdInput"));
     m_grid->setAccessibleName(QStringLiteral("Table of inputs and outputs"));
     m_grid->setFixedWidth(GridWidth);
@@ -49,18 +45,11 @@ frmCurveFit::frmCurveFit(const platform::NumberLocale &locale, QWidget *parent)
 
     auto *tableCaption = new QLabel(QStringLiteral("&Table"));
     tableCaption->setBuddy(m_grid);
-    auto *left = new QVBoxLayout;
-    left->addWidget(tableCaption);
-    left->addWidget(m_grid);
-    auto *top = new QHBoxLayout;
-    top->addLayout(left);
-    top->addWidget(m_chart, 1);
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(top, 1);
-    layout->addWidget(m_equation);
-    const DialogButtons buttons = addButtons(*this, "cmdOk", "cmdCancel");
-    m_accept = buttons.accept;
-    connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
+    body().addWidget(tableCaption);
+    body().addWidget(m_grid);
+    addBeside(m_chart);
+    layout()->addWidget(m_equation);
+    addButtons(forms::okAndCancel());
     connect(m_grid, &PointGrid::changed, this, &frmCurveFit::Recalculate);
     Recalculate();
     m_grid->setFocus();
@@ -88,7 +77,7 @@ void frmCurveFit::Recalculate()
         text = fitText(*m_fit);
     });
     m_equation->setText(text);
-    m_accept->setEnabled(m_fit.has_value());
+    button("cmdOk").setEnabled(m_fit.has_value());
     DrawGraph(points, m_fit);
 }
 

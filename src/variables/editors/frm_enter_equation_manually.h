@@ -1,30 +1,15 @@
 #pragma once
 
-#include "platform/locale.h"
+#include "forms/dialog_of.h"
 #include "variables/units.h"
-
-#include <QDialog>
-#include <QLineEdit>
-
-#include <array>
-#include <optional>
 
 namespace variables {
 
 // The window in which the coefficients of a polynomial are typed.
-class FrmEnterEquationManually final : public QDialog
+class FrmEnterEquationManually final : public forms::DialogOf<Coefficients>
 {
-    Q_OBJECT
-
 public:
-    FrmEnterEquationManually(const Coefficients &initial, const platform::NumberLocale &locale,
-                             QWidget *parent);
-
-    // Runs the window. Nothing when the user cancels.
-    std::optional<Coefficients> run();
-
-private:
-    std::array<QLineEdit *, 4> m_fields; // PolyCoeffsTxt_0 to _3, highest power first
+    FrmEnterEquationManually(const Coefficients &initial, const forms::Context &context);
 };
 
 } // namespace variables

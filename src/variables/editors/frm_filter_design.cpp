@@ -1,34 +1,15 @@
 #include "variables/editors/frm_filter_design.h"
 
-#include "common/number_text.h"
-#include "variables/editors/dialog_parts.h"
 #include "variables/filter_design.h"
-
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QVBoxLayout>
 
 namespace variables {
 
 namespace {
 
-constexpr int NarrowestWindow = 320; // pixels
+constexpr int NarrowestBody = 300; // pixels
 constexpr std::size_t ResponsePoints = 100;
 constexpr double StepsPerUnit = 50; // of the chart's horizontal axis
 constexpr double AxisLength = 2;    // up to the Nyquist frequency
-
-template <typename Choices, typename Value>
-QComboBox *newChoice(const char *name, const Choices &choices, Value chosen)
-{
-    auto *list = new QComboBox;
-    list->setObjectName(QLatin1String(name));
-    for (const auto &choice : choices) {
-        list->addItem(QLatin1String(choice.text));
-        if (choice.value == chosen)
-            list->setCurrentIndex(list->count() - 1);
-    }
-    return list;
-}
 
 Chart *newResponseChart()
 {
@@ -46,87 +27,49 @@ Chart *newResponseChart()
 } // namespace
 
 frmFilterDesign::frmFilterDesign(const QString &variable, const FilterSettings &initial,
-                                 const platform::NumberLocale &locale, QWidget *parent)
-    : QDialog(parent), m_decimalSeparator(locale.decimalSeparator),
-      m_model(newChoice("cmbModel", FilterModels, initial.model)), m_settings(newSettings(initial)),
+                                 const forms::Context &context)
+    : DialogOf(QStringLiteral("Filter design for ") + variable, initial, context),
+      m_model(choice(&FilterSettings::model, {"cmbModel", "Filter &model"}, forms::choicesOf(FilterModels))),
       m_chart(newResponseChart())
 {
-    setWindowTitle(QStringLiteral("Filter design for ") + variable);
-    auto *model = new QFormLayout;
-    addField(*model, QStringLiteral("Filter &model"), *m_model);
-    auto *left = new QVBoxLayout;
-    left->addLayout(model);
-    left->addWidget(m_settings);
-    left->addStretch();
-    auto *top = new QHBoxLayout;
-    top->addLayout(left);
-    top->addWidget(m_chart, 1);
-    auto *layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addStrut(NarrowestWindow);
-    layout->addLayout(top);
-    connect(addButtons(*this, "cmdOk", "cmdCancel").accept, &QPushButton::clicked, this, &QDialog::accept);
-
-    for (const QComboBox *list : {m_model, m_type})
-        connect(list, &QComboBox::currentIndexChanged, this, &frmFilterDesign::RegenScreen);
-    for (const QLineEdit *field : {m_upper, m_lower, m_order, m_ripple})
-        connect(field, &QLineEdit::editingFinished, this, &frmFilterDesign::RegenScreen);
+    addSettings();
+    body().addStretch();
+    body().addStrut(NarrowestBody);
+    addBeside(m_chart);
+    finish(forms::okAndCancel());
+    react(m_model, [this] { RegenScreen(); });
     RegenScreen();
-    m_model->setFocus();
 }
 
-QGroupBox *frmFilterDesign::newSettings(const FilterSettings &initial)
+void frmFilterDesign::addSettings()
 {
-    auto *box = new QGroupBox(QStringLiteral("Settings"));
-    box->setObjectName(QStringLiteral("fraSettings"));
-    m_rows = new QFormLayout(box);
-    m_type = newChoice("cmbType", FilterTypes, initial.type);
-    m_upper = newField("txtUpperFrequency", initial.upper);
-    m_lower = newField("txtLowerFrequency", initial.lower);
-    m_order = newField("txtOrder", initial.order);
-    m_ripple = newField("txtRipple", initial.ripple);
-    addField(*m_rows, QStringLiteral("Filter &type"), *m_type);
-    addField(*m_rows, QStringLiteral("&Upper frequency [Hz]"), *m_upper);
-    addField(*m_rows, QStringLiteral("&Lower frequency [Hz]"), *m_lower);
-    addField(*m_rows, QStringLiteral("Or&der"), *m_order);
-    addField(*m_rows, QStringLiteral("&Ripple [dB]"), *m_ripple);
-    return box;
+    using F = FilterSettings;
+    m_settings = &addGroup("Settings");
+    m_settings->setObjectName(QStringLiteral("fraSettings"));
+    forms::ListField &type = choice(&F::type, {"cmbType", "Filter &type"}, forms::choicesOf(FilterTypes));
+    m_upper = &frequency(&F::upper, {"txtUpperFrequency", "&Upper frequency [Hz]"});
+    m_lower = &frequency(&F::lower, {"txtLowerFrequency", "&Lower frequency [Hz]"});
+    forms::NumberField &order = number(&F::order, {"txtOrder", "Or&der"});
+    m_ripple = &number(&F::ripple, {"txtRipple", "&Ripple [dB]"});
+    react(type, [this] { RegenScreen(); });
+    for (const forms::NumberField *field : {m_upper, m_lower, &order, m_ripple})
+        connect(&field->box(), &QLineEdit::editingFinished, this, &frmFilterDesign::RegenScreen);
 }
 
-QLineEdit *frmFilterDesign::newField(const char *name, double value)
+forms::NumberField &frmFilterDesign::frequency(double FilterSettings::*member, const forms::RowText &row)
 {
-    return newNumberField(name, value == UnusedFrequency ? QString() : shown(value), m_decimalSeparator);
-}
-
-QString frmFilterDesign::shown(double value) const
-{
-    return common::shortestText(static_cast<float>(value), m_decimalSeparator);
-}
-
-std::optional<FilterSettings> frmFilterDesign::run()
-{
-    if (exec() != Accepted)
-        return std::nullopt;
-    return entered();
-}
-
-FilterForm frmFilterDesign::form() const
-{
-    FilterForm form;
-    form.model = m_model->currentIndex();
-    form.type = m_type->currentIndex();
-    form.lower = m_lower->text();
-    form.upper = m_upper->text();
-    form.ripple = m_ripple->text();
-    form.order = m_order->text();
-    return form;
+    forms::NumberField &field = number(member, row);
+    field.setFormat([mark = decimalMark()](double hertz) {
+        return hertz == UnusedFrequency ? QString() : common::shortestText(static_cast<float>(hertz), mark);
+    });
+    return field;
 }
 
 void frmFilterDesign::RegenScreen()
 {
-    const FilterSettings filter = entered();
+    const FilterSettings filter = filterWithinBounds(converted());
     ShowRelevantOptions(filter);
-    showNumbers(filter);
+    showValues(filter);
     if (filter.model == FilterModel::None)
         return;
     const FilterResponse response = AdvancedFiltering(filter);
@@ -141,20 +84,8 @@ void frmFilterDesign::ShowRelevantOptions(const FilterSettings &filter)
     m_settings->setVisible(filter.model != FilterModel::None);
     m_chart->setVisible(filter.model != FilterModel::None);
     m_ripple->setVisible(filter.model == FilterModel::Chebyshev);
-    m_rows->labelForField(m_ripple)->setVisible(filter.model == FilterModel::Chebyshev);
     m_upper->setEnabled(usesUpper(filter.type));
     m_lower->setEnabled(usesLower(filter.type));
-}
-
-// A frequency that the type does not use stays as it is: it may be wanted again.
-void frmFilterDesign::showNumbers(const FilterSettings &filter)
-{
-    if (usesUpper(filter.type))
-        m_upper->setText(shown(filter.upper));
-    if (usesLower(filter.type))
-        m_lower->setText(shown(filter.lower));
-    m_order->setText(shown(filter.order));
-    m_ripple->setText(shown(filter.ripple));
 }
 
 } // namespace variables

@@ -1,12 +1,11 @@
 #include "variables/editors/frm_variable_transformation.h"
 
-#include "platform/guards.h"
-#include "variables/editors/dialog_parts.h"
 #include "variables/editors/frm_curve_fit.h"
 #include "variables/editors/frm_enter_equation_manually.h"
 #include "variables/transformation_entries.h"
 
 #include <QHBoxLayout>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace variables {
@@ -30,104 +29,88 @@ QPushButton *newGenerator(const char *name, const QString &caption)
     return button;
 }
 
-QRadioButton *newOption(const char *name, const QString &caption)
-{
-    auto *option = new QRadioButton(caption);
-    option->setObjectName(QLatin1String(name));
-    return option;
-}
-
 } // namespace
 
 frmVariableTransformation::frmVariableTransformation(int index, Catalogue &catalogue, Coefficients &generated,
-                                                     platform::Prompts &prompts,
-                                                     const platform::NumberLocale &locale, QWidget *parent)
-    : QDialog(parent), m_index(index), m_catalogue(catalogue), m_generated(generated), m_prompts(prompts),
-      m_locale(locale), m_standard(newOption("Option1_0", QStringLiteral("&Standard units"))),
-      m_custom(newOption("Option1_1", QStringLiteral("Custom e&quation")))
+                                                     const forms::Context &context)
+    : DialogOf(transformationTitle(recordOf(catalogue, index)), transformationOf(recordOf(catalogue, index)),
+               context),
+      m_index(index), m_catalogue(catalogue), m_generated(generated),
+      m_standard(add<forms::CheckField>(new QRadioButton(QStringLiteral("&Standard units")), "Option1_0")),
+      m_units(bind(add<forms::ListField>("StandardTransCombo",
+                                         forms::numbered(unitChoices(record(), m_catalogue.units))),
+                   &TransformationForm::unit)),
+      m_custom(bind(add<forms::CheckField>(new QRadioButton(QStringLiteral("Custom e&quation")), "Option1_1"),
+                    &TransformationForm::custom)),
+      m_equation(bind(add<forms::TextArea>("UserFunctionTxt"), &TransformationForm::equation))
 {
-    setWindowTitle(transformationTitle(record()));
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(newUnitRow());
-    layout->addWidget(m_custom);
-    layout->addWidget(newEquationPart(), 1);
-    connect(addButtons(*this, "OkayCmd", "CancelCmd").accept, &QPushButton::clicked, this,
-            &frmVariableTransformation::apply);
-
-    const bool own = hasOwnEquation(record());
-    const bool custom = transformationOf(record()).custom;
-    (custom ? m_custom : m_standard)->setChecked(true);
-    m_standard->setEnabled(!own);
-    connect(m_custom, &QRadioButton::toggled, this, &frmVariableTransformation::showChoice);
-    showChoice();
-    (custom ? static_cast<QWidget *>(m_equation) : m_units)->setFocus();
+    makeResizable();
+    body().addLayout(newUnitRow());
+    body().addWidget(&m_custom.button());
+    body().addWidget(newEquationPart(), 1);
+    finish({{"OkayCmd", "&OK", forms::Press::Accept}, {"CancelCmd", "&Cancel", forms::Press::Cancel}});
+    const bool custom = kept().custom;
+    (custom ? m_custom : m_standard).button().setChecked(true);
+    m_standard.setEnabled(!hasOwnEquation(record()));
+    (custom ? m_equation.widget() : m_units.widget()).setFocus();
     resize(1080, 660);
 }
 
 QLayout *frmVariableTransformation::newUnitRow()
 {
-    m_units = new QComboBox;
-    m_units->setObjectName(QStringLiteral("StandardTransCombo"));
-    m_units->setAccessibleName(QStringLiteral("Standard units"));
-    m_units->addItems(unitChoices(record(), m_catalogue.units));
-    m_units->setCurrentIndex(transformationOf(record()).unit);
-    m_units->setMinimumWidth(280);
-    m_unitLabel = new QLabel;
-    m_unitLabel->setObjectName(QStringLiteral("DisplayUnitsLbl"));
-    m_unitLabel->setTextFormat(Qt::PlainText);
-    const auto showUnit = [this] {
-        m_unitLabel->setText(unitLabel(record(), m_units->currentIndex(), m_catalogue.units));
-    };
-    connect(m_units, &QComboBox::currentIndexChanged, this, showUnit);
-    showUnit();
+    m_units.box().setAccessibleName(QStringLiteral("Standard units"));
+    m_units.box().setMinimumWidth(280);
+    auto *unitLabel = new QLabel;
+    unitLabel->setObjectName(QStringLiteral("DisplayUnitsLbl"));
+    unitLabel->setTextFormat(Qt::PlainText);
+    follow([this, unitLabel] {
+        unitLabel->setText(variables::unitLabel(record(), m_units.row(), m_catalogue.units));
+        m_units.setEnabled(m_standard.isOn());
+    });
     auto *row = new QHBoxLayout;
-    row->addWidget(m_standard);
-    row->addWidget(m_units);
+    row->addWidget(&m_standard.button());
+    row->addWidget(&m_units.box());
     row->addSpacing(16);
     row->addWidget(new QLabel(QStringLiteral("Units as displayed:")));
-    row->addWidget(m_unitLabel);
+    row->addWidget(unitLabel);
     row->addStretch();
     return row;
 }
 
 QGroupBox *frmVariableTransformation::newEquationPart()
 {
-    m_equation = new QPlainTextEdit;
-    m_equation->setObjectName(QStringLiteral("UserFunctionTxt"));
-    m_equation->setAccessibleName(QStringLiteral("Equation"));
-    m_equation->setTabChangesFocus(true);
-    m_equation->setPlainText(record().CustomTransformation);
-    m_equation->moveCursor(QTextCursor::End);
-    m_equation->setFixedHeight(fontMetrics().lineSpacing() * 5);
-    m_shownEquation = m_equation->toPlainText();
-    m_userUnits = new QLineEdit(record().CustomUnits);
-    m_userUnits->setObjectName(QStringLiteral("UserUnits"));
-    m_userUnits->setAccessibleName(QStringLiteral("Units to display"));
-    m_userUnits->setFixedWidth(80);
+    m_equation.box().setAccessibleName(QStringLiteral("Equation"));
+    m_equation.box().setFixedHeight(fontMetrics().lineSpacing() * 5);
+    auto *part = new QGroupBox;
+    follow([this, part] { part->setEnabled(m_custom.isOn()); });
+    auto *layout = new QVBoxLayout(part);
+    layout->addWidget(&m_equation.box());
+    layout->addLayout(newGeneratorRow());
+    layout->addWidget(new QLabel(QStringLiteral("Valid entries for the custom formula:")));
+    layout->addLayout(newPickLists(), 1);
+    return part;
+}
+
+QLayout *frmVariableTransformation::newGeneratorRow()
+{
+    auto &units = bind(add<forms::TextField>("UserUnits"), &TransformationForm::units);
+    units.box().setFixedWidth(80);
     auto *unitsCaption = new QLabel(QStringLiteral("&Units to display:"));
-    unitsCaption->setBuddy(m_userUnits);
+    units.setCaption(unitsCaption);
     auto *fromTable = newGenerator("cmdGenerateA", QStringLiteral("&Generate an equation from a table"));
     auto *byHand = newGenerator("cmdEnterEquation", QStringLiteral("&Enter an equation manually"));
     for (QPushButton *button : {fromTable, byHand})
         button->setEnabled(hasOwnEquation(record()));
-    connect(fromTable, &QPushButton::clicked, this,
-            [this] { takeGenerated(frmCurveFit(m_locale, this).run()); });
+    connect(fromTable, &QPushButton::clicked, this, [this] { takeGenerated(frmCurveFit(within()).run()); });
     connect(byHand, &QPushButton::clicked, this,
-            [this] { takeGenerated(FrmEnterEquationManually(m_generated, m_locale, this).run()); });
-
+            [this] { takeGenerated(FrmEnterEquationManually(m_generated, within()).run()); });
     auto *row = new QHBoxLayout;
     row->addWidget(unitsCaption);
-    row->addWidget(m_userUnits);
+    row->addWidget(&units.box());
     row->addStretch();
     row->addWidget(fromTable);
     row->addWidget(byHand);
-    m_equationPart = new QGroupBox;
-    auto *layout = new QVBoxLayout(m_equationPart);
-    layout->addWidget(m_equation);
-    layout->addLayout(row);
-    layout->addWidget(new QLabel(QStringLiteral("Valid entries for the custom formula:")));
-    layout->addLayout(newPickLists(), 1);
-    return m_equationPart;
+    return row;
 }
 
 QLayout *frmVariableTransformation::newPickLists()
@@ -156,32 +139,11 @@ QLayout *frmVariableTransformation::newPickLists()
     return columns;
 }
 
-void frmVariableTransformation::showChoice()
-{
-    m_units->setEnabled(m_standard->isChecked());
-    m_equationPart->setEnabled(m_custom->isChecked());
-}
-
-// An equation that was left alone is given back as it stands in the record: the box only knows one kind of
-// line end.
-TransformationForm frmVariableTransformation::form()
-{
-    TransformationForm form;
-    form.custom = m_custom->isChecked();
-    form.unit = m_units->currentIndex();
-    const QString typed = m_equation->toPlainText();
-    form.equation = typed == m_shownEquation
-                        ? record().CustomTransformation
-                        : QString(typed).replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    form.units = m_userUnits->text();
-    return form;
-}
-
 // As if typed at the caret.
 void frmVariableTransformation::insert(const QString &text)
 {
-    m_equation->setFocus();
-    m_equation->insertPlainText(text);
+    m_equation.box().setFocus();
+    m_equation.box().insertPlainText(text);
 }
 
 void frmVariableTransformation::takeGenerated(const std::optional<Coefficients> &coefficients)
@@ -189,23 +151,22 @@ void frmVariableTransformation::takeGenerated(const std::optional<Coefficients> 
     if (!coefficients)
         return;
     m_generated = *coefficients;
-    m_equation->selectAll();
+    m_equation.box().selectAll();
     insert(polynomialText(m_generated, m_index));
 }
 
-void frmVariableTransformation::apply()
+std::optional<forms::Verdict> frmVariableTransformation::validate(const forms::Typed &) const
 {
-    platform::reportFailures(m_prompts, [this] {
-        const TransformationForm typed = form();
-        if (const auto complaint = validate(typed, m_index, m_locale)) {
-            m_prompts.message(platform::Icon::Critical, platform::ProductTitle, *complaint);
-            return;
-        }
-        const VariableRecord before = record();
-        storeTransformation(typed, record(), m_catalogue.units);
-        m_changed = record() != before;
-        accept();
-    });
+    if (const auto complaint = variables::validate(converted(), m_index, context().locale))
+        return forms::refusal(*complaint, platform::Icon::Critical);
+    return std::nullopt;
+}
+
+void frmVariableTransformation::set(TransformationForm &typed)
+{
+    const VariableRecord before = record();
+    storeTransformation(typed, record(), m_catalogue.units);
+    m_changed = record() != before;
 }
 
 bool frmVariableTransformation::run()

@@ -16,7 +16,7 @@ bool VariableEditors::editTransformation(int index, QWidget *parent)
 {
     if (!recordAt(index))
         return false;
-    return frmVariableTransformation(index, m_catalogue, m_generated, m_prompts, m_locale, parent).run();
+    return frmVariableTransformation(index, m_catalogue, m_generated, within(parent)).run();
 }
 
 bool VariableEditors::editFilter(int index, QWidget *parent)
@@ -24,7 +24,7 @@ bool VariableEditors::editFilter(int index, QWidget *parent)
     VariableRecord *record = recordAt(index);
     if (!record)
         return false;
-    const auto filter = frmFilterDesign(record->BaseName, filterOf(*record), m_locale, parent).run();
+    const auto filter = frmFilterDesign(record->BaseName, filterOf(*record), within(parent)).run();
     if (!filter)
         return false;
     const VariableRecord before = *record;
@@ -37,10 +37,10 @@ bool VariableEditors::editCalculus(int index, QWidget *parent)
     VariableRecord *record = recordAt(index);
     if (!record)
         return false;
-    const auto mode = FrmCalculusSetup(record->calculus, parent).run();
-    if (!mode || *mode == record->calculus)
+    const auto edited = FrmCalculusSetup(*record, within(parent)).run();
+    if (!edited || *edited == *record)
         return false;
-    record->calculus = *mode;
+    *record = *edited;
     return true;
 }
 

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/locale.h"
-#include "platform/prompts.h"
+#include "forms/dialog.h"
 #include "variables/units.h"
-
-class QWidget;
 
 namespace variables {
 
@@ -29,6 +26,7 @@ public:
 
 private:
     VariableRecord *recordAt(int index);
+    forms::Context within(QWidget *parent) const { return {m_prompts, m_locale, parent}; }
 
     Catalogue &m_catalogue;
     platform::Prompts &m_prompts;
