@@ -47,7 +47,7 @@ struct FontWindow : testing::Test
     platform::Folders folders;
     test::ScriptedPrompts prompts;
     FontStore store{folders};
-    frmFontGen window{store, {DefaultFace, 12, {}}, prompts, nullptr};
+    frmFontGen window{store, {DefaultFace, 12, {}}, {prompts, {}}};
 };
 
 TEST_F(FontWindow, makesTheChosenFontByKeyboardAlone)

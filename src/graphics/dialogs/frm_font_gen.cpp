@@ -6,12 +6,8 @@
 #include "platform/guards.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QGroupBox>
 #include <QIntValidator>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 namespace graphics {
 
@@ -21,77 +17,66 @@ constexpr int UsualSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 
 constexpr int LargestSize = 999;
 constexpr QSize PreviewSize(520, 170);
 
+// A list of usual sizes in which another one can be typed; empty for none.
+class SizeField final : public forms::Field
+{
+public:
+    explicit SizeField(const char *name) : Field(new QComboBox, name)
+    {
+        box().setEditable(true);
+        box().setCompleter(nullptr); // it would make a typed 7 a 72
+        box().setInsertPolicy(QComboBox::NoInsert);
+        box().setValidator(new QIntValidator(1, LargestSize, &box()));
+        for (const int size : UsualSizes)
+            box().addItem(QString::number(size));
+        QObject::connect(&box(), &QComboBox::currentTextChanged, &box(), [this] { changed(); });
+    }
+
+    QComboBox &box() const { return static_cast<QComboBox &>(widget()); }
+    QString text() const override { return box().currentText(); }
+    void setText(const QString &text) override { box().setCurrentText(text); }
+    void show(int size) { setText(size > 0 ? QString::number(size) : QString()); }
+    void store(int &size) const { size = text().toInt(); }
+};
+
 } // namespace
 
-frmFontGen::frmFontGen(FontStore &fonts, const FontRequest &first, platform::Prompts &prompts,
-                       QWidget *parent)
-    : QDialog(parent), m_fonts(fonts), m_prompts(prompts), m_face(new QComboBox), m_size(new QComboBox),
-      m_preview(new QLabel), m_status(new QLabel), m_bar(new QProgressBar)
+frmFontGen::frmFontGen(FontStore &fonts, const FontRequest &first, const forms::Context &context)
+    : DialogOf(QStringLiteral("Font Generator"), first, context), m_fonts(fonts), m_preview(new QLabel),
+      m_status(new QLabel), m_bar(new QProgressBar)
 {
     setObjectName(QStringLiteral("frmFontGen"));
-    setWindowTitle(QStringLiteral("Font Generator"));
-    m_status->setObjectName(QStringLiteral("lblstatus"));
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
-    m_status->setMinimumHeight(fontMetrics().height()); // its place is kept while it is empty
-    m_bar->setObjectName(QStringLiteral("pBar"));
-    m_bar->setRange(0, 100);
-    m_bar->setValue(0);
-    m_bar->setAccessibleName(QStringLiteral("Progress"));
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(buildChoice());
-    layout->addWidget(buildPreview(), 1);
-    layout->addWidget(m_status);
-    layout->addWidget(m_bar);
-    layout->addWidget(buildButtons());
-    setRequest(first);
-    connect(m_face, &QComboBox::currentTextChanged, this, &frmFontGen::refreshPreview);
-    connect(m_size, &QComboBox::currentTextChanged, this, &frmFontGen::refreshPreview);
-    for (const QCheckBox *style : {m_bold, m_italic, m_strikethrough, m_underline})
-        connect(style, &QCheckBox::toggled, this, &frmFontGen::refreshPreview);
-    refreshPreview();
+    makeResizable();
+    addChoice();
+    addPreview();
+    addProgress();
+    follow([this] { refreshPreview(); });
+    finish({{"cmdGenerate", "&Generate", forms::Press::Apply}, {"cmdClose", "&Close", forms::Press::Cancel}});
 }
 
-QWidget *frmFontGen::buildChoice()
+void frmFontGen::addChoice()
 {
-    auto *group = new QGroupBox(QStringLiteral("Font"));
-    auto *form = new QFormLayout(group);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_face->setObjectName(QStringLiteral("cmbFontName"));
-    m_face->setAccessibleName(QStringLiteral("Face"));
-    m_face->addItems(drawableFaces());
-    form->addRow(QStringLiteral("&Face"), m_face);
-    m_size->setObjectName(QStringLiteral("cmbFontSize"));
-    m_size->setAccessibleName(QStringLiteral("Size in points"));
-    m_size->setEditable(true);
-    m_size->setCompleter(nullptr); // it would make a typed 7 a 72
-    m_size->setInsertPolicy(QComboBox::NoInsert);
-    m_size->setValidator(new QIntValidator(1, LargestSize, m_size));
-    for (const int size : UsualSizes)
-        m_size->addItem(QString::number(size));
-    form->addRow(QStringLiteral("&Size (points)"), m_size);
+    addGroup("Font");
+    addRow(bind(add<forms::TextListField>("cmbFontName", drawableFaces()), &FontRequest::face), "&Face");
+    addRow(bind(add<SizeField>("cmbFontSize"), &FontRequest::size), "&Size (points)");
     auto *styles = new QHBoxLayout;
-    m_bold = addStyle(*styles, "chkBold", QStringLiteral("&Bold"));
-    m_italic = addStyle(*styles, "chkItalic", QStringLiteral("&Italic"));
-    m_strikethrough = addStyle(*styles, "chkStrikethrough", QStringLiteral("Stri&kethrough"));
-    m_underline = addStyle(*styles, "chkUnderline", QStringLiteral("&Underline"));
+    addStyle(*styles, &FontStyle::bold, "chkBold", "&Bold");
+    addStyle(*styles, &FontStyle::italic, "chkItalic", "&Italic");
+    addStyle(*styles, &FontStyle::strikethrough, "chkStrikethrough", "Stri&kethrough");
+    addStyle(*styles, &FontStyle::underline, "chkUnderline", "&Underline");
     styles->addStretch();
-    form->addRow(QStringLiteral("Style"), styles);
-    return group;
+    addRow("Style", styles);
 }
 
-QCheckBox *frmFontGen::addStyle(QLayout &row, const char *name, const QString &caption)
+void frmFontGen::addStyle(QLayout &row, bool FontStyle::*style, const char *name, const char *caption)
 {
-    auto *style = new QCheckBox(caption);
-    style->setObjectName(QLatin1String(name));
-    row.addWidget(style);
-    return style;
+    auto &field = add<forms::CheckField>(new QCheckBox(QString::fromUtf8(caption)), name);
+    bind(field, [style](FontRequest &request) -> bool & { return request.style.*style; });
+    row.addWidget(&field.widget());
 }
 
-QWidget *frmFontGen::buildPreview()
+void frmFontGen::addPreview()
 {
-    auto *group = new QGroupBox(QStringLiteral("Preview"));
-    auto *layout = new QVBoxLayout(group);
     m_preview->setObjectName(QStringLiteral("OutputText"));
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_preview->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -105,41 +90,22 @@ QWidget *frmFontGen::buildPreview()
     dim.setColor(QPalette::Window, QColor::fromRgb(PreviewGround));
     dim.setColor(QPalette::WindowText, Qt::white);
     area->setPalette(dim);
-    layout->addWidget(area);
-    return group;
+    body().setStretchFactor(&addGroup("Preview"), 1);
+    addWide(area);
 }
 
-QWidget *frmFontGen::buildButtons()
+void frmFontGen::addProgress()
 {
-    auto *buttons = new QDialogButtonBox;
-    auto *make = buttons->addButton(QStringLiteral("&Generate"), QDialogButtonBox::ActionRole);
-    make->setObjectName(QStringLiteral("cmdGenerate"));
-    make->setDefault(true);
-    auto *close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
-    close->setObjectName(QStringLiteral("cmdClose"));
-    connect(make, &QPushButton::clicked, this, &frmFontGen::generate);
-    connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    return buttons;
-}
-
-FontRequest frmFontGen::request() const
-{
-    return {
-        m_face->currentText(),
-        m_size->currentText().toInt(),
-        {m_bold->isChecked(), m_italic->isChecked(), m_strikethrough->isChecked(), m_underline->isChecked()}};
-}
-
-void frmFontGen::setRequest(const FontRequest &request)
-{
-    if (m_face->findText(request.face) < 0)
-        m_face->addItem(request.face);
-    m_face->setCurrentText(request.face);
-    m_size->setCurrentText(request.size > 0 ? QString::number(request.size) : QString());
-    m_bold->setChecked(request.style.bold);
-    m_italic->setChecked(request.style.italic);
-    m_strikethrough->setChecked(request.style.strikethrough);
-    m_underline->setChecked(request.style.underline);
+    m_status->setObjectName(QStringLiteral("lblstatus"));
+    m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
+    m_status->setMinimumHeight(fontMetrics().height()); // its place is kept while it is empty
+    m_bar->setObjectName(QStringLiteral("pBar"));
+    m_bar->setRange(0, 100);
+    m_bar->setValue(0);
+    m_bar->setAccessibleName(QStringLiteral("Progress"));
+    layout()->addWidget(m_status);
+    layout()->addWidget(m_bar);
 }
 
 void frmFontGen::begin(const QString &status)
@@ -154,36 +120,36 @@ void frmFontGen::setValue(int percent)
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void frmFontGen::generate()
+void frmFontGen::set(FontRequest &request)
 {
-    const FontRequest chosen = request();
     bool made = false;
-    platform::reportFailures(m_prompts, [&] {
+    platform::reportFailures(prompts(), [&] {
         const platform::Busy busy(this);
-        made = m_fonts.generate(chosen, *this, m_prompts);
+        made = m_fonts.generate(request, *this, prompts());
     });
-    if (made) {
+    if (made)
         m_status->setText(
-            QStringLiteral("Written: %1 and %2").arg(fontFileName(chosen), extendedFontFileName(chosen)));
-        return;
-    }
-    showReady();
+            QStringLiteral("Written: %1 and %2").arg(fontFileName(request), extendedFontFileName(request)));
+    else
+        showReady(request);
 }
 
-void frmFontGen::showReady()
+void frmFontGen::showReady(const FontRequest &chosen)
 {
-    const QString face = m_face->currentText();
     m_bar->setValue(0);
     m_status->setText(
-        isInstalled(face)
+        isInstalled(chosen.face)
             ? QString()
-            : QStringLiteral("%1 is not installed; %2 stands in for it.").arg(face, ShippedFace));
+            : QStringLiteral("%1 is not installed; %2 stands in for it.").arg(chosen.face, ShippedFace));
 }
 
 void frmFontGen::refreshPreview()
 {
-    showReady();
     const FontRequest chosen = request();
+    if (chosen == m_previewed)
+        return; // what the status says of it still holds
+    m_previewed = chosen;
+    showReady(chosen);
     if (!isComplete(chosen)) {
         showPreview({}, QStringLiteral("No size is chosen."));
         return;
