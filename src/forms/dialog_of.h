@@ -12,8 +12,8 @@
 namespace forms {
 
 // A dialog whose rows are bound to members of a struct of values. `member` is a pointer to a member, or a
-// function from the values to a reference to one. The constructor of a dialog adds its rows and then calls
-// finish(). What no row is bound to stays as it was given.
+// function from the values to a reference to one (or to FontParts). The constructor of a dialog adds its rows
+// and then calls finish(). What no row is bound to stays as it was given.
 template <typename Values>
 class DialogOf : public Dialog
 {
@@ -39,9 +39,12 @@ protected:
     template <typename F, typename Member>
     F &bind(F &field, Member member)
     {
-        m_bindings.push_back(
-            {&field, [&field, member](Values &values) { field.show(std::invoke(member, values)); },
-             [&field, member](Values &values) { field.store(std::invoke(member, values)); }});
+        m_bindings.push_back({&field,
+                              [&field, member](Values &values) { field.show(std::invoke(member, values)); },
+                              [&field, member](Values &values) {
+                                  auto &&target = std::invoke(member, values);
+                                  field.store(target);
+                              }});
         return field;
     }
 

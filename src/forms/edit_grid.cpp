@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <numeric>
 
 namespace forms {
 
@@ -33,7 +34,14 @@ EditGrid::EditGrid(int rows, const QStringList &headers)
     });
 }
 
-void EditGrid::setEditor(QWidget *editor, std::initializer_list<int> columns)
+void EditGrid::setEditor(QWidget *editor)
+{
+    QList<int> columns(columnCount());
+    std::iota(columns.begin(), columns.end(), 0);
+    setEditor(editor, columns);
+}
+
+void EditGrid::setEditor(QWidget *editor, const QList<int> &columns)
 {
     editor->setParent(viewport());
     editor->hide();

@@ -17,8 +17,9 @@ public:
     EditGrid(int rows, const QStringList &headers);
     ~EditGrid() override { hide(); } // takes the focus away while there is a grid to commit to
 
-    // The editor of these columns, a QLineEdit or a QComboBox; it belongs to the grid from now on.
-    void setEditor(QWidget *editor, std::initializer_list<int> columns);
+    // The editor of these columns, or of all, a QLineEdit or a QComboBox; it belongs to the grid from now on.
+    void setEditor(QWidget *editor, const QList<int> &columns);
+    void setEditor(QWidget *editor);
 
     // All rows as typed, with what stands in the editor.
     QList<QStringList> cells() const;

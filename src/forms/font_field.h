@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/rounding.h"
 #include "forms/field.h"
 
 #include <QFont>
@@ -9,6 +10,18 @@ namespace forms {
 
 // "Arial - Bold Italic - 12": face, style and size in points.
 QString fontCaption(const QFont &font);
+
+// A font that lies in six members of a struct of values; the size is points.
+template <typename Size, typename Flag>
+struct FontParts
+{
+    QString &face;
+    Size &size;
+    Flag &bold;
+    Flag &italic;
+    Flag &strikethrough;
+    Flag &underline;
+};
 
 // A button that opens the font dialog, and the chosen font's caption.
 class FontField final : public Field
@@ -23,13 +36,38 @@ public:
 
     const QFont &font() const { return m_font; }
     void show(const QFont &font);
-    // A font in which nothing was chosen keeps its every property.
-    void store(QFont &member) const { member = m_font; }
+    template <typename Size, typename Flag>
+    void show(const FontParts<Size, Flag> &parts)
+    {
+        QFont font(parts.face);
+        if (parts.size > 0)
+            font.setPointSize(parts.size);
+        font.setBold(parts.bold);
+        font.setItalic(parts.italic);
+        font.setStrikeOut(parts.strikethrough);
+        font.setUnderline(parts.underline);
+        show(font);
+        m_shown = font;
+    }
+    // Parts keep what they hold unless another font was chosen. Throws RunTimeError when a size does not fit.
+    template <typename Size, typename Flag>
+    void store(const FontParts<Size, Flag> &parts) const
+    {
+        if (m_font == m_shown)
+            return;
+        parts.size = common::toInteger<Size>(m_font.pointSize());
+        parts.face = m_font.family();
+        parts.bold = static_cast<Flag>(m_font.bold());
+        parts.italic = static_cast<Flag>(m_font.italic());
+        parts.strikethrough = static_cast<Flag>(m_font.strikeOut());
+        parts.underline = static_cast<Flag>(m_font.underline());
+    }
 
 private:
     QLabel *m_label;
     QWidget *m_cell;
     QFont m_font;
+    QFont m_shown;
 };
 
 } // namespace forms

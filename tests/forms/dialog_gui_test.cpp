@@ -25,7 +25,9 @@ struct Box
     common::Colour edge = common::Colour::fromFile({81, 90, 239});
     common::Colour ground{0xFFFF};
     QString note = "a\nb\r\nc"; // two kinds of line end
-    QFont font{"Liberation Sans", 12};
+    QString face = "No Such Face";
+    qint16 points = 0;
+    quint8 bold = 2, italic = 0, strikethrough = 0, underline = 0;
     QString picture;
 
     bool operator==(const Box &) const = default;
@@ -47,8 +49,7 @@ std::optional<Verdict> validateBox(const forms::Typed &typed)
 class BoxDialog final : public forms::DialogOf<Box>
 {
 public:
-    explicit BoxDialog(platform::Prompts &prompts, const Box &box = {})
-        : DialogOf("Box", box, {prompts, {",", ";"}}), taken(box)
+    explicit BoxDialog(platform::Prompts &prompts) : DialogOf("Box", {}, {prompts, {",", ";"}})
     {
         addGroup("General");
         number(&Box::size, {"txtSize", "&Size", "mm"});
@@ -63,7 +64,12 @@ public:
         addGroup("Texts");
         auto &note = bind(add<forms::TextArea>("txtNote"), &Box::note);
         addRow(note, "&Note");
-        addRow(bind(add<forms::FontField>("cmdFont", "lblFont", this->prompts()), &Box::font), "Font");
+        addRow(bind(add<forms::FontField>("cmdFont", "lblFont", this->prompts()),
+                    [](Box &box) {
+                        return forms::FontParts<qint16, quint8>{box.face,   box.points,        box.bold,
+                                                                box.italic, box.strikethrough, box.underline};
+                    }),
+               "Font");
         const auto preview = [](const QString &path) {
             QImage picture(4, 4, QImage::Format_RGB32);
             picture.fill(Qt::red);
@@ -134,7 +140,8 @@ TEST_F(Dialogs, takeWhatWasTypedAndChosenAndStayOpenForMore)
     EXPECT_EQ(box.size, 2.5F);
     EXPECT_EQ(QList<int>({box.alpha, box.kind, box.hue}), QList<int>({128, 2, -100}));
     EXPECT_EQ(box.note + box.picture, "x\r\ny/red.bmp");
-    EXPECT_EQ(box.font.pointSize(), 20);
+    EXPECT_EQ(QList<int>({box.points, box.bold, box.italic, box.underline}), QList<int>({20, 1, 1, 0}));
+    EXPECT_EQ(box.face, "Arial");
 
     dialog.type("txtSize", "9");
     dialog.press("cmdCancel");
@@ -207,6 +214,35 @@ TEST_F(Dialogs, shareNoMnemonic)
     const qsizetype all = keys.size();
     EXPECT_EQ(keys.removeDuplicates(), 0) << all;
     EXPECT_TRUE(keys.contains("Alt+O") && dialog.find<QPushButton>("cmdOk").text() == "&OK");
+}
+
+// Higher than a small screen, with a focus that goes down one column after the other.
+class TallDialog final : public forms::DialogOf<Box>
+{
+public:
+    explicit TallDialog(platform::Prompts &prompts) : DialogOf("Tall", Box(), {prompts, {}})
+    {
+        for (int group = 0; group < 4; ++group) {
+            addGroup("Group");
+            for (int row = 0; row < 12; ++row)
+                number(&Box::limit, {"txt", "&Number"});
+        }
+        finish(forms::okAndCancel());
+        QDialog::show();
+    }
+};
+
+TEST(Columns, keepATallDialogOnASmallScreen)
+{
+    test::ScriptedPrompts prompts;
+    TallDialog dialog(prompts);
+    EXPECT_TRUE(dialog.height() <= 760 && dialog.width() <= 1280) << dialog.height();
+    QWidget *field = dialog.findChild<QLineEdit *>();
+    for (QPoint last; field->objectName() == "txt"; field = field->nextInFocusChain()) {
+        const QPoint place = field->mapTo(&dialog, QPoint());
+        EXPECT_TRUE(place.y() > last.y() || place.x() > last.x());
+        last = place;
+    }
 }
 
 TEST(Columns, areFewAndAlmostEqual)

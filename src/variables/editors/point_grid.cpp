@@ -20,7 +20,7 @@ PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decima
     setSelectionMode(ContiguousSelection);
     m_edit->setObjectName(QStringLiteral("txtCell"));
     new forms::NumericKeys(m_edit, decimalSeparator);
-    setEditor(m_edit, {0, 1});
+    setEditor(m_edit);
 
     m_menu->setObjectName(QStringLiteral("mnuPop"));
     addEntry("mnuCut", QStringLiteral("Cu&t"), QKeySequence::Cut, &PointGrid::cut);
