@@ -1,8 +1,8 @@
 #include "surface/variable_edits.h"
 
+#include "common/number_parser.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
-#include "common/number_parser.h"
 
 #include <QRegularExpression>
 #include <QStringList>
