@@ -17,6 +17,15 @@ constexpr int CaptionWidth = 120;  // pixels, at least
 constexpr int HighestGroups = 690; // pixels; with frame and buttons 760, the room on a small screen
 constexpr const char *WidestUnit = "degrees ";
 
+// Rows may stand without a group.
+void beginRows(QFormLayout *&form, QVBoxLayout &body)
+{
+    if (form)
+        return;
+    form = new QFormLayout;
+    body.addLayout(form);
+}
+
 } // namespace
 
 Dialog::Dialog(const QString &title, const Context &context)
@@ -74,10 +83,7 @@ QGroupBox &Dialog::addGroup(const char *title)
 
 void Dialog::addRow(Field &field, const char *caption, const char *unit)
 {
-    if (!m_form) { // rows without a group
-        m_form = new QFormLayout;
-        m_body->addLayout(m_form);
-    }
+    beginRows(m_form, *m_body);
     auto *label = new QLabel(QString::fromUtf8(caption));
     label->setMinimumWidth(CaptionWidth);
     field.setCaption(label);
@@ -95,10 +101,15 @@ void Dialog::addRow(Field &field, const char *caption, const char *unit)
 
 void Dialog::addRow(const char *caption, QLayout *cells)
 {
+    beginRows(m_form, *m_body);
     m_form->addRow(QString::fromUtf8(caption), cells);
 }
 
-void Dialog::addWide(QWidget *widget) { m_form->addRow(widget); }
+void Dialog::addWide(QWidget *widget)
+{
+    beginRows(m_form, *m_body);
+    m_form->addRow(widget);
+}
 
 void Dialog::addButtons(const std::vector<Button> &buttons)
 {
