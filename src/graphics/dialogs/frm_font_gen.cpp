@@ -127,11 +127,12 @@ void frmFontGen::set(FontRequest &request)
         const platform::Busy busy(this);
         made = m_fonts.generate(request, *this, prompts());
     });
-    if (made)
-        m_status->setText(
-            QStringLiteral("Written: %1 and %2").arg(fontFileName(request), extendedFontFileName(request)));
-    else
+    if (!made) {
         showReady(request);
+        return;
+    }
+    m_status->setText(
+        QStringLiteral("Written: %1 and %2").arg(fontFileName(request), extendedFontFileName(request)));
 }
 
 void frmFontGen::showReady(const FontRequest &chosen)
