@@ -2,20 +2,6 @@
 
 namespace controls {
 
-namespace {
-
-// The pivot is shown as it reads.
-GaugeValues shownValues(const Gauge &gauge)
-{
-    GaugeValues values = gauge.get();
-    const QPoint shown = pivot(values, gauge.host().screen());
-    values.curCenterX = static_cast<qint16>(shown.x());
-    values.curCenterY = static_cast<qint16>(shown.y());
-    return values;
-}
-
-} // namespace
-
 std::optional<forms::Verdict> validateGauge(const forms::Typed &typed)
 {
     const double min = typed.number("txtMin");
@@ -28,7 +14,9 @@ std::optional<forms::Verdict> validateGauge(const forms::Typed &typed)
 }
 
 GaugeDialog::GaugeDialog(Gauge &gauge)
-    : PropertyDialog(gauge, QStringLiteral("Analogue Dial Properties"), shownValues(gauge)), m_gauge(gauge)
+    : PropertyDialog(gauge, QStringLiteral("Analogue Dial Properties"),
+                     withPivot(gauge.get(), gauge.host().screen())),
+      m_gauge(gauge)
 {
     using V = GaugeValues;
     addGroup("Variable");
