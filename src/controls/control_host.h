@@ -9,8 +9,8 @@
 #include "recorder/recorder_settings.h"
 #include "variables/catalogue.h"
 
-#include <QImage>
-#include <QPoint>
+#include <QPointF>
+#include <QRect>
 
 #include <memory>
 
@@ -18,14 +18,12 @@ namespace controls {
 
 class OverlayControl;
 
-// What a control asks of the canvas it stands on.
+// What a control asks of the canvas it stands on, and what it tells it.
 class ControlHost
 {
 public:
     virtual ~ControlHost() = default;
 
-    virtual bool IsPlayMode() const = 0;
-    virtual bool isCapturing() const = 0; // pictures of controls are being made
     virtual const platform::Screen &screen() const = 0;
     virtual const platform::NumberLocale &locale() const = 0;
     virtual platform::Prompts &prompts() = 0;
@@ -36,13 +34,14 @@ public:
     virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
                                                                int usualSize) = 0;
 
-    // What stands below the inner area of `control`: background, grid and the controls beneath it.
-    virtual QImage captureBelow(const OverlayControl &control) = 0;
-    virtual void showControlMenu(OverlayControl &control, const QPoint &globalPosition) = 0;
-    virtual void showGroupMenu(const QPoint &globalPosition) = 0;
-    virtual void ResetControlGridColour() = 0;
-    virtual void RefreshBackground() = 0;
+    // Moves the control's outer corner there, canvas pixels.
+    virtual void Reposition(OverlayControl &control, QPointF corner) = 0;
+    virtual void Delete(OverlayControl &control) = 0;
+    // The property dialog of the control's family, until it is closed.
+    virtual void showProperties(OverlayControl &control) = 0;
     virtual void UserControlChanged() = 0;
+    // What the control shows within `area`, canvas pixels, is not what it showed before.
+    virtual void redrawControl(const OverlayControl &control, const QRect &area) = 0;
 };
 
 } // namespace controls

@@ -18,15 +18,15 @@ public:
 
     // All controls of the layout, in the order in which they were created.
     virtual QList<OverlayControl *> controls() const = 0;
-    // A fresh control at the family's next free index, hidden; null for a family that cannot be made.
+    // A fresh control at the family's next free index, not shown yet; null for a family that cannot be made.
     virtual OverlayControl *loadControl(ControlType family) = 0;
-    // Shows a control that was loaded; refresh() gives the see-through ones their view of the canvas below.
+    // Shows a control that was loaded, above all others.
     virtual void showControl(OverlayControl &control) = 0;
     // The overlay as the recorder would draw it, without frames and grid.
     virtual QImage renderPreview() const = 0;
     // The full PAL or NTSC command.
     virtual void setVideoStandard(recorder::VideoStandard standard) = 0;
-    // Everything on the surface, after a load: captures, grid, variable tree.
+    // What stands beside the controls, after a load: variable tree, settings.
     virtual void refresh() = 0;
 };
 

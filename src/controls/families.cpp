@@ -1,29 +1,11 @@
 #include "controls/families.h"
 
-#include "controls/bar_graph/bar_graph.h"
-#include "controls/bar_graph/bar_graph_dialog.h"
-#include "controls/gauge/gauge.h"
-#include "controls/gauge/gauge_dialog.h"
-
 #include <algorithm>
 #include <array>
 
 namespace controls {
 
 namespace {
-
-template <typename Control>
-OverlayControl *make(const Family &family, ControlHost &host, QWidget *canvas)
-{
-    return new Control(family, host, canvas);
-}
-
-template <typename Control, typename Dialog>
-void showDialog(OverlayControl &control)
-{
-    Dialog dialog(static_cast<Control &>(control));
-    dialog.exec();
-}
 
 constexpr std::array<Family, 8> Families{{
     {ControlType::VideoSource, 'd', "QLVIDEOSOURCE", "Video Source", "Video Source", "mnuVideoSource",
@@ -35,9 +17,9 @@ constexpr std::array<Family, 8> Families{{
     {ControlType::DigitalDisplay, 'b', "QLDIGITALDISPLAY", "Digital Display", "Digital Display",
      "mnuDigitalDisplay", "bDIGITALDISPLAY", "digitaldisplay.bmp", "digitaldisplay"},
     {ControlType::BarGraph, 'f', "QLBARGRAPH", "Bar Graph", "Bar graph", "mnuBarGraph", "fBARGRAPH",
-     "BarGraph.bmp", "bargraph", make<BarGraph>, showDialog<BarGraph, BarGraphDialog>},
+     "BarGraph.bmp", "bargraph"},
     {ControlType::Gauge, 'a', "QLAGAUGE", "Analogue Dial", "Analogue Dial", "mnuAnalogDial", "aANALOGDIAL",
-     "agauge.bmp", "agauge", make<Gauge>, showDialog<Gauge, GaugeDialog>},
+     "agauge.bmp", "agauge"},
     {ControlType::TrackMap, 'i', "QLTRACKMAP", "Track Map", "Track Map", "mnuTrackMap", "iTRACKMAP",
      "TrackMap.bmp", "trackmap"},
     {ControlType::CustomDial, 'j', "QLCUSTOMDIAL", "Custom Dial", "Custom Dial", "mnuCustomDial",

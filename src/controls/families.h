@@ -6,18 +6,10 @@
 
 #include <span>
 
-class QWidget;
-
 namespace controls {
 
-class ControlHost;
-class OverlayControl;
-struct Family;
-
-using ControlFactory = OverlayControl *(*)(const Family &, ControlHost &, QWidget *canvas);
-using PropertyDialogRunner = void (*)(OverlayControl &);
-
-// One kind of overlay control. Rows without a factory are families that the tool cannot place.
+// One kind of overlay control: its names. What makes its controls stands in factories.h, what shows their
+// properties in family_dialogs.h.
 struct Family
 {
     ControlType type;
@@ -29,8 +21,6 @@ struct Family
     const char *rootKey;     // library root
     const char *iconFile;    // standard thumbnail
     const char *art;         // icon in the resources
-    ControlFactory create = nullptr;
-    PropertyDialogRunner showProperties = nullptr;
 };
 
 // All families in the order of the library and the Add Control menu.

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "controls/composition.h"
 #include "controls/control_host.h"
 #include "controls/families.h"
 #include "controls/geometry.h"
 #include "controls/property_table.h"
 
-#include <QWidget>
+#include <QColor>
+
+#include <memory>
 
 namespace controls {
 
@@ -16,22 +19,21 @@ inline constexpr quint32 FrameGrouped = 0xFF0000;  // blue
 
 QColor toQColor(quint32 packed);
 
-// What a variable's drag carries: its catalogue index as decimal text.
-inline const QString VariableMime = QStringLiteral("application/x-morvel-variable");
-
-// One graphic of the overlay as it stands on the canvas: a frame with hatch and grips round an inner area
-// that shows the graphic. It tracks mouse and keys and tells the surface through its signals what the user
-// wants; the surface applies the rules of the canvas and calls back.
+// One graphic of the overlay: its values, its place on the canvas, its rules and its painting. It is no
+// window; the canvas shows it, with an editing frame round it, and acts on it as the user's mouse and keys
+// want.
 //
-// Left, Top, Width and Height (box(), twips) are the truth; the widget's pixel rectangle follows them.
-class OverlayControl : public QWidget
+// Left, Top, Width and Height (box(), twips) are the truth about its place. Who remembers a control keeps a
+// weak_from_this().
+class OverlayControl : public std::enable_shared_from_this<OverlayControl>
 {
-    Q_OBJECT
-
 public:
     enum class Mode { Design, Play };
 
-    OverlayControl(const Family &family, ControlHost &host, QWidget *canvas);
+    OverlayControl(const Family &family, ControlHost &host) : m_family(family), m_host(host) {}
+    virtual ~OverlayControl() = default;
+    OverlayControl(const OverlayControl &) = delete;
+    OverlayControl &operator=(const OverlayControl &) = delete;
 
     const Family &family() const { return m_family; }
     int Index() const { return m_index; }
@@ -40,7 +42,7 @@ public:
 
     // Geometry
     const Box &box() const { return values().box; }
-    // Moves and sizes the widget; a change of size goes through the family's own resize rule.
+    // A change of size goes through the family's own resize rule.
     void setBox(const Box &box);
     void moveTo(float left, float top);
     // Brings the family's position property into line with Left and Top.
@@ -51,122 +53,76 @@ public:
     virtual Box resizedBox(const Box &wanted, Handle handle) const;
     // Forces the control into a canvas of this height (twips), when the standard becomes NTSC.
     virtual void fitCanvasHeight(float height);
-    // Whether the arguments of Reposition are twips instead of canvas pixels.
-    virtual bool repositionsInTwips() const { return false; }
+    // One arrow key: changes the position property by (dx, dy) canvas pixels and has the host reposition it.
+    virtual void nudge(int dx, int dy) = 0;
+    // The box on the canvas, the part of it within the frame, and all that the control covers, canvas pixels.
+    QRect outerRect() const { return pixelRect(box(), screen()); }
+    QRect innerRect() const;
+    QRect area() const { return outerRect().united(drawnArea()); }
+    // The grip boxes, for painting and for the pointer alike.
+    HandleTable handles() const { return handleTable(box().Width, box().Height, grips()); }
 
     // Properties by the names of their readers and writers. Unknown names and values that do not fit throw
-    // RunTimeError.
+    // RunTimeError. A writer stores, and nothing else: redraw() or AssignProperties() shows what it stored.
     PropertyValue read(std::string_view reader) const;
     void write(std::string_view writer, const PropertyValue &value);
     QStringList Serialise() const;
     void Deserialise(const QStringList &texts);
 
     // What the host drives
-    void setColour(quint32 colour, quint32 unused);
+    void setColour(quint32 colour, quint32 /*unused*/) { m_backColour = colour; }
     void setMode(Mode mode);
     Mode mode() const { return m_mode; }
     virtual void AssignProperties() = 0;
     void SetControlGridColour(quint32 colour);
     void SetControlGroup(quint8 flag);
+    quint32 gridColour() const { return m_gridColour; }
     bool IsSelectedToGroup() const { return m_isGrouped; }
     // The values of a control that was just placed; Left and Top stand already.
     virtual void applyInitialProperties() = 0;
     // The outer size of a control that was just created, twips.
     virtual QSizeF startSize() const = 0;
-    // Draws the graphic as the recorder would, in canvas pixels.
-    virtual void paintPreview(QPainter &painter) const = 0;
+    // Draws the graphic upon what the composition shows already, as the recorder would.
+    virtual void paint(Composition &onto) const = 0;
+    // All that paint() may draw on, canvas pixels.
+    virtual QRect drawnArea() const { return innerRect(); }
+    // Has the host paint the control again, also where it was painted last.
+    void redraw();
     // The term of the load estimate. Throws RunTimeError when it cannot be computed.
     virtual double complexity() const = 0;
     // Whether the recorder draws it behind everything else, over the whole frame: a layout holds one such.
     virtual bool isFullFrame() const { return false; }
-    // See-through families show the canvas below them.
-    virtual bool isSeeThrough() const { return false; }
-    void setBackImage(const QImage &capture);
-    // The inner area within the widget, pixels.
-    QRect innerRect() const;
     // Whether the family shows a variable, so that one can be dropped on it from the variable tree.
     bool takesVariable() const { return properties().reader("curVarID") != nullptr; }
     void bindVariable(qint32 variable);
 
-    void mnuCopy_Click();
-    void mnuCut_Click();
-    void mnuDelete_Click();
+    void mnuDelete_Click() { m_host.Delete(*this); }
     void mnuProperties_Click();
-
-    // A press that has left the dead zone once moves the control with every further movement.
-    bool hasLeftDeadZone() const { return m_leftDeadZone; }
-    void leaveDeadZone() { m_leftDeadZone = true; }
-
-signals:
-    // Positions are twips within the control unless said otherwise.
-    void Drag(float StartX, float StartY, float X, float Y);
-    void Relocate(float StartX, float StartY, float X, float Y);
-    void ResizeDrag(controls::Handle HandleIndex, float X, float Y);
-    void Resize(controls::Handle HandleIndex, float X, float Y);
-    void Copy(const QStringList &arr);
-    void Cut(const QStringList &arr);
-    void Delete();
-    void Reposition(float X, float Y); // canvas pixels, or twips: repositionsInTwips()
-    void DrawBack();
-    void BringToFront();
-    void ResetControlGroup();
 
 protected:
     virtual ControlValues &values() = 0;
     virtual const ControlValues &values() const = 0;
     virtual const PropertyTable &properties() const = 0;
-    // The inner area in design mode; the painter's origin is its corner, in pixels.
-    virtual void paintInner(QPainter &painter, const QSize &size) const = 0;
     virtual GripSet grips() const { return GripSet::All; }
     // After the box has changed its size by other means than the dialog.
     virtual void sizeChanged() {}
     // The end of Deserialise(): what follows from the properties that were just read.
     virtual void settle() {}
-    // One arrow key: changes the position property by (dx, dy) canvas pixels and raises Reposition.
-    virtual void nudge(int dx, int dy) = 0;
 
     const platform::Screen &screen() const { return m_host.screen(); }
-    const QImage &backImage() const { return m_backImage; }
     quint32 backColour() const { return m_backColour; }
 
-    void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void contextMenuEvent(QContextMenuEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
-    bool event(QEvent *event) override;
-
 private:
-    enum class Gesture { None, Dragging, Resizing };
-
-    void placeWidget();
-    QPointF twipsOf(const QMouseEvent &event) const;
-    void showMenu(const QPoint &globalPosition);
-    void select();
-    void toggleGroup();
-    void startDrag(); // unless a grip is held
     void setGridColour(quint32 colour);
-    bool isFrozen() const { return m_host.IsPlayMode(); }
 
     const Family &m_family;
     ControlHost &m_host;
     int m_index = 0;
     Mode m_mode = Mode::Design;
     bool m_isGrouped = false;
-    Gesture m_gesture = Gesture::None;
-    bool m_leftDeadZone = false;
-    QPointF m_dragStart;     // twips
-    bool m_hasMoved = false; // since the press
-    std::optional<Handle> m_handleIndex;
-    HandleTable m_handleTable{};
     quint32 m_backColour = 0;
     quint32 m_gridColour = FrameNormal;
-    QImage m_backImage;
+    QRect m_shownArea; // as the host was told last
 };
 
 // The typed half of a family: its values struct and its table.

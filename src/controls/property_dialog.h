@@ -4,6 +4,8 @@
 #include "forms/dialog_of.h"
 #include "variables/variable_choices.h"
 
+#include <QApplication>
+
 namespace controls {
 
 // The standard colour of everything that is drawn: red.
@@ -30,7 +32,7 @@ protected:
     using Base = forms::DialogOf<Values>;
 
     PropertyDialog(OverlayControl &control, const QString &title, const Values &values)
-        : Base(title, values, {control.host().prompts(), control.host().locale(), control.window()}),
+        : Base(title, values, {control.host().prompts(), control.host().locale(), QApplication::activeWindow()}),
           m_host(control.host())
     {
     }

@@ -47,7 +47,7 @@ struct CommandTable
     template <Qt::Key Key>
     static void sendKey(frmMain &w)
     {
-        w.sendKey(Key);
+        w.m_design->pressKey(Key);
     }
     static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
 

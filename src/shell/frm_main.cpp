@@ -1,6 +1,6 @@
 #include "shell/frm_main.h"
 
-#include "controls/overlay_control.h"
+#include "controls/factories.h"
 #include "platform/guards.h"
 #include "shell/version.h"
 #include "surface/panel_area.h"
@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -83,7 +82,7 @@ void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
         QAction *add = menu.addAction(resourceIcon(QStringLiteral("families/") + QLatin1String(family.art)),
                                       QLatin1String(family.menuCaption));
         add->setObjectName(prefix + QLatin1String(family.menuItem).mid(3));
-        add->setEnabled(family.create != nullptr);
+        add->setEnabled(controls::factoryOf(family.type) != nullptr);
         const controls::ControlType type = family.type;
         connect(add, &QAction::triggered, this, [this, type] {
             platform::reportFailures(m_prompts, [&] { m_design->addControlAtLastPosition(type); });
@@ -164,16 +163,6 @@ void frmMain::refreshFromState()
                                                                  : QStringLiteral("NTSC 720 x 480"));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());
-}
-
-// Acts on the current control as its keys do, wherever the focus is.
-void frmMain::sendKey(Qt::Key key)
-{
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, Qt::NoModifier);
-        if (controls::OverlayControl *target = m_design->currentControl())
-            QApplication::sendEvent(target, &event);
-    }
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

@@ -38,7 +38,6 @@ private:
     void makePopups();
     void fill(QWidget &menu, Place place);
     void fillAddMenu(QMenu &menu, const QString &prefix);
-    void sendKey(Qt::Key key);
 
     ProgramState &m_state;
     platform::Prompts &m_prompts;

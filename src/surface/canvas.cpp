@@ -1,11 +1,12 @@
 #include "surface/canvas.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QMouseEvent>
-#include <QPainter>
+#include "surface/canvas_accessible.h"
+
+#include <QPaintEvent>
 
 namespace surface {
+
+using controls::OverlayControl;
 
 namespace {
 
@@ -38,36 +39,99 @@ void paintDots(QPainter &painter, const QSize &size, const CanvasRules &rules)
 
 } // namespace
 
-Canvas::Canvas(QWidget *parent) : QWidget(parent)
+Canvas::Canvas()
 {
+    makeCanvasAccessible(); // before a name is told to anyone
     setObjectName(QStringLiteral("pic"));
     setAccessibleName(QStringLiteral("Design canvas"));
     setMouseTracking(true);
     setAcceptDrops(true);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void Canvas::display(const QPixmap &background, const CanvasRules &rules, bool dots)
+void Canvas::display(const QImage &background, const CanvasRules &rules, bool dots)
 {
-    m_screen = rules.screen;
+    m_rules = rules;
     const QSize size(recorder::CanvasWidth, recorder::canvasHeight(rules.standard));
     setFixedSize(size);
-    m_picture = QPixmap(size);
-    m_picture.fill(Qt::black);
-    QPainter(&m_picture).drawPixmap(0, 0, background);
-    m_backdrop = m_picture;
+    m_ground = groundOf(size, background);
+    QImage dotted = m_ground;
     if (dots) {
-        QPainter painter(&m_backdrop);
+        QPainter painter(&dotted);
         painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
         paintDots(painter, size, rules);
     }
+    m_picture.reset(dotted, FramePainter(rules.screen, palette().color(QPalette::Active, QPalette::Dark)));
     update();
 }
 
-QPointF Canvas::twips(QPointF pixels) const
+void Canvas::choose(OverlayControl &control, bool joinsGroup)
 {
-    return {pixels.x() * static_cast<double>(m_screen.tx), pixels.y() * static_cast<double>(m_screen.ty)};
+    if (!control.IsSelectedToGroup() && !joinsGroup) {
+        ResetControlGridColour();
+        control.SetControlGridColour(controls::FrameSelected);
+    }
+    if (m_controls.raise(control))
+        control.redraw();
+    m_current = control.weak_from_this();
+    tellFocus(*this, control);
+}
+
+void Canvas::chooseNone()
+{
+    ResetControlGridColour();
+    m_current.reset();
+}
+
+void Canvas::ResetControlGridColour()
+{
+    for (OverlayControl *control : m_controls.controls())
+        control->SetControlGridColour(controls::FrameNormal);
+}
+
+void Canvas::showControl(OverlayControl &control)
+{
+    m_controls.show(control);
+    control.redraw();
+}
+
+void Canvas::unload(OverlayControl &control)
+{
+    const QRect area = control.area();
+    if (m_gesture.control().get() == &control)
+        endGesture();
+    m_controls.unload(control);
+    m_current.reset();
+    m_picture.touch(area);
+    update(area);
+}
+
+void Canvas::clear()
+{
+    endGesture();
+    m_controls.clear();
+    m_current.reset();
+    m_picture.touch(rect());
+    update();
+}
+
+void Canvas::redrawControl(const OverlayControl &control, const QRect &area)
+{
+    if (lifted().get() != &control)
+        m_picture.touch(area);
+    update(area);
+}
+
+// A gesture's control stands above all others from its first movement on.
+std::shared_ptr<OverlayControl> Canvas::lifted() const
+{
+    return m_gesture.hasBegun() ? m_gesture.control() : nullptr;
+}
+
+void Canvas::showPosition(const OverlayControl &control)
+{
+    emit positionShown(positionText(QPointF(control.box().Left, control.box().Top), m_rules.screen));
 }
 
 void Canvas::setBand(const std::optional<QRect> &band)
@@ -83,71 +147,18 @@ void Canvas::setBand(const std::optional<QRect> &band)
 void Canvas::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.drawPixmap(event->rect(), m_backdrop, event->rect());
+    m_picture.paint(painter, event->rect(), m_controls.stack(), lifted().get());
+    paintBand(painter);
+}
+
+void Canvas::paintBand(QPainter &painter) const
+{
     if (!m_band)
         return;
     painter.setPen(QPen(Qt::white, 1));
     painter.drawRect(*m_band);
     painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
     painter.drawRect(*m_band);
-}
-
-void Canvas::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::RightButton) {
-        emit rightPressed(twips(event->position()), event->globalPosition().toPoint());
-        return;
-    }
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_bandStart = event->position().toPoint();
-    setBand(QRect(m_bandStart, QSize(0, 0)));
-    emit pressed(twips(event->position()));
-}
-
-void Canvas::mouseMoveEvent(QMouseEvent *event)
-{
-    if (m_band && !event->buttons().testFlag(Qt::LeftButton))
-        setBand(std::nullopt); // a menu took the release
-    if (m_band)
-        setBand(QRect(m_bandStart, event->position().toPoint()).normalized());
-    emit moved(twips(event->position()));
-}
-
-void Canvas::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton || !m_band)
-        return;
-    setBand(std::nullopt);
-    emit bandFinished(twips(m_bandStart), twips(event->position()));
-}
-
-// The menu key; the right button has been served at its press.
-void Canvas::contextMenuEvent(QContextMenuEvent *event)
-{
-    if (event->reason() == QContextMenuEvent::Keyboard)
-        emit rightPressed(twips(rect().center()), mapToGlobal(rect().center()));
-}
-
-void Canvas::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasFormat(LibraryMime))
-        event->acceptProposedAction();
-}
-
-void Canvas::dropEvent(QDropEvent *event)
-{
-    event->acceptProposedAction();
-    emit dropped(QString::fromUtf8(event->mimeData()->data(LibraryMime)), twips(event->position()));
-}
-
-// The controls ask here too, as their parent. A canvas that is being closed lets the focus go.
-bool Canvas::focusNextPrevChild(bool forward)
-{
-    if (!isVisible())
-        return QWidget::focusNextPrevChild(forward);
-    emit stepped(forward);
-    return true;
 }
 
 } // namespace surface

@@ -1,60 +1,111 @@
 #pragma once
 
-#include "surface/canvas_rules.h"
+#include "surface/canvas_picture.h"
+#include "surface/control_registry.h"
+#include "surface/gesture.h"
 
-#include <QPixmap>
 #include <QWidget>
-
-#include <optional>
 
 namespace surface {
 
 // What a drag from the library carries: the key of the entry.
 inline const QString LibraryMime = QStringLiteral("application/x-morvel-library");
+// What a variable's drag carries: its catalogue index as decimal text.
+inline const QString VariableMime = QStringLiteral("application/x-morvel-variable");
 
-// The canvas `pic`: background picture, grid dots, rubber band. It tells in twips what the mouse does on its
-// empty parts; the controls are its children.
+// The canvas `pic`: the one widget that shows background, grid, controls, frames and rubber band, and that
+// turns mouse and keys into what the contract of the controls says. It holds the current control, the one
+// that the keys act on. Points are canvas pixels or twips, as their names say.
 class Canvas final : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Canvas(QWidget *parent);
+    Canvas();
 
-    // Sizes the canvas to the rules' standard and draws the background at its top left, with dots if they are
-    // to be seen.
-    void display(const QPixmap &background, const CanvasRules &rules, bool dots);
-    // The background on a canvas of its standard, with and without dots.
-    const QPixmap &backdrop() const { return m_backdrop; }
-    const QPixmap &picture() const { return m_picture; }
+    // Sizes the canvas to the rules' standard and draws everything anew, with the dots of the grid if they
+    // are to be seen.
+    void display(const QImage &background, const CanvasRules &rules, bool dots);
+    // In play mode the canvas takes neither mouse nor keys.
+    void setPlayMode(bool playMode) { m_isPlayMode = playMode; }
+    bool isPlayMode() const { return m_isPlayMode; }
+    // The overlay in the order of the layout, without frames and grid.
+    QImage preview() const { return overlayPicture(m_ground, m_controls.controls()); }
+
+    // Null when it is gone or the choice was taken back.
+    controls::OverlayControl *current() const { return m_current.lock().get(); }
+    // Makes it the current control, raised and, unless it is in the group or joins it, marked alone.
+    void choose(controls::OverlayControl &control, bool joinsGroup = false);
+    // A choice that is not seen any more would be nudged and deleted unseen.
+    void chooseNone();
+    void ResetControlGridColour();
+    // Shows a control that was loaded, above all others.
+    void showControl(controls::OverlayControl &control);
+    // Afterwards no control is current.
+    void unload(controls::OverlayControl &control);
+    void clear();
+    // Something within `area` (pixels) of the control looks different.
+    void redrawControl(const controls::OverlayControl &control, const QRect &area);
+    // Acts on the current control as the key does.
+    void pressKey(Qt::Key key);
+    void showPosition(const controls::OverlayControl &control);
+
+    ControlRegistry &registry() { return m_controls; }
 
 signals:
-    void pressed(QPointF twips);
-    void rightPressed(QPointF twips, const QPoint &globalPosition);
-    void moved(QPointF twips);
-    void bandFinished(QPointF startTwips, QPointF endTwips);
+    void pressed(QPointF twips); // on an empty place, with the left or the right button
     void dropped(const QString &key, QPointF twips);
-    void stepped(bool forward); // Tab and Shift+Tab, here or on a control
+    void positionShown(const QString &text);
+    void controlMenuRequested(const QPoint &globalPosition); // of the current control
+    void groupMenuRequested(const QPoint &globalPosition);
+    void canvasMenuRequested(const QPoint &globalPosition);
+    void designChanged();
+    void stepped(bool forward); // Tab and Shift+Tab
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool focusNextPrevChild(bool forward) override;
+    bool event(QEvent *event) override;
 
 private:
     QPointF twips(QPointF pixels) const;
-    void setBand(const std::optional<QRect> &band);
+    controls::OverlayControl *controlAt(QPointF pixels) const;
+    std::optional<controls::Handle> handleAt(const controls::OverlayControl &control, QPointF twips) const;
 
-    platform::Screen m_screen;
-    QPixmap m_picture;
-    QPixmap m_backdrop;
-    QPoint m_bandStart;
+    void pressControl(controls::OverlayControl &control, const QMouseEvent &event);
+    void toggleGroup(controls::OverlayControl &control);
+    void select(controls::OverlayControl &control);
+    void pressEmpty(const QMouseEvent &event);
+    void showMenu(const controls::OverlayControl &control, const QPoint &globalPosition);
+    void showCanvasMenu(QPointF twips, const QPoint &globalPosition);
+    void hover(QPointF pixels);
+    void track(QPointF twips);
+    void MoveTo(controls::OverlayControl &control, const Box &box);
+    void ResizeTo(controls::OverlayControl &control, const Box &box);
+    void endGesture();
+    void selectBand(QPointF start, QPointF end);
+    void setBand(const std::optional<QRect> &band);
+    bool applyKey(int key);
+    bool takesDrop(const QDropEvent &event) const;
+    std::shared_ptr<controls::OverlayControl> lifted() const;
+    void paintBand(QPainter &painter) const;
+
+    ControlRegistry m_controls;
+    CanvasRules m_rules;
+    QImage m_ground; // background without dots
+    CanvasPicture m_picture;
+    std::weak_ptr<controls::OverlayControl> m_current;
+    Gesture m_gesture;
     std::optional<QRect> m_band; // pixels
+    bool m_isPlayMode = false;
 };
 
 } // namespace surface

@@ -1,53 +1,79 @@
 #include "surface/control_registry.h"
 
-#include <algorithm>
-
 namespace surface {
 
 using controls::ControlType;
 using controls::OverlayControl;
 
-OverlayControl *ControlRegistry::loadControl(ControlType type, int &index, controls::ControlHost &host,
-                                             QWidget *canvas)
+namespace {
+
+// Keeps controls alive until the events that act on them are done.
+struct Departure final : QObject
 {
-    const controls::Family *family = controls::familyOf(type);
-    if (!family || !family->create)
+    Departure(QObject *registry, std::vector<std::shared_ptr<OverlayControl>> leaving)
+        : QObject(registry), controls(std::move(leaving))
+    {
+        deleteLater();
+    }
+
+    std::vector<std::shared_ptr<OverlayControl>> controls;
+};
+
+} // namespace
+
+OverlayControl *ControlRegistry::loadControl(ControlType type, controls::ControlHost &host)
+{
+    const controls::ControlFactory create = controls::factoryOf(type);
+    if (!create)
         return nullptr;
-    while (isTaken(type, index))
+    int index = count(type);
+    while (m_indices[type].contains(index))
         ++index;
-    OverlayControl *control = family->create(*family, host, canvas);
+    const auto control = create(*controls::familyOf(type), host);
     control->setIndex(index);
-    m_controls.append(control);
-    return control;
+    add(control);
+    return control.get();
+}
+
+void ControlRegistry::add(const std::shared_ptr<OverlayControl> &control)
+{
+    m_owned.push_back(control);
+    m_controls.append(control.get());
+    m_indices[control->family().type].insert(control->Index());
 }
 
 int ControlRegistry::count(ControlType type) const
 {
-    return 1 + static_cast<int>(
-                   std::count_if(m_controls.begin(), m_controls.end(),
-                                 [type](const OverlayControl *c) { return c->family().type == type; }));
+    return 1 + static_cast<int>(m_indices.value(type).size());
 }
 
-bool ControlRegistry::isTaken(ControlType type, int index) const
+bool ControlRegistry::raise(OverlayControl &control)
 {
-    return index == 0 ||
-           std::any_of(m_controls.begin(), m_controls.end(), [type, index](const OverlayControl *c) {
-               return c->family().type == type && c->Index() == index;
-           });
+    if (m_stack.isEmpty() || m_stack.last() == &control || !m_stack.removeOne(&control))
+        return false;
+    m_stack.append(&control);
+    return true;
 }
 
-void ControlRegistry::unload(OverlayControl *control)
+void ControlRegistry::unload(OverlayControl &control)
 {
-    if (m_controls.removeOne(control)) {
-        control->hide();
-        control->deleteLater();
-    }
+    const qsizetype place = m_controls.indexOf(&control);
+    if (place < 0)
+        return;
+    m_controls.removeAt(place);
+    m_stack.removeOne(&control);
+    m_indices[control.family().type].remove(control.Index());
+    const auto owned = m_owned.begin() + place;
+    new Departure(&m_departures, {std::move(*owned)});
+    m_owned.erase(owned);
 }
 
 void ControlRegistry::clear()
 {
-    while (!m_controls.isEmpty())
-        unload(m_controls.last());
+    m_controls.clear();
+    m_stack.clear();
+    m_indices.clear();
+    new Departure(&m_departures, std::exchange(m_owned, {}));
 }
 
 } // namespace surface

@@ -1,35 +1,47 @@
 #pragma once
 
-#include "controls/families.h"
+#include "controls/factories.h"
 #include "controls/overlay_control.h"
 
+#include <QHash>
 #include <QList>
-#include <QPointer>
+#include <QObject>
+#include <QSet>
+
+#include <vector>
 
 namespace surface {
 
-// The controls of the layout in the order in which they were created, whatever their stacking. An instance is
-// identified by family and index; index 0 of each family is its template and never part of the layout.
+// The controls of the layout: in the order in which they were created, which is the order of the layout, and
+// those that are shown in their stack. An instance is identified by family and index; index 0 of each family
+// is its template and never part of the layout.
 class ControlRegistry
 {
 public:
-    QList<controls::OverlayControl *> controls() const { return m_controls; }
-    bool isEmpty() const { return m_controls.isEmpty(); }
+    const QList<controls::OverlayControl *> &controls() const { return m_controls; }
+    // From the bottom to the top.
+    const QList<controls::OverlayControl *> &stack() const { return m_stack; }
 
-    // Creates a control of the family at `index`, or at the next free one behind it, which is answered in
-    // `index`. Null for a family that cannot be made.
-    controls::OverlayControl *loadControl(controls::ControlType family, int &index,
-                                          controls::ControlHost &host, QWidget *canvas);
+    // Creates a control of the family at the next free index; it is not shown yet. Null for a family that
+    // cannot be made.
+    controls::OverlayControl *loadControl(controls::ControlType family, controls::ControlHost &host);
+    void add(const std::shared_ptr<controls::OverlayControl> &control);
     // How many elements the family has, its template counted.
     int count(controls::ControlType family) const;
-    // Takes the control off the layout at once and deletes it when its events are done.
-    void unload(controls::OverlayControl *control);
+    // Puts a control that was loaded on the top of the stack.
+    void show(controls::OverlayControl &control) { m_stack.append(&control); }
+    // False when it stands on the top already.
+    bool raise(controls::OverlayControl &control);
+    // Takes the control off the layout at once; it is deleted when its events are done.
+    void unload(controls::OverlayControl &control);
     void clear();
 
 private:
-    bool isTaken(controls::ControlType family, int index) const;
-
+    std::vector<std::shared_ptr<controls::OverlayControl>> m_owned; // like m_controls
     QList<controls::OverlayControl *> m_controls;
+    QList<controls::OverlayControl *> m_stack;
+    QHash<controls::ControlType, QSet<int>> m_indices; // that are taken
+    QObject m_departures;                              // owns the controls that wait for their deletion
 };
 
 } // namespace surface

@@ -5,11 +5,8 @@
 #include "graphics/font_store.h"
 #include "platform/progress.h"
 #include "surface/canvas_rules.h"
-#include "surface/control_registry.h"
 #include "surface/panel_layout.h"
 
-#include <QPixmap>
-#include <QPointer>
 #include <QWidget>
 
 class QScrollArea;
@@ -54,18 +51,21 @@ public:
     void addControlAtLastPosition(controls::ControlType family) { addControl(family, m_lastMousePosition); }
 
     // The control that was chosen last; null when it is gone or the choice was taken back.
-    controls::OverlayControl *currentControl() const { return m_current; }
+    controls::OverlayControl *currentControl() const;
+    // Acts on the current control as the key does.
+    void pressKey(Qt::Key key);
     // To the next or previous control in the order of the layout, round and round.
     void stepControl(bool forward);
     // The panels and the library's bar as a first start lays them out.
     void resetPanels();
 
+    bool IsPlayMode() const;
     const QString &caption() const { return m_caption; }
     void setCaption(const QString &name);
     PanelArea &panels() { return *m_panels; }
 
     // ControlSurface
-    QList<controls::OverlayControl *> controls() const override { return m_registry.controls(); }
+    QList<controls::OverlayControl *> controls() const override;
     controls::OverlayControl *loadControl(controls::ControlType family) override;
     void showControl(controls::OverlayControl &control) override;
     QImage renderPreview() const override;
@@ -73,8 +73,6 @@ public:
     void refresh() override;
 
     // ControlHost
-    bool IsPlayMode() const override { return m_IsPlayMode; }
-    bool isCapturing() const override { return m_capturing; }
     const platform::Screen &screen() const override { return m_context.screen; }
     const platform::NumberLocale &locale() const override { return m_context.locale; }
     platform::Prompts &prompts() override { return m_context.prompts; }
@@ -82,12 +80,11 @@ public:
     recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
     std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
                                                        int usualSize) override;
-    QImage captureBelow(const controls::OverlayControl &control) override;
-    void showControlMenu(controls::OverlayControl &control, const QPoint &globalPosition) override;
-    void showGroupMenu(const QPoint &globalPosition) override;
-    void ResetControlGridColour() override;
-    void RefreshBackground() override;
+    void Reposition(controls::OverlayControl &control, QPointF corner) override;
+    void Delete(controls::OverlayControl &control) override;
+    void showProperties(controls::OverlayControl &control) override;
     void UserControlChanged() override { emit designChanged(); }
+    void redrawControl(const controls::OverlayControl &control, const QRect &area) override;
 
 signals:
     void positionShown(const QString &text);
@@ -101,38 +98,22 @@ private:
     CanvasRules rules() const;
     QWidget *makeDesignPanel();
     void connectCanvas();
-    void connectControl(controls::OverlayControl *control);
-    void choose(controls::OverlayControl &control);
-    void chooseNone();
-    void releaseCurrent(); // before controls go
     void loadBackground(recorder::VideoStandard standard);
     void initGrid(const Grid &grid);
     void ShowGrid();
     void storeVisibility(PanelId id, bool visible);
     void setCurBackColour(quint32 backColour, quint32 labelColour);
 
-    void MoveTo(controls::OverlayControl &control, QPointF start, QPointF now);
-    void ResizeTo(controls::OverlayControl &control, controls::Handle handle, QPointF now);
-    void reposition(controls::OverlayControl &control, float x, float y);
-    void drawBack(controls::OverlayControl &control);
-    void showPosition(const controls::OverlayControl &control);
-    void selectBand(QPointF start, QPointF end);
-    QList<controls::OverlayControl *> bottomToTop() const;
-
     InterfaceContext m_context;
-    ControlRegistry m_registry;
-    QPointer<controls::OverlayControl> m_current;
     Canvas *m_canvas;
     QScrollArea *m_canvasView;
     LibraryPanel *m_library;
     VariableTree *m_variables;
     PanelArea *m_panels;
-    QPixmap m_picPAL, m_picNTSC;
+    QImage m_picPAL, m_picNTSC;
     Grid m_grid;
     quint32 m_backColour = 0;
     quint32 m_labelColour = 0;
-    bool m_IsPlayMode = false;
-    bool m_capturing = false;
     QPointF m_lastMousePosition; // twips
     QString m_caption;
 };

@@ -44,7 +44,7 @@ void frmInterface::load()
     m_panels->restore(file);
     m_library->restoreBar(file, screen().tx);
     setCurBackColour(DefaultBackColour, DefaultLabelColour);
-    m_IsPlayMode = false;
+    m_canvas->setPlayMode(false);
     initGrid(m_grid);
     m_library->loadControlTree();
     m_context.catalogue.staging = m_context.catalogue.live;
@@ -55,13 +55,13 @@ void frmInterface::load()
 // A picture that is missing leaves the previous one of its standard, at start the built-in one.
 void frmInterface::loadBackground(VideoStandard standard)
 {
-    QPixmap &picture = standard == VideoStandard::Pal ? m_picPAL : m_picNTSC;
+    QImage &picture = standard == VideoStandard::Pal ? m_picPAL : m_picNTSC;
     const Background background = backgroundOf(standard);
     const SettingsFile file(m_context.folders.ConfigFile());
     const QString path =
         platform::nameWithin(m_context.folders.GetAppDataFolder(), background.key.read(file));
     if (const auto loaded = graphics::loadPicture(path))
-        picture = QPixmap::fromImage(loaded.picture);
+        picture = loaded.picture;
     else if (picture.isNull())
         picture.load(QLatin1String(background.builtIn));
 }
@@ -75,7 +75,7 @@ void frmInterface::initGrid(const Grid &grid)
 void frmInterface::ShowGrid()
 {
     m_canvas->display(VideoType() == VideoStandard::Pal ? m_picPAL : m_picNTSC, rules(),
-                      m_grid.shown && !m_IsPlayMode);
+                      m_grid.shown && !IsPlayMode());
 }
 
 void frmInterface::setCurBackColour(quint32 backColour, quint32 labelColour)
@@ -90,14 +90,11 @@ void frmInterface::setVideoStandard(VideoStandard standard)
 {
     loadBackground(standard);
     m_context.settings.VideoType = standard;
-    ShowGrid();
-    const float height = rules().height();
-    for (OverlayControl *control : controls()) {
-        if (standard == VideoStandard::Ntsc)
-            control->fitCanvasHeight(height);
-        control->update();
+    if (standard == VideoStandard::Ntsc) {
+        for (OverlayControl *control : controls())
+            control->fitCanvasHeight(rules().height());
     }
-    RefreshBackground();
+    ShowGrid();
     emit layoutChanged();
 }
 
@@ -109,9 +106,7 @@ void frmInterface::resetPanels()
 
 void frmInterface::GenerateIcons(platform::Progress &progress)
 {
-    m_capturing = true;
     surface::GenerateIcons(*this, m_context.folders, progress);
-    m_capturing = false;
     m_library->loadControlList();
 }
 

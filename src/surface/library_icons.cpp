@@ -1,11 +1,8 @@
 #include "surface/library_icons.h"
 
-#include "controls/overlay_control.h"
+#include "controls/factories.h"
 #include "platform/guards.h"
-
-#include <QPainter>
-
-#include <memory>
+#include "surface/overlay_picture.h"
 
 namespace surface {
 
@@ -24,10 +21,10 @@ void showTwoThirds(controls::OverlayControl &control)
     });
 }
 
-QImage standardPicture(const controls::Family &family, controls::ControlHost &host)
+QImage standardPicture(const controls::Family &family, controls::ControlFactory create,
+                       controls::ControlHost &host)
 {
-    QWidget canvas;
-    const std::unique_ptr<controls::OverlayControl> control(family.create(family, host, &canvas));
+    const auto control = create(family, host);
     const float side = PictureSide * host.screen().tx;
     const QSizeF start = control->startSize();
     const auto width = static_cast<float>(start.width());
@@ -39,11 +36,9 @@ QImage standardPicture(const controls::Family &family, controls::ControlHost &ho
     control->updatePosition();
     showTwoThirds(*control);
 
-    QImage picture(PictureSide, PictureSide, QImage::Format_RGB32);
-    picture.fill(Plate);
-    QPainter painter(&picture);
-    control->paintPreview(painter);
-    return picture;
+    QImage plate(PictureSide, PictureSide, QImage::Format_RGB32);
+    plate.fill(Plate);
+    return overlayPicture(plate, {control.get()});
 }
 
 } // namespace
@@ -55,9 +50,10 @@ void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders
     const std::span<const controls::Family> families = controls::families();
     for (std::size_t i = 0; i < families.size(); ++i) {
         const controls::Family &family = families[i];
-        if (family.create) {
+        if (const controls::ControlFactory create = controls::factoryOf(family.type)) {
             platform::skipFailures([&] {
-                standardPicture(family, host).save(folders.cache + QLatin1String(family.iconFile), "BMP");
+                standardPicture(family, create, host)
+                    .save(folders.cache + QLatin1String(family.iconFile), "BMP");
             });
         }
         scope.advance(0, 100, static_cast<qsizetype>(i) + 1, static_cast<qsizetype>(families.size()));

@@ -1,6 +1,6 @@
 #include "surface/library_panel.h"
 
-#include "controls/families.h"
+#include "controls/factories.h"
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
@@ -25,7 +25,7 @@ using List = DragSource<QListWidget, QListWidgetItem>;
 QString draggedKey(const QString &key)
 {
     const controls::Family *family = controls::familyOfKey(key);
-    return family && family->create ? key : QString();
+    return family && controls::factoryOf(family->type) ? key : QString();
 }
 
 } // namespace

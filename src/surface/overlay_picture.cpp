@@ -1,51 +1,36 @@
 #include "surface/overlay_picture.h"
 
-#include <QPainter>
+#include "platform/guards.h"
 
 namespace surface {
 
+using controls::Composition;
 using controls::OverlayControl;
 
-namespace {
-
-void paintControl(QPainter &painter, const OverlayControl &control)
+QImage groundOf(QSize canvas, const QImage &background)
 {
-    painter.save();
-    control.paintPreview(painter);
-    painter.restore();
+    QImage ground(canvas, QImage::Format_RGB32);
+    ground.fill(Qt::black);
+    QPainter(&ground).drawImage(0, 0, background);
+    return ground;
 }
 
-} // namespace
-
-QImage overlayPicture(QSize canvas, const QPixmap &background, const QList<OverlayControl *> &bottomToTop)
+Composition composed(const QImage &ground, const QRect &area, const ControlList &order)
 {
-    QImage picture(canvas, QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    QPainter painter(&picture);
-    painter.drawPixmap(0, 0, background);
-    for (const OverlayControl *control : bottomToTop)
-        paintControl(painter, *control);
-    return picture;
-}
-
-QImage pictureBelow(const OverlayControl &control, const QPixmap &backdrop,
-                    const QList<OverlayControl *> &bottomToTop)
-{
-    const QRect inner = control.innerRect().translated(control.pos());
-    if (inner.isEmpty())
+    const QRect part = area & ground.rect();
+    if (part.isEmpty())
         return {};
-    QImage picture(inner.size(), QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    QPainter painter(&picture);
-    painter.translate(-inner.topLeft());
-    painter.drawPixmap(inner, backdrop, inner);
-    for (const OverlayControl *lower : bottomToTop) {
-        if (lower == &control)
-            break;
-        if (lower->geometry().intersects(inner))
-            paintControl(painter, *lower);
+    Composition composition{ground.copy(part), part.topLeft()};
+    for (const OverlayControl *control : order) {
+        if (control->drawnArea().intersects(part))
+            platform::skipFailures([&] { control->paint(composition); });
     }
-    return picture;
+    return composition;
+}
+
+QImage overlayPicture(const QImage &ground, const ControlList &order)
+{
+    return composed(ground, ground.rect(), order).picture;
 }
 
 } // namespace surface

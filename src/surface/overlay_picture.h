@@ -6,16 +6,17 @@
 
 namespace surface {
 
-// The overlay composed off-screen, on the backdrop and in stacking order; no widget is shown, hidden or
-// moved.
+using ControlList = QList<controls::OverlayControl *>;
 
-// The whole canvas as the recorder would draw it. A background of another size stands at the top left: what
-// it does not cover is black, what lies outside the canvas is cut off.
-QImage overlayPicture(QSize canvas, const QPixmap &background,
-                      const QList<controls::OverlayControl *> &bottomToTop);
+// A background on a canvas of this size: it stands at the top left, what it does not cover is black.
+QImage groundOf(QSize canvas, const QImage &background);
 
-// The part of the canvas that the inner area of `control` covers: backdrop and the controls below it.
-QImage pictureBelow(const controls::OverlayControl &control, const QPixmap &backdrop,
-                    const QList<controls::OverlayControl *> &bottomToTop);
+// The part `area` of the canvas with the controls drawn upon `ground`, from the first to the last, without
+// grid and frames. Canvas, Preview, thumbnail and library icons are all made here. A control that cannot be
+// drawn is left out.
+controls::Composition composed(const QImage &ground, const QRect &area, const ControlList &order);
+
+// The same for the whole canvas.
+QImage overlayPicture(const QImage &ground, const ControlList &order);
 
 } // namespace surface

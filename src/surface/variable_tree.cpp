@@ -1,7 +1,7 @@
 #include "surface/variable_tree.h"
 
-#include "controls/overlay_control.h"
 #include "platform/guards.h"
+#include "surface/canvas.h"
 #include "surface/drag_source.h"
 #include "surface/variable_edits.h"
 #include "surface/variable_labels.h"
@@ -86,7 +86,7 @@ QSet<QString> expandedKeys(const QTreeWidget &tree)
 
 VariableTree::VariableTree(const VariableTreeContext &context)
     : m_context(context), m_editors(context.catalogue, context.prompts, context.locale),
-      m_search(new QLineEdit), m_tree(new Tree(controls::VariableMime, &draggedVariable))
+      m_search(new QLineEdit), m_tree(new Tree(VariableMime, &draggedVariable))
 {
     m_tree->setObjectName(QStringLiteral("VarTree"));
     m_tree->setAccessibleName(QStringLiteral("Variables"));

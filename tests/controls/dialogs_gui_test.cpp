@@ -133,8 +133,8 @@ TEST_F(GaugeProperties, APivotOfZeroIsTheMiddleOfTheBoxOnEveryPath)
     EXPECT_EQ(control.box(), (Box{0, 0, 2550, 2550}));
     EXPECT_EQ(QPoint(control.get().curCenterX, control.get().curCenterY), QPoint(85, 85));
     pressed("cmdAdd", "CenterX=1");
-    QTest::keyClick(&control, Qt::Key_Left);
-    EXPECT_EQ(control.pos(), QPoint(-86, 0));
+    test::press(w, Qt::Key_Left);
+    EXPECT_EQ(test::placeOf(control), QPoint(-86, 0));
     EXPECT_EQ(control.get().curCenterX, -1);
 }
 
@@ -149,7 +149,7 @@ TEST_F(GaugeProperties, CancelAndAnUntouchedApplyLeaveThemAsTheyAre)
     EXPECT_EQ(control.Serialise(), before);
     pressed("cmdAdd", {});
     EXPECT_EQ(control.Serialise(), before);
-    EXPECT_EQ(control.pos(), QPoint(100, 200));
+    EXPECT_EQ(test::placeOf(control), QPoint(100, 200));
 }
 
 TEST_F(GaugeProperties, AColourVariableTakesThePlaceOfTheColour)

@@ -1,5 +1,4 @@
 #include "support/design_window.h"
-#include "surface/overlay_picture.h"
 
 namespace {
 
@@ -7,20 +6,20 @@ using controls::BarGraph;
 using controls::Gauge;
 using controls::OverlayControl;
 using test::DesignWindow;
+using test::placeOf;
 
 const QColor Red(Qt::red);
 const QColor Blue(Qt::blue);
 
-// A pixel of a control as it stands on the canvas, counted from the corner of its inner area.
-QColor seen(OverlayControl &control, QPoint point)
+// A pixel of a control, counted from the corner of its inner area, on the canvas and in the recorder's
+// picture: they show the same.
+QColor seen(DesignWindow &w, OverlayControl &control, QPoint point)
 {
-    return control.grab().toImage().pixelColor(point + QPoint(5, 5));
-}
-
-// The same place of the recorder's picture.
-QColor previewed(DesignWindow &w, const OverlayControl &control, QPoint point)
-{
-    return w.design().renderPreview().pixelColor(control.pos() + QPoint(5, 5) + point);
+    control.redraw(); // writers store, and nothing else
+    const QPoint at = placeOf(control) + QPoint(5, 5) + point;
+    const QColor shown = w.shown(at);
+    EXPECT_EQ(w.design().renderPreview().pixelColor(at), shown) << at.x() << ", " << at.y();
+    return shown;
 }
 
 // The needle is 65 pixels long and `on` lies 50 or 60 pixels from its pivot.
@@ -45,11 +44,8 @@ TEST(GaugePainting, TheNeedleStandsWhereTheScalePutsIt)
             w.run("mnuNTSC");
         Gauge &gauge = w.addGauge(300, 200);
         gauge.write("newDefaultVal", c.value);
-        const QColor ground = c.ntsc ? test::NtscGround : test::PalGround;
-        EXPECT_EQ(seen(gauge, pivot + c.on), Red);
-        EXPECT_EQ(previewed(w, gauge, pivot + c.on), Red);
-        EXPECT_EQ(seen(gauge, pivot + c.off), ground);
-        EXPECT_EQ(previewed(w, gauge, pivot + c.off), ground);
+        EXPECT_EQ(seen(w, gauge, pivot + c.on), Red);
+        EXPECT_EQ(seen(w, gauge, pivot + c.off), c.ntsc ? test::NtscGround : test::PalGround);
     }
 }
 
@@ -58,22 +54,41 @@ TEST(GaugePainting, TheCanvasAndTheControlsBelowAreSeenBesideAWideNeedle)
     DesignWindow w;
     BarGraph &bar = w.addBar(320, 210);
     bar.write("newDefaultVal", 100);
+    bar.redraw();
     Gauge &gauge = w.addGauge(300, 200);
     gauge.write("newDefaultVal", 80);
     gauge.write("newPointerWidth", 20);
     gauge.write("newColour", 0xFF0000);
-    EXPECT_EQ(seen(gauge, {65 + 8, 20}), Blue);
-    EXPECT_EQ(seen(gauge, {40, 20}), Red);
-    EXPECT_EQ(seen(gauge, {40, 100}), test::PalGround);
-    w.addBar(310, 300).write("newDefaultVal", 100); // above it
-    w.design().refresh();
-    EXPECT_EQ(seen(gauge, {40, 110}), test::PalGround);
+    EXPECT_EQ(seen(w, gauge, {65 + 8, 22}), Blue);
+    EXPECT_EQ(seen(w, gauge, {40, 20}), Red);
+    EXPECT_EQ(seen(w, gauge, {40, 100}), test::PalGround);
     gauge.write("newMaxAngle", gauge.get().curMinAngle); // an empty scale has no needle
-    EXPECT_EQ(seen(gauge, {65 + 8, 20}), Red);
-    test::drag(gauge, {70, 110}, {{0, 40}});
-    EXPECT_EQ(seen(gauge, {40, 20}), test::PalGround);
+    EXPECT_EQ(seen(w, gauge, {65 + 8, 22}), Red);
+    test::drag(w, placeOf(gauge) + QPoint(70, 110), {{0, 40}});
+    EXPECT_EQ(seen(w, gauge, {40, 22}), test::PalGround);
     w.run("mnuNTSC");
-    EXPECT_EQ(seen(gauge, {40, 100}), test::NtscGround);
+    EXPECT_EQ(seen(w, gauge, {40, 100}), test::NtscGround);
+}
+
+// A needle may be wider than its box, at rest and on its way.
+TEST(GaugePainting, NothingOfANeedleStaysBehind)
+{
+    DesignWindow w;
+    Gauge &gauge = w.addGauge(300, 200);
+    gauge.write("newPointerWidth", 200);
+    gauge.redraw();
+    const QPoint beside = placeOf(gauge) + QPoint(-5, 70);
+    EXPECT_EQ(w.shown(beside), Red);
+    gauge.write("newPointerWidth", 2);
+    gauge.redraw();
+    EXPECT_EQ(w.shown(beside), test::PalGround);
+    gauge.write("newPointerWidth", 200);
+    gauge.redraw();
+    QTest::mousePress(&w.canvas(), Qt::LeftButton, {}, placeOf(gauge) + QPoint(70, 110));
+    QTest::mouseMove(&w.canvas(), {650, 330});
+    EXPECT_EQ(w.shown(beside), test::PalGround);
+    EXPECT_EQ(w.shown(placeOf(gauge) + QPoint(-5, 70)), Red);
+    QTest::mouseRelease(&w.canvas(), Qt::LeftButton, {}, {650, 330});
 }
 
 // The bar is 120 by 20 pixels.
@@ -98,10 +113,8 @@ TEST(BarPainting, TheBarGrowsFromItsZeroEnd)
         bar.write("newMin", c.min);
         bar.write("newMax", c.max);
         bar.write("newDefaultVal", c.value);
-        EXPECT_EQ(seen(bar, c.filled), Red);
-        EXPECT_NE(seen(bar, c.rest), Red);
-        EXPECT_EQ(previewed(w, bar, c.filled), Red);
-        EXPECT_EQ(previewed(w, bar, c.rest), test::PalGround);
+        EXPECT_EQ(seen(w, bar, c.filled), Red);
+        EXPECT_EQ(seen(w, bar, c.rest), test::PalGround);
     }
 }
 
@@ -125,7 +138,7 @@ TEST(Canvas, ABackgroundOfAnotherSizeStandsAtTheTopLeftAndOneTooLargeIsRefused)
     }
 }
 
-TEST(Preview, ShowsOpacityAndStackingButNeitherFramesNorGrid)
+TEST(Preview, HasTheOrderOfTheLayoutAndTheCanvasItsStack)
 {
     DesignWindow w(150);
     BarGraph &lower = w.addBar(300, 200);
@@ -133,20 +146,23 @@ TEST(Preview, ShowsOpacityAndStackingButNeitherFramesNorGrid)
     lower.write("newDefaultVal", 100);
     upper.write("newDefaultVal", 100);
     upper.write("newColour", 0xFF0000);
-    EXPECT_EQ(previewed(w, lower, {30, 10}), Blue);
-    lower.setFocus();
-    EXPECT_EQ(previewed(w, lower, {30, 10}), Red);
-    EXPECT_EQ(previewed(w, lower, {-3, 10}), test::PalGround);
-    EXPECT_NE(w.canvas().grab().toImage().pixelColor(20, 30), test::PalGround); // a dot of the grid
+    EXPECT_EQ(seen(w, upper, {30, 10}), Blue);
+    w.canvas().choose(lower);
+    const QPoint corner = placeOf(lower);
+    const QPoint inside = corner + QPoint(35, 15);
+    EXPECT_EQ(w.shown(inside), Red);
+    EXPECT_EQ(w.design().renderPreview().pixelColor(inside), Blue);
+    EXPECT_EQ(w.design().renderPreview().pixelColor(corner + QPoint(2, 15)), test::PalGround); // no frame
+    EXPECT_NE(w.shown({20, 30}), test::PalGround); // a dot of the grid
     EXPECT_EQ(w.design().renderPreview().pixelColor(20, 30), test::PalGround);
 
-    lower.write("newAlfa", 128);
     upper.write("newAlfa", 0);
-    const QColor mixed = previewed(w, lower, {30, 10});
+    lower.write("newAlfa", 128);
+    const QColor mixed = seen(w, lower, {30, 12});
     EXPECT_NEAR(mixed.red(), 128, 1);
     EXPECT_NEAR(mixed.green(), 64, 1);
     DesignWindow fine(1); // a grid finer than the pixels
-    EXPECT_NE(fine.canvas().grab().toImage().pixelColor(20, 31), test::PalGround);
+    EXPECT_NE(fine.shown({20, 31}), test::PalGround);
 }
 
 } // namespace

@@ -217,7 +217,7 @@ TEST_F(Start, FindsDesignAndPanelsAsTheLastRunLeftThem)
     world.prompts.expectQuestion(LastQuestion, true);
     restart();
     ASSERT_EQ(design().controls().size(), 1);
-    EXPECT_EQ(design().controls()[0]->pos(), QPoint(300, 200));
+    EXPECT_EQ(test::placeOf(*design().controls()[0]), QPoint(300, 200));
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel(PanelId::Functions).geometry() == place; }));
 }
 

@@ -41,7 +41,9 @@ struct DesignWindow
     }
 
     surface::frmInterface &design() { return window.design(); }
-    QWidget &canvas() { return *window.findChild<surface::Canvas *>(); }
+    surface::Canvas &canvas() { return *window.findChild<surface::Canvas *>(); }
+    // What the canvas shows at one of its pixels.
+    QColor shown(QPoint at) { return canvas().grab().toImage().pixelColor(at); }
     QString text(const char *label) { return window.findChild<QLabel *>(QLatin1String(label))->text(); }
     QAction &action(const char *name)
     {
@@ -96,6 +98,9 @@ inline void writeLayout(const QString &path, int bars)
     EXPECT_TRUE(QFile::copy(w.world.state.folders.workspaceFile(), path));
 }
 
+// The corner of a control, canvas pixels.
+inline QPoint placeOf(const controls::OverlayControl &control) { return control.outerRect().topLeft(); }
+
 // Presses `from` (pixels within the widget), goes through the points of `way` (pixels from the press) and
 // releases at the last one.
 inline void drag(QWidget &widget, QPoint from, const QList<QPoint> &way)
@@ -107,21 +112,38 @@ inline void drag(QWidget &widget, QPoint from, const QList<QPoint> &way)
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, widget.mapFromGlobal(press + way.last()));
 }
 
-inline void click(QWidget &widget, QPoint at, Qt::KeyboardModifiers modifiers = {})
+inline void drag(DesignWindow &w, QPoint from, const QList<QPoint> &way) { drag(w.canvas(), from, way); }
+
+inline void click(QWidget &widget, QPoint at, Qt::KeyboardModifiers modifiers = {},
+                  Qt::MouseButton button = Qt::LeftButton)
 {
-    QTest::mouseClick(&widget, Qt::LeftButton, modifiers, at);
+    QTest::mouseClick(&widget, button, modifiers, at);
 }
 
-// Drags data over the widget and lets it go there when the widget takes it.
-inline void drop(QWidget &target, QPoint at, const QString &format, const QByteArray &data)
+inline void click(DesignWindow &w, QPoint at, Qt::KeyboardModifiers modifiers = {},
+                  Qt::MouseButton button = Qt::LeftButton)
+{
+    click(w.canvas(), at, modifiers, button);
+}
+
+inline void press(DesignWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(&w.canvas(), key, modifiers);
+}
+
+// Drags data over the canvas and lets it go there when the canvas takes it.
+inline bool drop(surface::Canvas &canvas, QPoint at, const QString &format, const QByteArray &data)
 {
     QMimeData carried;
     carried.setData(format, data);
     QDragEnterEvent enter(at, Qt::CopyAction, &carried, Qt::LeftButton, {});
-    QApplication::sendEvent(&target, &enter);
+    QApplication::sendEvent(&canvas, &enter);
+    QDragMoveEvent over(at, Qt::CopyAction, &carried, Qt::LeftButton, {});
+    QApplication::sendEvent(&canvas, &over);
     QDropEvent letGo(at, Qt::CopyAction, &carried, Qt::LeftButton, {});
-    if (enter.isAccepted())
-        QApplication::sendEvent(&target, &letGo);
+    if (over.isAccepted())
+        QApplication::sendEvent(&canvas, &letGo);
+    return over.isAccepted();
 }
 
 // Runs the open popup menu's entry of this name.

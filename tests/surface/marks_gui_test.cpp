@@ -1,21 +1,19 @@
 #include "support/design_window.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 
 namespace {
 
 using controls::BarGraph;
 using controls::OverlayControl;
-using test::click;
 using test::DesignWindow;
+using test::placeOf;
 
 constexpr QPoint Inside(60, 15);
 const QColor White(Qt::white);
 const QColor Red(Qt::red);   // selected
 const QColor Blue(Qt::blue); // in the group
-
-// The background of a control's frame, between two bands of the hatch.
-QColor frame(QWidget &control) { return control.grab().toImage().pixelColor(14, 2); }
 
 struct Marks : testing::Test
 {
@@ -25,42 +23,50 @@ struct Marks : testing::Test
     BarGraph &three = w.addBar(300, 200);
 
     void focusLibrary() { w.window.findChild<QWidget *>("lvControl")->setFocus(); }
+    void click(const OverlayControl &control, Qt::KeyboardModifiers modifiers = {},
+               Qt::MouseButton button = Qt::LeftButton)
+    {
+        test::click(w, placeOf(control) + Inside, modifiers, button);
+    }
+    // The background of a control's frame, between two bands of the hatch.
+    QColor frame(const OverlayControl &control) { return w.shown(placeOf(control) + QPoint(14, 2)); }
     QList<QColor> frames() { return {frame(one), frame(two), frame(three)}; }
     QList<bool> grouped()
     {
         return {one.IsSelectedToGroup(), two.IsSelectedToGroup(), three.IsSelectedToGroup()};
     }
+    const OverlayControl *current() { return w.design().currentControl(); }
 };
 
 TEST_F(Marks, ClicksAndCtrlClicksColourTheFrames)
 {
-    click(two, Inside);
+    click(two);
     EXPECT_EQ(frames(), (QList<QColor>{White, Red, White}));
-    click(one, Inside);
+    click(one);
     EXPECT_EQ(frames(), (QList<QColor>{Red, White, White}));
-    click(two, Inside, Qt::ControlModifier);
-    click(three, Inside, Qt::ControlModifier);
+    click(two, Qt::ControlModifier);
+    click(three, Qt::ControlModifier);
     EXPECT_EQ(frames().mid(1), (QList<QColor>{Blue, Blue}));
     EXPECT_EQ(grouped(), (QList<bool>{false, true, true}));
     // A second click with Ctrl takes a control out again; its frame is plain, not selected.
-    click(three, Inside, Qt::ControlModifier);
+    click(three, Qt::ControlModifier);
     EXPECT_EQ(frames().mid(1), (QList<QColor>{Blue, White}));
     for (const auto reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
-        w.canvas().setFocus();
-        three.setFocus(reason); // given back, not chosen
+        focusLibrary();
+        w.canvas().setFocus(reason); // given back, nothing is chosen
         EXPECT_EQ(frames().mid(1), (QList<QColor>{Blue, White}));
     }
     // A press on a member, also on its grip, keeps the group.
-    click(three, Inside, Qt::ControlModifier);
-    click(two, Inside);
-    test::drag(two, {127, 15}, {{20, 0}});
+    click(three, Qt::ControlModifier);
+    click(two);
+    test::drag(w, placeOf(two) + QPoint(127, 15), {{20, 0}});
     EXPECT_EQ(grouped(), (QList<bool>{false, true, true}));
-    EXPECT_EQ(two.pos(), QPoint(100, 200));
+    EXPECT_EQ(placeOf(two), QPoint(100, 200));
     // A press on any other control or on the canvas clears it.
-    click(one, Inside);
+    click(one);
     EXPECT_EQ(frames(), (QList<QColor>{Red, White, White}));
-    click(two, Inside, Qt::ControlModifier);
-    click(w.canvas(), {20, 20});
+    click(two, Qt::ControlModifier);
+    test::click(w, {20, 20});
     EXPECT_EQ(frames(), (QList<QColor>{White, White, White}));
     EXPECT_EQ(grouped(), (QList<bool>{false, false, false}));
 }
@@ -73,15 +79,15 @@ TEST_F(Marks, ARubberBandTakesControlsByTheirCorner)
         QList<bool> marked;
     } cases[] = {
         {{90, 90}, {20, 120}, {true, true, false}},
-        {{110, 210}, {-20, -120}, {true, true, false}}, // the other way round
+        {{420, 240}, {-380, -150}, {true, true, true}}, // the other way round
         {{310, 90}, {-220, 120}, {true, true, true}},
         {{90, 240}, {20, -40}, {false, true, false}},  // the edge belongs to it
-        {{101, 90}, {300, 250}, {false, false, true}}, // most of the others, but not their corners
+        {{240, 90}, {200, 250}, {false, false, true}}, // not by a part of the others
         {{98, 80}, {6, 200}, {false, false, false}},   // no more than 100 twips wide
         {{98, 80}, {7, 200}, {true, true, false}},
     };
     for (const auto &c : cases) {
-        test::drag(w.canvas(), c.from, {c.way / 2, c.way});
+        test::drag(w, c.from, {c.way / 2, c.way});
         EXPECT_EQ(grouped(), c.marked) << "from " << c.from.x() << ", " << c.from.y();
         EXPECT_EQ(frame(two), c.marked[1] ? Blue : White);
     }
@@ -91,73 +97,93 @@ TEST_F(Marks, ARubberBandTakesControlsByTheirCorner)
 TEST_F(Marks, TheRightButtonOpensTheMenuOfTheControlOrTheGroup)
 {
     QSignalSpy groupMenu(&w.design(), &surface::frmInterface::groupMenuRequested);
-    QTest::mouseClick(&two, Qt::RightButton, {}, Inside);
+    click(two, {}, Qt::RightButton);
     test::choose("mnuDelete_C");
     EXPECT_EQ(w.design().controls(), (QList<OverlayControl *>{&one, &three}));
     EXPECT_EQ(groupMenu.size(), 0);
-    QTest::mouseClick(&three, Qt::RightButton, Qt::ControlModifier, Inside); // joins the group
-    QTest::mouseClick(&three, Qt::RightButton, {}, Inside);
-    QTest::mouseClick(&w.canvas(), Qt::RightButton, {}, {20, 20});
+    click(three, Qt::ControlModifier, Qt::RightButton); // joins the group
+    click(three, {}, Qt::RightButton);
+    test::click(w, {20, 20}, {}, Qt::RightButton);
     EXPECT_EQ(groupMenu.size(), 3);
-    QTest::mouseClick(&one, Qt::RightButton, Qt::ShiftModifier, Inside); // no menu, a press like any other
+    click(one, Qt::ShiftModifier, Qt::RightButton); // no menu, a press like any other
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(frame(one), Red);
 }
 
-TEST_F(Marks, TheFocusRaisesAControlAndShowsItSelected)
+TEST_F(Marks, AChosenControlStandsOnTheTopAndTakesThePointer)
 {
     BarGraph &upper = w.addBar(150, 110); // overlaps the first
-    const QPoint overlap(160, 115);
-    EXPECT_EQ(w.canvas().childAt(overlap), &upper);
-    click(one, {20, 10});
-    EXPECT_EQ(w.canvas().childAt(overlap), &one);
-    upper.setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(w.canvas().childAt(overlap), &upper);
-    EXPECT_EQ(frame(upper), Red);
-    EXPECT_EQ(frame(one), White);
+    const QPoint overlap(180, 120);
+    for (const auto &[chosen, place] :
+         {std::pair(&one, QPoint(110, 110)), std::pair(&upper, QPoint(250, 130))}) {
+        test::click(w, place);
+        test::click(w, overlap);
+        EXPECT_EQ(current(), chosen);
+        EXPECT_EQ(frame(*chosen), Red);
+        EXPECT_EQ(frame(chosen == &one ? upper : one), White);
+    }
 }
 
 TEST_F(Marks, TabAndTheToolbarStepThroughTheControlsInTheirOrder)
 {
-    two.raise();
-    one.setFocus();
-    QTest::keyClick(&one, Qt::Key_Tab);
-    EXPECT_TRUE(two.hasFocus());
+    click(two); // raised
+    click(one);
+    test::press(w, Qt::Key_Tab);
+    EXPECT_EQ(current(), &two);
     w.pressToolButton("cmdNext");
-    EXPECT_TRUE(three.hasFocus());
-    QTest::keyClick(&three, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(two.hasFocus());
+    EXPECT_EQ(current(), &three);
+    test::press(w, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(current(), &two);
     w.pressToolButton("cmdPrevious");
-    EXPECT_TRUE(one.hasFocus());
-    QTest::keyClick(&one, Qt::Key_Backtab, Qt::ShiftModifier); // round and round
-    EXPECT_TRUE(three.hasFocus());
+    test::press(w, Qt::Key_Backtab, Qt::ShiftModifier); // round and round
+    EXPECT_EQ(current(), &three);
     focusLibrary();
     w.pressToolButton("cmdNext");
-    EXPECT_TRUE(one.hasFocus());
-    click(w.canvas(), {20, 20});
-    QTest::keyClick(&w.canvas(), Qt::Key_Tab);
-    EXPECT_TRUE(one.hasFocus());
+    EXPECT_EQ(current(), &one);
+    EXPECT_TRUE(w.canvas().hasFocus());
+    test::click(w, {20, 20});
+    test::press(w, Qt::Key_Tab);
+    EXPECT_EQ(current(), &one);
+}
+
+TEST_F(Marks, AccessibilityToolsSeeEachControl)
+{
+    two.bindVariable(3);
+    click(three);
+    QAccessibleInterface *canvas = QAccessible::queryAccessibleInterface(&w.canvas());
+    ASSERT_EQ(canvas->childCount(), 3);
+    EXPECT_EQ(canvas->child(0)->text(QAccessible::Name), "Bar Graph");
+    EXPECT_EQ(canvas->child(1)->text(QAccessible::Name), "Bar Graph, Engine speed []");
+    EXPECT_EQ(canvas->child(1)->text(QAccessible::Description), "Pos (x, y) : 100, 200");
+    EXPECT_EQ(canvas->focusChild(), canvas->child(2));
+    EXPECT_EQ(canvas->child(2)->rect(), QRect(w.canvas().mapToGlobal(QPoint(300, 200)), QSize(130, 30)));
+    QAccessibleInterface *gone = canvas->child(0);
+    one.mnuDelete_Click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(gone->isValid());
+    EXPECT_EQ(canvas->childCount(), 2);
+    EXPECT_EQ(canvas->indexOfChild(canvas->child(1)), 1);
 }
 
 TEST_F(Marks, AHeldDeleteKeyDeletesOneControlAndChoosesNoOther)
 {
-    click(two, Inside);
+    click(two);
     for (const bool repeated : {false, true, true})
-        QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_Delete, {}, {}, repeated);
+        QTest::simulateEvent(&w.canvas(), true, Qt::Key_Delete, {}, {}, repeated);
     EXPECT_EQ(w.design().controls(), (QList<OverlayControl *>{&one, &three}));
-    EXPECT_EQ(w.design().currentControl(), nullptr);
+    EXPECT_EQ(current(), nullptr);
     EXPECT_EQ(frame(one), White);
     EXPECT_EQ(frame(three), White);
-    const QPoint place = three.pos();
+    const QPoint place = placeOf(three);
     for (const char *command : {"cmdLeft", "cmdEnter", "mnuDelete_C", "mnuProperties_C"})
         w.run(command);
-    EXPECT_EQ(three.pos(), place);
-    one.setFocus();
-    QTest::simulateEvent(&one, true, Qt::Key_Delete, {}, {}, true); // held since before it had the focus
+    EXPECT_EQ(placeOf(three), place);
+    click(one);
+    QTest::simulateEvent(&w.canvas(), true, Qt::Key_Delete, {}, {}, true); // held since before it was chosen
     EXPECT_EQ(w.design().controls().size(), 2);
     w.world.prompts.expectQuestion("Do you want to clear design area ?", true);
     w.run("mnuNew");
-    EXPECT_EQ(w.design().currentControl(), nullptr);
+    EXPECT_EQ(current(), nullptr);
     EXPECT_TRUE(w.canvas().hasFocus());
 }
 
@@ -171,18 +197,20 @@ TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)
         dialog->close();
     };
     QTimer::singleShot(0, &w.window, closeDialog);
-    QTest::keyClick(&one, Qt::Key_Return);
+    click(one);
+    test::press(w, Qt::Key_Return);
     EXPECT_EQ(title, "Bar Graph Properties");
     w.window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&w.window));
-    gauge.setFocus();
+    click(gauge);
     focusLibrary();
     QTimer::singleShot(0, &w.window, closeDialog);
     w.pressToolButton("cmdEnter");
     EXPECT_EQ(title, "Analogue Dial Properties");
     EXPECT_EQ(w.design().controls().size(), 4);
     QTimer::singleShot(0, &w.window, closeDialog);
-    QTest::keyClick(&one, Qt::Key_Space);
+    click(one);
+    test::press(w, Qt::Key_Space);
     EXPECT_EQ(title, "Bar Graph Properties");
 }
 

@@ -6,6 +6,7 @@ using controls::BarGraph;
 using controls::Gauge;
 using controls::OverlayControl;
 using test::DesignWindow;
+using test::placeOf;
 
 constexpr QPoint Middle(65, 15); // of a new bar graph
 
@@ -34,7 +35,7 @@ TEST(Moving, ADragFollowsThePointerByTheRulesOfTheCanvas)
         SCOPED_TRACE(c.name);
         DesignWindow w(c.gridSpacing);
         BarGraph &bar = w.addBar(100, 200);
-        test::drag(bar, Middle, c.way);
+        test::drag(w, placeOf(bar) + Middle, c.way);
         EXPECT_EQ(QPointF(bar.box().Left, bar.box().Top), c.corner);
         EXPECT_EQ(QPoint(bar.get().curLeft, bar.get().curTop), c.corner + QPoint(75, 75));
         EXPECT_EQ(w.text("lblPosition"), c.shown);
@@ -46,40 +47,50 @@ TEST(Moving, ADragLastsUntilTheButtonIsReleasedOrFoundReleased)
 {
     DesignWindow w;
     BarGraph &bar = w.addBar(100, 200);
-    QTest::mousePress(&bar, Qt::LeftButton, {}, Middle);
-    QTest::mouseMove(&bar, Middle + QPoint(30, 40));
-    EXPECT_EQ(bar.pos(), QPoint(130, 240));
-    QTest::mouseRelease(&bar, Qt::LeftButton, {}, Middle);
-    test::drag(bar, Middle, {{4, 4}}); // the next press begins with jitter again
-    EXPECT_EQ(bar.pos(), QPoint(130, 240));
+    surface::Canvas &canvas = w.canvas();
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, placeOf(bar) + Middle);
+    QTest::mouseMove(&canvas, placeOf(bar) + Middle + QPoint(30, 40));
+    EXPECT_EQ(placeOf(bar), QPoint(130, 240));
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, placeOf(bar) + Middle);
+    test::drag(w, placeOf(bar) + Middle, {{4, 4}}); // the next press begins with jitter again
+    EXPECT_EQ(placeOf(bar), QPoint(130, 240));
 
-    QTest::mousePress(&bar, Qt::LeftButton, {}, Middle);
-    const QPoint at = Middle + QPoint(20, 0);
-    QMouseEvent move(QEvent::MouseMove, at, bar.mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
-    QApplication::sendEvent(&bar, &move);
-    EXPECT_EQ(bar.pos(), QPoint(130, 240));
-    QTest::mouseRelease(&bar, Qt::LeftButton, {}, Middle);
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, placeOf(bar) + Middle);
+    const QPoint at = placeOf(bar) + Middle + QPoint(20, 0);
+    QMouseEvent move(QEvent::MouseMove, at, canvas.mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&canvas, &move);
+    EXPECT_EQ(placeOf(bar), QPoint(130, 240));
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, placeOf(bar) + Middle);
+
+    // Deleted in the middle of a drag, by its key.
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, placeOf(bar) + Middle);
+    QTest::mouseMove(&canvas, {300, 300});
+    test::press(w, Qt::Key_Delete);
+    QTest::mouseMove(&canvas, {350, 300});
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, {350, 300});
+    EXPECT_TRUE(w.design().controls().isEmpty());
+    EXPECT_EQ(w.shown({320, 310}), test::PalGround);
 }
 
 // Neither a nudge nor an Apply may make the control jump.
 void expectSteadyPlace(DesignWindow &w, OverlayControl &control)
 {
-    const QPoint place = control.pos();
-    control.setFocus();
-    if (auto *gauge = qobject_cast<Gauge *>(&control)) {
+    const QPoint place = placeOf(control);
+    w.canvas().choose(control);
+    if (auto *gauge = dynamic_cast<Gauge *>(&control)) {
         const int inset = 5 + gauge->get().curPointerLength;
         EXPECT_EQ(QPoint(gauge->get().curCenterX, gauge->get().curCenterY), place + QPoint(inset, inset));
     }
     control.AssignProperties();
-    EXPECT_EQ(control.pos(), place);
-    QTest::keyClick(&control, Qt::Key_Right);
-    QTest::keyClick(&control, Qt::Key_Down);
-    EXPECT_EQ(control.pos(), place + QPoint(1, 1));
+    EXPECT_EQ(placeOf(control), place);
+    test::press(w, Qt::Key_Right);
+    test::press(w, Qt::Key_Down);
+    EXPECT_EQ(placeOf(control), place + QPoint(1, 1));
     const QPointF corner(control.box().Left, control.box().Top);
     EXPECT_EQ(w.text("lblPosition"), surface::positionText(corner, {}));
     w.pressToolButton("cmdUp");
     w.pressToolButton("cmdLeft");
-    EXPECT_EQ(control.pos(), place);
+    EXPECT_EQ(placeOf(control), place);
 }
 
 // On the grid of 80 twips places are no whole pixels.
@@ -102,7 +113,8 @@ TEST(Moving, ThePositionPropertiesNameTheSamePlaceOnEveryPath)
         for (const auto &[name, from, way] : gestures) {
             SCOPED_TRACE(name);
             if (!from.isNull())
-                test::drag(*control, from.x() < 0 ? control->rect().bottomRight() + from : from, way);
+                test::drag(w, (from.x() < 0 ? control->outerRect().bottomRight() : placeOf(*control)) + from,
+                           way);
             expectSteadyPlace(w, *control);
         }
         for (const char *command : {"mnuNTSC", "mnuPAL"}) {
@@ -120,9 +132,9 @@ TEST(Moving, ANarrowerStandardPullsControlsInForGood)
     for (const auto &[command, height] : {std::pair("mnuNTSC", 480), std::pair("mnuPAL", 576)}) {
         w.run(command);
         EXPECT_EQ(w.canvas().height(), height);
-        EXPECT_EQ(controls[0]->pos(), QPoint(0, 340));
-        EXPECT_EQ(controls[1]->pos(), QPoint(300, 450));
-        EXPECT_EQ(controls[2]->pos(), QPoint(300, 450)); // ended exactly at the edge
+        EXPECT_EQ(placeOf(*controls[0]), QPoint(0, 340));
+        EXPECT_EQ(placeOf(*controls[1]), QPoint(300, 450));
+        EXPECT_EQ(placeOf(*controls[2]), QPoint(300, 450)); // ended exactly at the edge
     }
 }
 

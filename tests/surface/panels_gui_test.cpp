@@ -31,13 +31,14 @@ struct Panels : testing::Test
 
 TEST_F(Panels, F6StepsThroughThoseThatAreOpenAndBackToTheControl)
 {
-    QWidget &bar = w.addBar(100, 200);
+    const controls::OverlayControl &bar = w.addBar(100, 200);
     expectSteps({}, {PanelId::Functions, PanelId::Library, PanelId::Design});
-    EXPECT_TRUE(bar.hasFocus());
+    EXPECT_TRUE(w.canvas().hasFocus());
+    EXPECT_EQ(w.design().currentControl(), &bar);
     panels.setPanelVisible(PanelId::Functions, false);
     expectSteps(Qt::ShiftModifier, {PanelId::Library, PanelId::Design, PanelId::Library});
     w.pressToolButton("cmdRight"); // still the current control's
-    EXPECT_EQ(bar.pos(), QPoint(101, 200));
+    EXPECT_EQ(test::placeOf(bar), QPoint(101, 200));
     expectSteps({}, {PanelId::Design});
     panels.setPanelVisible(PanelId::Design, false); // does not keep the focus
     EXPECT_FALSE(panels.panel(PanelId::Design).isAncestorOf(QApplication::focusWidget()));

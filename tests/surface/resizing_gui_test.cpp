@@ -42,12 +42,12 @@ TEST(Resizing, AGripTakesTheBoxAsFarAsItsKindAllows)
         if (c.kind == UprightBar)
             control.write("newBarType", 1);
         if (c.way.isNull())
-            test::click(control, c.from);
+            test::click(w, QPoint(300, 100) + c.from);
         else
-            test::drag(control, c.from, {c.way / 2, c.way});
+            test::drag(w, QPoint(300, 100) + c.from, {c.way / 2, c.way});
         EXPECT_EQ(control.box(), c.box);
         EXPECT_EQ(test::whole(control, c.kind == Gauge ? "curPointerLength" : "curBarWidth"), c.size);
-        EXPECT_EQ(control.size(), QSizeF(c.box.Width / 15, c.box.Height / 15).toSize());
+        EXPECT_EQ(control.outerRect().size(), QSizeF(c.box.Width / 15, c.box.Height / 15).toSize());
     }
 }
 
@@ -63,8 +63,11 @@ TEST(Resizing, NothingGrowsPastWhatItsRecordHolds)
              {std::pair<OverlayControl *, float>(&w.addGauge(580 - 580 * corner.x(), 436 - 436 * corner.y()),
                                                  GaugeSide),
               {&w.addBar(590 - 590 * corner.x(), 546 - 546 * corner.y()), BarSide}}) {
-            const QPoint grip(corner.x() ? control->width() - 2 : 2, corner.y() ? control->height() - 2 : 2);
-            test::drag(*control, grip, {(2 * corner - QPoint(1, 1)) * 560});
+            w.canvas().choose(*control); // above the other one
+            const QRect place = control->outerRect();
+            const QPoint grip(corner.x() ? place.right() - 1 : place.left() + 2,
+                              corner.y() ? place.bottom() - 1 : place.top() + 2);
+            test::drag(w, grip, {(2 * corner - QPoint(1, 1)) * 560});
             const Box grown = control->box();
             EXPECT_EQ(QSizeF(grown.Width, grown.Height), QSizeF(side, side));
             EXPECT_EQ(corner.x() ? grown.Left : 10800 - grown.right(), 0); // the far corner stands

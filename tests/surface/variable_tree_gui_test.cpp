@@ -126,10 +126,11 @@ struct Plain final : controls::ControlOf<controls::ControlValues>
 {
     using ControlOf::ControlOf;
     void updatePosition() override {}
+    void nudge(int, int) override {}
     void AssignProperties() override {}
     void applyInitialProperties() override {}
     QSizeF startSize() const override { return {}; }
-    void paintPreview(QPainter &) const override {}
+    void paint(controls::Composition &) const override {}
     double complexity() const override { return 0; }
 
 protected:
@@ -138,27 +139,24 @@ protected:
         static constexpr controls::PropertyTable None;
         return None;
     }
-    void paintInner(QPainter &, const QSize &) const override {}
-    void nudge(int, int) override {}
 };
 
 TEST(VariableTree, AVariableDroppedOnAControlIsBoundToIt)
 {
     DesignWindow w;
-    for (controls::OverlayControl *control :
-         QList<controls::OverlayControl *>{&w.addGauge(10, 10), &w.addBar(300, 10)}) {
-        test::drop(*control, {20, 15}, controls::VariableMime, "3");
+    const QList<controls::OverlayControl *> takers{&w.addGauge(10, 10), &w.addBar(300, 10)};
+    const auto plain = std::make_shared<Plain>(controls::families().front(), w.design());
+    plain->setBox({7500, 7500, 450, 450});
+    w.canvas().registry().add(plain);
+    w.canvas().showControl(*plain);
+    const auto drops = [&](QPoint at) { return test::drop(w.canvas(), at, surface::VariableMime, "3"); };
+    for (const controls::OverlayControl *control : takers) {
+        EXPECT_TRUE(drops(test::placeOf(*control) + QPoint(20, 15)));
         EXPECT_EQ(test::whole(*control, "curVarID"), 3);
     }
-    Plain plain(controls::families().front(), w.design(), &w.canvas());
-    QMimeData variable;
-    variable.setData(controls::VariableMime, "3");
-    QDragEnterEvent over({5, 5}, Qt::CopyAction, &variable, Qt::LeftButton, {});
-    over.ignore();
-    QApplication::sendEvent(&plain, &over);
-    EXPECT_FALSE(over.isAccepted());
-    test::drop(w.canvas(), {600, 500}, controls::VariableMime, "3");
-    EXPECT_EQ(w.design().controls().size(), 2);
+    EXPECT_FALSE(drops({510, 510})); // on the one without a variable
+    EXPECT_FALSE(drops({600, 500})); // beside all of them
+    EXPECT_EQ(w.design().controls().size(), 3);
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 #include "controls/complexity.h"
 #include "platform/guards.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -45,6 +43,13 @@ constexpr std::array Rows{
     property<&V::curColourVarMin>("curColourVarMin", "newColourVarMin"),
     property<&V::curColourVarMax>("curColourVarMax", "newColourVarMax"),
 };
+
+// The outer corner, in canvas pixels, of a bar that stands at its Left and Top.
+QPointF cornerOf(const BarGraphValues &values, const platform::Screen &screen)
+{
+    return {static_cast<double>(values.curLeft - FrameTwips) / static_cast<double>(screen.tx),
+            static_cast<double>(values.curTop - FrameTwips) / static_cast<double>(screen.ty)};
+}
 
 // One axis of the rule that keeps a bar on the canvas: all in pixels, `frame` being the editing frame.
 float pulledInto(float position, float outerSize, float frame, float canvas)
@@ -112,7 +117,7 @@ void BarGraph::AssignProperties(qint16 length)
     const BarGraphValues standing = placed(m_values, length, host().VideoType(), screen());
     set(standing);
     setBox(standing.box);
-    emit Reposition(standing.box.Left, standing.box.Top);
+    host().Reposition(*this, cornerOf(m_values, screen()));
 }
 
 void BarGraph::updatePosition()
@@ -147,22 +152,16 @@ void BarGraph::nudge(int dx, int dy)
 {
     m_values.curLeft = toInteger<qint16>(m_values.curLeft + static_cast<float>(dx) * screen().tx);
     m_values.curTop = toInteger<qint16>(m_values.curTop + static_cast<float>(dy) * screen().ty);
-    emit Reposition(m_values.curLeft - FrameTwips, m_values.curTop - FrameTwips);
+    host().Reposition(*this, cornerOf(m_values, screen()));
 }
 
-void BarGraph::paintInner(QPainter &painter, const QSize &size) const
-{
-    const QRectF area(QPointF(), size);
-    painter.fillRect(area, toQColor(backColour()));
-    painter.fillRect(filledPart(m_values, area), toQColor(m_values.curColour.packed()));
-}
-
-void BarGraph::paintPreview(QPainter &painter) const
+void BarGraph::paint(Composition &onto) const
 {
     QColor colour = toQColor(m_values.curColour.packed());
     colour.setAlpha(m_values.curAlfa);
-    const QRectF area(m_values.curLeft / screen().tx, m_values.curTop / screen().ty, curWidth(), curHeight());
-    painter.fillRect(filledPart(m_values, area), colour);
+    const QRectF whole(m_values.curLeft / screen().tx, m_values.curTop / screen().ty, curWidth(),
+                       curHeight());
+    CompositionPainter(onto).fillRect(filledPart(m_values, whole), colour);
 }
 
 double BarGraph::complexity() const

@@ -39,8 +39,6 @@ QRectF filledPart(const BarGraphValues &values, const QRectF &area);
 
 class BarGraph final : public ControlOf<BarGraphValues>
 {
-    Q_OBJECT
-
 public:
     using ControlOf::ControlOf;
 
@@ -55,16 +53,14 @@ public:
     void updatePosition() override;
     void applyResize() override;
     Box resizedBox(const Box &wanted, Handle handle) const override;
-    bool repositionsInTwips() const override { return true; }
+    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1950, 450}; }
-    void paintPreview(QPainter &painter) const override;
+    void paint(Composition &onto) const override;
     double complexity() const override;
 
 protected:
     const PropertyTable &properties() const override { return barGraphProperties(); }
-    void paintInner(QPainter &painter, const QSize &size) const override;
-    void nudge(int dx, int dy) override;
 };
 
 } // namespace controls

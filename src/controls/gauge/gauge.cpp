@@ -3,8 +3,6 @@
 #include "controls/complexity.h"
 #include "platform/guards.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 namespace controls {
@@ -77,19 +75,6 @@ std::optional<double> fractionOfScale(const GaugeValues &values)
     return (static_cast<double>(values.curDefaultVal) - low) / (static_cast<double>(values.curMax) - low);
 }
 
-void paintNeedle(QPainter &painter, const GaugeValues &values, const std::optional<Needle> &needle)
-{
-    if (!needle || !std::isfinite(needle->tip.x()) || !std::isfinite(needle->tip.y()))
-        return;
-    QPen pen(toQColor(values.curColour.packed()));
-    pen.setCapStyle(Qt::RoundCap);
-    if (values.curPointerWidth != 0)
-        pen.setWidth(values.curPointerWidth);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(pen);
-    painter.drawLine(needle->tail, needle->tip);
-}
-
 } // namespace
 
 const PropertyTable &gaugeProperties()
@@ -125,36 +110,25 @@ GaugeValues placed(GaugeValues values, const platform::Screen &screen)
     return values;
 }
 
-std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot, VideoStandard standard)
+std::optional<Needle> needleOf(const GaugeValues &values, VideoStandard standard,
+                               const platform::Screen &screen)
 {
     const auto fraction = fractionOfScale(values);
     if (!fraction)
         return std::nullopt;
     const double degrees = *fraction * (values.curMaxAngle - values.curMinAngle) + values.curMinAngle - 90;
     const double r = degrees / DegreesPerRadian;
+    if (!std::isfinite(r))
+        return std::nullopt;
     const double squeeze = standard == VideoStandard::Pal ? 1.0 : NtscSqueeze;
-    return Needle{{pivot.x() - std::cos(r), pivot.y() - std::sin(r)},
-                  {pivot.x() + std::cos(r) * values.curPointerLength,
-                   pivot.y() + std::sin(r) * values.curPointerLength * squeeze}};
-}
-
-std::optional<Needle> previewNeedle(const GaugeValues &values, VideoStandard standard,
-                                    const platform::Screen &screen)
-{
-    const QPointF tail = pivot(values, screen);
-    auto needle = designNeedle(values, tail, standard);
-    if (needle)
-        needle->tail = tail;
-    return needle;
+    const QPointF from = pivot(values, screen);
+    return Needle{from, from + QPointF(std::cos(r) * values.curPointerLength,
+                                       std::sin(r) * values.curPointerLength * squeeze)};
 }
 
 void Gauge::settle() { m_values = withPivot(m_values, screen()); }
 
-void Gauge::raiseReposition()
-{
-    const QPointF corner = cornerOf(m_values, screen());
-    emit Reposition(static_cast<float>(corner.x()), static_cast<float>(corner.y()));
-}
+void Gauge::raiseReposition() { host().Reposition(*this, cornerOf(m_values, screen())); }
 
 void Gauge::AssignProperties()
 {
@@ -233,19 +207,30 @@ void Gauge::nudge(int dx, int dy)
     raiseReposition();
 }
 
-void Gauge::paintInner(QPainter &painter, const QSize &size) const
+void Gauge::paint(Composition &onto) const
 {
-    if (backImage().isNull())
-        painter.fillRect(QRect(QPoint(), size), toQColor(backColour()));
-    else
-        painter.drawImage(0, 0, backImage());
-    const QPointF pivot(m_values.curPointerLength, m_values.curPointerLength);
-    paintNeedle(painter, m_values, designNeedle(m_values, pivot, host().VideoType()));
+    const auto needle = needleOf(m_values, host().VideoType(), screen());
+    if (!needle)
+        return;
+    QPen pen(toQColor(m_values.curColour.packed()));
+    pen.setCapStyle(Qt::RoundCap);
+    if (m_values.curPointerWidth != 0)
+        pen.setWidth(m_values.curPointerWidth);
+    CompositionPainter painter(onto);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    painter.drawLine(needle->pivot, needle->tip);
 }
 
-void Gauge::paintPreview(QPainter &painter) const
+// A needle fills little of its box, and may be wider.
+QRect Gauge::drawnArea() const
 {
-    paintNeedle(painter, m_values, previewNeedle(m_values, host().VideoType(), screen()));
+    const auto needle = needleOf(m_values, host().VideoType(), screen());
+    if (!needle)
+        return {};
+    const int margin = m_values.curPointerWidth / 2 + 2;
+    const QRectF line = QRectF(needle->pivot, needle->tip).normalized();
+    return line.toAlignedRect().adjusted(-margin, -margin, margin, margin);
 }
 
 double Gauge::complexity() const

@@ -33,46 +33,39 @@ GaugeValues withPivot(GaugeValues values, const platform::Screen &screen);
 // The gauge as it stands on the canvas: its box sized by the length and centred on the pivot, which is set.
 GaugeValues placed(GaugeValues values, const platform::Screen &screen);
 
-// The needle of the gauge for its default value, about `pivot`, in pixels. Nothing when the scale or the
-// angles are empty.
+// The needle of the gauge for its default value, canvas pixels. Nothing when the scale or the angles are
+// empty.
 struct Needle
 {
-    QPointF tail;
+    QPointF pivot;
     QPointF tip;
 };
-std::optional<Needle> designNeedle(const GaugeValues &values, QPointF pivot,
-                                   recorder::VideoStandard standard);
-// The same needle as the recorder draws it: on the canvas, without the pixel behind the pivot.
-std::optional<Needle> previewNeedle(const GaugeValues &values, recorder::VideoStandard standard,
-                                    const platform::Screen &screen);
+std::optional<Needle> needleOf(const GaugeValues &values, recorder::VideoStandard standard,
+                               const platform::Screen &screen);
 
 class Gauge final : public ControlOf<GaugeValues>
 {
-    Q_OBJECT
-
 public:
     using ControlOf::ControlOf;
 
     void AssignProperties() override;
-    void AssignBack() { emit DrawBack(); }
 
     void updatePosition() override;
     void applyResize() override;
     Box resizedBox(const Box &wanted, Handle handle) const override;
     void fitCanvasHeight(float height) override;
+    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1950, 1950}; }
-    void paintPreview(QPainter &painter) const override;
+    void paint(Composition &onto) const override;
+    QRect drawnArea() const override;
     double complexity() const override;
-    bool isSeeThrough() const override { return true; }
 
 protected:
     const PropertyTable &properties() const override { return gaugeProperties(); }
-    void paintInner(QPainter &painter, const QSize &size) const override;
     GripSet grips() const override { return GripSet::Corners; }
     void sizeChanged() override;
     void settle() override;
-    void nudge(int dx, int dy) override;
 
 private:
     void raiseReposition();

@@ -42,10 +42,6 @@ void GaugeDialog::set(GaugeValues &values)
     m_gauge.set(values);
 }
 
-void GaugeDialog::applied()
-{
-    m_gauge.AssignProperties();
-    m_gauge.AssignBack();
-}
+void GaugeDialog::applied() { m_gauge.AssignProperties(); }
 
 } // namespace controls

@@ -1,0 +1,38 @@
+#include "controls/factories.h"
+
+#include "controls/bar_graph/bar_graph.h"
+#include "controls/gauge/gauge.h"
+
+namespace controls {
+
+namespace {
+
+template <typename Control>
+std::shared_ptr<OverlayControl> make(const Family &family, ControlHost &host)
+{
+    return std::make_shared<Control>(family, host);
+}
+
+struct FactoryRow
+{
+    ControlType type;
+    ControlFactory create;
+};
+
+constexpr FactoryRow Factories[] = {
+    {ControlType::BarGraph, make<BarGraph>},
+    {ControlType::Gauge, make<Gauge>},
+};
+
+} // namespace
+
+ControlFactory factoryOf(ControlType type)
+{
+    for (const FactoryRow &row : Factories) {
+        if (row.type == type)
+            return row.create;
+    }
+    return nullptr;
+}
+
+} // namespace controls

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "controls/families.h"
+
+#include <memory>
+
+namespace controls {
+
+class ControlHost;
+class OverlayControl;
+
+using ControlFactory = std::shared_ptr<OverlayControl> (*)(const Family &, ControlHost &);
+
+// What makes the controls of a family; null for a family that the tool cannot place.
+ControlFactory factoryOf(ControlType type);
+
+} // namespace controls

@@ -1,0 +1,38 @@
+#include "controls/family_dialogs.h"
+
+#include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/gauge/gauge_dialog.h"
+
+namespace controls {
+
+namespace {
+
+template <typename Control, typename Dialog>
+void show(OverlayControl &control)
+{
+    Dialog dialog(static_cast<Control &>(control));
+    dialog.exec();
+}
+
+struct DialogRow
+{
+    ControlType type;
+    void (*show)(OverlayControl &);
+};
+
+constexpr DialogRow Dialogs[] = {
+    {ControlType::BarGraph, show<BarGraph, BarGraphDialog>},
+    {ControlType::Gauge, show<Gauge, GaugeDialog>},
+};
+
+} // namespace
+
+void showPropertyDialog(OverlayControl &control)
+{
+    for (const DialogRow &row : Dialogs) {
+        if (row.type == control.family().type)
+            row.show(control);
+    }
+}
+
+} // namespace controls

@@ -1,0 +1,339 @@
+// Mouse, keys and drops of the canvas: the contract's order of events, in one place.
+
+#include "platform/guards.h"
+#include "surface/canvas.h"
+
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+
+#include <cmath>
+
+namespace surface {
+
+using controls::Handle;
+using controls::OverlayControl;
+using platform::skipFailures;
+
+namespace {
+
+Qt::CursorShape pointerOf(std::optional<Handle> handle)
+{
+    if (!handle)
+        return Qt::SizeAllCursor;
+    if (*handle == Handle::TopLeft || *handle == Handle::BottomRight)
+        return Qt::SizeFDiagCursor;
+    if (*handle == Handle::TopRight || *handle == Handle::BottomLeft)
+        return Qt::SizeBDiagCursor;
+    return movesLeft(*handle) || movesRight(*handle) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+} // namespace
+
+QPointF Canvas::twips(QPointF pixels) const
+{
+    return {pixels.x() * static_cast<double>(m_rules.screen.tx),
+            pixels.y() * static_cast<double>(m_rules.screen.ty)};
+}
+
+OverlayControl *Canvas::controlAt(QPointF pixels) const
+{
+    const QPoint pixel(static_cast<int>(std::floor(pixels.x())), static_cast<int>(std::floor(pixels.y())));
+    const ControlList &stack = m_controls.stack();
+    const auto top = std::find_if(stack.rbegin(), stack.rend(), [pixel](const OverlayControl *control) {
+        return control->outerRect().contains(pixel);
+    });
+    return top == stack.rend() ? nullptr : *top;
+}
+
+std::optional<Handle> Canvas::handleAt(const OverlayControl &control, QPointF at) const
+{
+    return controls::handleAt(control.handles(), at - QPointF(control.box().Left, control.box().Top));
+}
+
+void Canvas::mousePressEvent(QMouseEvent *event)
+{
+    endGesture();
+    if (m_isPlayMode)
+        return;
+    if (OverlayControl *control = controlAt(event->position()))
+        skipFailures([&] { pressControl(*control, *event); });
+    else
+        pressEmpty(*event);
+}
+
+void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
+{
+    const bool ctrl = event.modifiers() == Qt::ControlModifier;
+    choose(control, ctrl);
+    if (event.button() == Qt::RightButton && (ctrl || event.modifiers() == Qt::NoModifier)) {
+        if (ctrl)
+            control.SetControlGroup(1);
+        showMenu(control, event.globalPosition().toPoint());
+        return;
+    }
+    const QPointF at = twips(event.position());
+    const auto handle = handleAt(control, at);
+    const bool toggles = event.button() == Qt::LeftButton && ctrl;
+    toggles ? toggleGroup(control) : select(control);
+    if (handle)
+        m_gesture = Gesture::resizing(control, *handle, at);
+    else if (!toggles || control.IsSelectedToGroup())
+        m_gesture = Gesture::dragging(control, at);
+}
+
+void Canvas::toggleGroup(OverlayControl &control)
+{
+    control.SetControlGroup(control.IsSelectedToGroup() ? 0 : 1);
+}
+
+void Canvas::select(OverlayControl &control)
+{
+    if (control.IsSelectedToGroup())
+        return;
+    ResetControlGridColour();
+    control.SetControlGridColour(controls::FrameSelected);
+}
+
+void Canvas::pressEmpty(const QMouseEvent &event)
+{
+    const QPointF at = twips(event.position());
+    if (event.button() == Qt::RightButton)
+        showCanvasMenu(at, event.globalPosition().toPoint());
+    if (event.button() != Qt::LeftButton)
+        return;
+    chooseNone();
+    m_gesture = Gesture::band(at);
+    setBand(QRect(event.position().toPoint(), QSize(0, 0)));
+    emit pressed(at);
+}
+
+void Canvas::showMenu(const OverlayControl &control, const QPoint &globalPosition)
+{
+    if (control.IsSelectedToGroup())
+        emit groupMenuRequested(globalPosition);
+    else
+        emit controlMenuRequested(globalPosition);
+}
+
+void Canvas::showCanvasMenu(QPointF at, const QPoint &globalPosition)
+{
+    emit pressed(at);
+    const ControlList &all = m_controls.controls();
+    if (std::any_of(all.begin(), all.end(), [](const auto *c) { return c->IsSelectedToGroup(); }))
+        emit groupMenuRequested(globalPosition);
+    else
+        emit canvasMenuRequested(globalPosition);
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_gesture.kind() != Gesture::Kind::None && event->buttons() == Qt::NoButton)
+        endGesture(); // a menu or another window took the release
+    if (m_gesture.kind() == Gesture::Kind::None)
+        hover(event->position());
+    else
+        track(twips(event->position()));
+}
+
+void Canvas::hover(QPointF pixels)
+{
+    const OverlayControl *control = m_isPlayMode ? nullptr : controlAt(pixels);
+    if (control) {
+        setCursor(pointerOf(handleAt(*control, twips(pixels))));
+        return;
+    }
+    unsetCursor();
+    emit positionShown(positionText(twips(pixels), m_rules.screen));
+}
+
+// One step of the gesture, live.
+void Canvas::track(QPointF at)
+{
+    if (m_gesture.kind() == Gesture::Kind::Band) {
+        const auto pixel = [this](QPointF point) {
+            return QPointF(point.x() / static_cast<double>(m_rules.screen.tx),
+                           point.y() / static_cast<double>(m_rules.screen.ty))
+                .toPoint();
+        };
+        setBand(QRect(pixel(m_gesture.press()), pixel(at)).normalized());
+        emit positionShown(positionText(at, m_rules.screen));
+        return;
+    }
+    const bool hadBegun = m_gesture.hasBegun();
+    const auto box = m_gesture.boxAt(at, m_rules);
+    const auto control = m_gesture.control();
+    const bool drags = m_gesture.kind() == Gesture::Kind::Dragging;
+    if (drags)
+        setCursor(Qt::SizeAllCursor);
+    if (!box)
+        return;
+    if (!hadBegun)
+        m_picture.touch(control->area()); // all others without it, from now on
+    skipFailures([&] { drags ? MoveTo(*control, *box) : ResizeTo(*control, *box); });
+    control->redraw();
+    emit designChanged();
+    showPosition(*control);
+}
+
+void Canvas::MoveTo(OverlayControl &control, const Box &box)
+{
+    control.moveTo(box.Left, box.Top);
+    control.updatePosition();
+}
+
+void Canvas::ResizeTo(OverlayControl &control, const Box &box)
+{
+    control.setBox(box);
+    control.applyResize();
+}
+
+void Canvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    const Gesture::Kind kind = m_gesture.kind();
+    const QPointF press = m_gesture.press();
+    const QPointF at = twips(event->position());
+    const bool isBand = kind == Gesture::Kind::Band;
+    if (kind == Gesture::Kind::None || (isBand && event->button() != Qt::LeftButton))
+        return;
+    if (!isBand)
+        track(at);
+    endGesture();
+    if (isBand)
+        selectBand(press, at);
+}
+
+void Canvas::endGesture()
+{
+    const auto landed = lifted();
+    m_gesture = {};
+    if (landed)
+        landed->redraw();
+    setBand(std::nullopt);
+}
+
+void Canvas::selectBand(QPointF start, QPointF end)
+{
+    if (!isSelectingBand(start, end))
+        return;
+    for (OverlayControl *control : m_controls.controls()) {
+        if (bandHolds(start, end, control->box()))
+            control->SetControlGroup(1);
+    }
+}
+
+void Canvas::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Delete && event->isAutoRepeat())
+        return; // a key that is held deletes one control only
+    bool isOurs = true;
+    skipFailures([&] { isOurs = applyKey(event->key()); });
+    if (!isOurs)
+        QWidget::keyPressEvent(event);
+}
+
+void Canvas::pressKey(Qt::Key key)
+{
+    skipFailures([&] { applyKey(key); });
+}
+
+bool Canvas::applyKey(int key)
+{
+    const auto control = m_current.lock();
+    if (!control || m_isPlayMode)
+        return false;
+    const auto nudge = [&](int dx, int dy) {
+        control->nudge(dx, dy);
+        return true;
+    };
+    switch (key) {
+    case Qt::Key_Left:
+        return nudge(-1, 0);
+    case Qt::Key_Up:
+        return nudge(0, -1);
+    case Qt::Key_Right:
+        return nudge(1, 0);
+    case Qt::Key_Down:
+        return nudge(0, 1);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        control->mnuProperties_Click();
+        return true;
+    case Qt::Key_Delete:
+        control->mnuDelete_Click();
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The menu key opens the same menu as the right button, which has been served at its press.
+void Canvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard || m_isPlayMode)
+        return;
+    if (const OverlayControl *control = current())
+        showMenu(*control, mapToGlobal(control->outerRect().center()));
+    else
+        showCanvasMenu(twips(rect().center()), mapToGlobal(rect().center()));
+}
+
+bool Canvas::takesDrop(const QDropEvent &event) const
+{
+    if (m_isPlayMode || !event.mimeData()->hasFormat(VariableMime))
+        return event.mimeData()->hasFormat(LibraryMime);
+    const OverlayControl *control = controlAt(event.position());
+    return control && control->takesVariable();
+}
+
+void Canvas::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasFormat(LibraryMime) || event->mimeData()->hasFormat(VariableMime))
+        event->acceptProposedAction(); // and be told of its movements
+}
+
+void Canvas::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (takesDrop(*event))
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void Canvas::dropEvent(QDropEvent *event)
+{
+    if (!takesDrop(*event))
+        return;
+    event->acceptProposedAction();
+    const QMimeData &carried = *event->mimeData();
+    if (carried.hasFormat(LibraryMime))
+        emit dropped(QString::fromUtf8(carried.data(LibraryMime)), twips(event->position()));
+    else
+        skipFailures([&] { controlAt(event->position())->bindVariable(carried.data(VariableMime).toInt()); });
+}
+
+// A canvas without controls, or one that is being closed, lets the focus go.
+bool Canvas::focusNextPrevChild(bool forward)
+{
+    if (!isVisible() || m_controls.controls().isEmpty())
+        return QWidget::focusNextPrevChild(forward);
+    emit stepped(forward);
+    return true;
+}
+
+// Keys of the current control are no shortcuts.
+bool Canvas::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && current() && !m_isPlayMode) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if ((key >= Qt::Key_Left && key <= Qt::Key_Down) || key == Qt::Key_Delete) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+} // namespace surface
