@@ -37,7 +37,7 @@ void CanvasPicture::refresh(const ControlList &resting, double ratio)
     }
     const QRegion touched = std::exchange(m_touched, {});
     for (const QRect &area : touched) {
-        const Composition part = composed(m_ground, area, resting);
+        const Composition part = composed(m_ground, area, resting, controls::Drawing::Designed);
         QPainter(&m_composed).drawImage(part.corner, part.picture);
         refreshFrames(resting, area);
     }
@@ -68,7 +68,8 @@ void CanvasPicture::paint(QPainter &painter, const QRect &area, const ControlLis
     }
     painter.drawImage(area, m_composed, area);
     if (lifted) {
-        const Composition part = composed(m_composed, area & lifted->drawnArea(), {lifted});
+        const Composition part =
+            composed(m_composed, area & lifted->drawnArea(), {lifted}, controls::Drawing::Designed);
         painter.drawImage(part.corner, part.picture);
     }
     painter.drawImage(QRectF(area), m_frames,

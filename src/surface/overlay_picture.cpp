@@ -15,12 +15,13 @@ QImage groundOf(QSize canvas, const QImage &background)
     return ground;
 }
 
-Composition composed(const QImage &ground, const QRect &area, const ControlList &order)
+Composition composed(const QImage &ground, const QRect &area, const ControlList &order,
+                     controls::Drawing drawing)
 {
     const QRect part = area & ground.rect();
     if (part.isEmpty())
         return {};
-    Composition composition{ground.copy(part), part.topLeft()};
+    Composition composition{ground.copy(part), part.topLeft(), drawing};
     for (const OverlayControl *control : order) {
         if (control->drawnArea().intersects(part))
             platform::skipFailures([&] { control->paint(composition); });
@@ -30,7 +31,7 @@ Composition composed(const QImage &ground, const QRect &area, const ControlList 
 
 QImage overlayPicture(const QImage &ground, const ControlList &order)
 {
-    return composed(ground, ground.rect(), order).picture;
+    return composed(ground, ground.rect(), order, controls::Drawing::Recorded).picture;
 }
 
 } // namespace surface

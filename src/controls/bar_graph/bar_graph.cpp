@@ -158,10 +158,14 @@ void BarGraph::nudge(int dx, int dy)
 void BarGraph::paint(Composition &onto) const
 {
     QColor colour = toQColor(m_values.curColour.packed());
-    colour.setAlpha(m_values.curAlfa);
     const QRectF whole(m_values.curLeft / screen().tx, m_values.curTop / screen().ty, curWidth(),
                        curHeight());
-    CompositionPainter(onto).fillRect(filledPart(m_values, whole), colour);
+    CompositionPainter painter(onto);
+    if (onto.drawing == Drawing::Designed) // also an empty bar can be seen
+        painter.fillRect(whole, toQColor(backColour()));
+    else
+        colour.setAlpha(m_values.curAlfa);
+    painter.fillRect(filledPart(m_values, whole), colour);
 }
 
 double BarGraph::complexity() const

@@ -122,8 +122,9 @@ std::optional<Needle> needleOf(const GaugeValues &values, VideoStandard standard
         return std::nullopt;
     const double squeeze = standard == VideoStandard::Pal ? 1.0 : NtscSqueeze;
     const QPointF from = pivot(values, screen);
-    return Needle{from, from + QPointF(std::cos(r) * values.curPointerLength,
-                                       std::sin(r) * values.curPointerLength * squeeze)};
+    return Needle{from, from - QPointF(std::cos(r), std::sin(r)),
+                  from + QPointF(std::cos(r) * values.curPointerLength,
+                                 std::sin(r) * values.curPointerLength * squeeze)};
 }
 
 void Gauge::settle() { m_values = withPivot(m_values, screen()); }
@@ -219,7 +220,7 @@ void Gauge::paint(Composition &onto) const
     CompositionPainter painter(onto);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(pen);
-    painter.drawLine(needle->pivot, needle->tip);
+    painter.drawLine(onto.drawing == Drawing::Designed ? needle->tail : needle->pivot, needle->tip);
 }
 
 // A needle fills little of its box, and may be wider.
@@ -229,7 +230,7 @@ QRect Gauge::drawnArea() const
     if (!needle)
         return {};
     const int margin = m_values.curPointerWidth / 2 + 2;
-    const QRectF line = QRectF(needle->pivot, needle->tip).normalized();
+    const QRectF line = QRectF(needle->tail, needle->tip).normalized();
     return line.toAlignedRect().adjusted(-margin, -margin, margin, margin);
 }
 

@@ -38,6 +38,7 @@ GaugeValues placed(GaugeValues values, const platform::Screen &screen);
 struct Needle
 {
     QPointF pivot;
+    QPointF tail; // one pixel behind the pivot: where the canvas begins to draw
     QPointF tip;
 };
 std::optional<Needle> needleOf(const GaugeValues &values, recorder::VideoStandard standard,
