@@ -59,7 +59,7 @@ Program::Program()
 void Program::addControls(int count)
 {
     constexpr int Columns = 20;
-    constexpr int Rows = 10; // then the next layer
+    constexpr int Rows = 10;                 // then the next layer
     constexpr QPoint Step(30 * 15, 54 * 15); // twips
     for (int i = 0; i < count; ++i) {
         const QPointF place(i % Columns * Step.x(), i / Columns % Rows * Step.y());

@@ -32,7 +32,8 @@ protected:
     using Base = forms::DialogOf<Values>;
 
     PropertyDialog(OverlayControl &control, const QString &title, const Values &values)
-        : Base(title, values, {control.host().prompts(), control.host().locale(), QApplication::activeWindow()}),
+        : Base(title, values,
+               {control.host().prompts(), control.host().locale(), QApplication::activeWindow()}),
           m_host(control.host())
     {
     }
