@@ -17,16 +17,9 @@ using controls::FrameTwips;
 
 void link(auto &values, auto &record, auto field)
 {
+    linkScale(values, record, field);
     field(values.curAlfa, record.alpha);
     field(values.curBarWidth, record.barWidth);
-    field(values.curColour, record.colour);
-    field(values.curMin, record.min);
-    field(values.curMax, record.max);
-    field(values.curDefaultVal, record.defaultValue);
-    field(values.curVarID, record.variable);
-    field(values.curColourVariable, record.colourVariable);
-    field(values.curColourVarMin, record.colourVariableMin);
-    field(values.curColourVarMax, record.colourVariableMax);
 }
 
 // The bar as a line from its start end to its full-scale end; exchanged limits turn it round.

@@ -30,6 +30,19 @@ struct FromRecord
     }
 };
 
+// The scale of a shown variable, and the colour that may follow another one.
+void linkScale(auto &values, auto &record, auto field)
+{
+    field(values.curVarID, record.variable);
+    field(values.curMin, record.min);
+    field(values.curMax, record.max);
+    field(values.curDefaultVal, record.defaultValue);
+    field(values.curColour, record.colour);
+    field(values.curColourVariable, record.colourVariable);
+    field(values.curColourVarMin, record.colourVariableMin);
+    field(values.curColourVarMax, record.colourVariableMax);
+}
+
 // Takes over what was read from a record. The box first: its resize rule must not touch the values; the
 // position properties follow from it.
 template <typename Control, typename Values>

@@ -11,20 +11,13 @@ using controls::GaugeValues;
 
 void link(auto &values, auto &record, auto field)
 {
+    linkScale(values, record, field);
     field(values.curCenterX, record.centreX);
     field(values.curCenterY, record.centreY);
     field(values.curPointerLength, record.pointerLength);
     field(values.curPointerWidth, record.pointerWidth);
-    field(values.curColour, record.colour);
     field(values.curMinAngle, record.minAngle);
     field(values.curMaxAngle, record.maxAngle);
-    field(values.curMin, record.min);
-    field(values.curMax, record.max);
-    field(values.curDefaultVal, record.defaultValue);
-    field(values.curVarID, record.variable);
-    field(values.curColourVariable, record.colourVariable);
-    field(values.curColourVarMin, record.colourVariableMin);
-    field(values.curColourVarMax, record.colourVariableMax);
 }
 
 void gather(const controls::OverlayControl &control, Gathering &save)

@@ -12,8 +12,6 @@
 
 #include <QByteArray>
 
-#include <optional>
-
 namespace layoutfile {
 
 struct SaveContext
