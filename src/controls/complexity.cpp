@@ -18,19 +18,18 @@ double videoSource(double divisor)
 
 double gauge(double pointerWidth, double pointerLength) { return pointerWidth * pointerLength * 0.00062; }
 
-double barGraph(double edge, double extent, double barWidth, float twipsPerPixel)
+double barGraph(double start, double end, double barWidth)
 {
-    const auto unit = static_cast<double>(twipsPerPixel);
-    return std::fabs(edge / unit - (edge + extent) / unit) * barWidth * 0.000067;
+    return std::fabs(start - end) * barWidth * 0.000067;
 }
 
-double bitmap(double outerWidth, double outerHeight, double variable, float tx, float ty)
+double bitmap(double outerWidth, double outerHeight, double variable, const platform::Screen &screen)
 {
     if (variable != 0)
         return 0;
-    const auto frames = static_cast<double>(BothFrames);
-    return (outerWidth - frames) / static_cast<double>(tx) * (outerHeight - frames) /
-           static_cast<double>(ty) * 0.000018;
+    constexpr double Frames = BothFrames;
+    const QPointF inner = screen.toPixels(QPointF(outerWidth - Frames, outerHeight - Frames));
+    return inner.x() * inner.y() * 0.000018;
 }
 
 double digitalDisplay(double fontSize, qsizetype textLength)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/screen.h"
+
 #include <QString>
 
 #include <optional>
@@ -12,11 +14,10 @@ namespace complexity {
 
 double videoSource(double divisor); // throws RunTimeError for 0
 double gauge(double pointerWidth, double pointerLength);
-// `edge` in twips and `extent` in pixels, as the control reports them along its long side: that their sum is
-// divided by the twips per pixel is deliberate.
-double barGraph(double edge, double extent, double barWidth, float twipsPerPixel);
+// The ends along its long side, pixels.
+double barGraph(double start, double end, double barWidth);
 // Outer size in twips; a bitmap that is bound to a variable costs nothing.
-double bitmap(double outerWidth, double outerHeight, double variable, float tx, float ty);
+double bitmap(double outerWidth, double outerHeight, double variable, const platform::Screen &screen);
 double digitalDisplay(double fontSize, qsizetype textLength);
 double textTag(double fontSize, qsizetype textLength);
 double trackMap(double width, double height, bool mapShown);

@@ -22,9 +22,20 @@ bool belongs(Handle handle, GripSet set)
 
 QRect pixelRect(const Box &box, const platform::Screen &screen)
 {
-    return {toIntegerClamped<qint16>(box.Left / screen.tx), toIntegerClamped<qint16>(box.Top / screen.ty),
-            toIntegerClamped<qint16>(box.Width / screen.tx),
-            toIntegerClamped<qint16>(box.Height / screen.ty)};
+    return {toIntegerClamped<qint16>(screen.toPixelsX(box.Left)),
+            toIntegerClamped<qint16>(screen.toPixelsY(box.Top)),
+            toIntegerClamped<qint16>(screen.toPixelsX(box.Width)),
+            toIntegerClamped<qint16>(screen.toPixelsY(box.Height))};
+}
+
+float innerWidth(const Box &box, const platform::Screen &screen)
+{
+    return screen.toPixelsX(box.Width - BothFrames);
+}
+
+float innerHeight(const Box &box, const platform::Screen &screen)
+{
+    return screen.toPixelsY(box.Height - BothFrames);
 }
 
 Box withSize(const Box &box, Handle handle, float width, float height)

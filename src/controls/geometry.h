@@ -30,6 +30,10 @@ struct Box
 // The widget's rectangle: each edge position rounded like the positions in a layout file.
 QRect pixelRect(const Box &box, const platform::Screen &screen);
 
+// The extent of what lies within the frame, canvas pixels.
+float innerWidth(const Box &box, const platform::Screen &screen);
+float innerHeight(const Box &box, const platform::Screen &screen);
+
 // Grips in slot order.
 enum class Handle : quint8 {
     TopLeft,

@@ -25,8 +25,8 @@ void OverlayControl::moveTo(float left, float top)
 
 QRect OverlayControl::innerRect() const
 {
-    const int dx = common::toIntegerClamped<int>(FrameTwips / screen().tx);
-    const int dy = common::toIntegerClamped<int>(FrameTwips / screen().ty);
+    const int dx = common::toIntegerClamped<int>(screen().toPixelsX(FrameTwips));
+    const int dy = common::toIntegerClamped<int>(screen().toPixelsY(FrameTwips));
     return outerRect().adjusted(dx, dy, -dx, -dy);
 }
 

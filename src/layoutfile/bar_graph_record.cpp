@@ -9,7 +9,6 @@ namespace layoutfile {
 namespace {
 
 using common::toIntegerClamped;
-using common::wholeDivide;
 using controls::BarGraph;
 using controls::BarGraphValues;
 using controls::Box;
@@ -26,10 +25,10 @@ void link(auto &values, auto &record, auto field)
 void putEnds(const BarGraphValues &values, const platform::Screen &screen, BarGraphRecord &record)
 {
     const Box &box = values.box;
-    const auto left = toIntegerClamped<qint16>(wholeDivide(box.Left + FrameTwips, screen.tx));
-    const auto right = toIntegerClamped<qint16>(wholeDivide(box.right() - FrameTwips, screen.tx));
-    const auto top = toIntegerClamped<qint16>(wholeDivide(box.Top + FrameTwips, screen.ty));
-    const auto bottom = toIntegerClamped<qint16>(wholeDivide(box.bottom() - FrameTwips, screen.ty));
+    const auto left = toIntegerClamped<qint16>(screen.wholePixelsX(box.Left + FrameTwips));
+    const auto right = toIntegerClamped<qint16>(screen.wholePixelsX(box.right() - FrameTwips));
+    const auto top = toIntegerClamped<qint16>(screen.wholePixelsY(box.Top + FrameTwips));
+    const auto bottom = toIntegerClamped<qint16>(screen.wholePixelsY(box.bottom() - FrameTwips));
     const bool isHorizontal = values.isHorizontal();
     record.startX = left;
     record.startY = isHorizontal ? top : bottom;
@@ -63,9 +62,9 @@ Box boxOf(const BarGraphRecord &record, const platform::Screen &screen)
         static_cast<float>(isHorizontal ? std::abs(record.endX - record.startX) : record.barWidth);
     const auto height =
         static_cast<float>(isHorizontal ? record.barWidth : std::abs(record.endY - record.startY));
-    return {std::min(record.startX, record.endX) * screen.tx - FrameTwips,
-            std::min(record.startY, record.endY) * screen.ty - FrameTwips,
-            width * screen.tx + controls::BothFrames, height * screen.ty + controls::BothFrames};
+    return {screen.toTwipsX(std::min(record.startX, record.endX)) - FrameTwips,
+            screen.toTwipsY(std::min(record.startY, record.endY)) - FrameTwips,
+            screen.toTwipsX(width) + controls::BothFrames, screen.toTwipsY(height) + controls::BothFrames};
 }
 
 void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)

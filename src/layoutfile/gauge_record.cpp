@@ -32,9 +32,9 @@ void gather(const controls::OverlayControl &control, Gathering &save)
 controls::Box boxOf(const GaugeRecord &record, const platform::Screen &screen)
 {
     const float length = record.pointerLength;
-    const float side = 2 * length * screen.tx + controls::BothFrames;
-    return {(record.centreX - length) * screen.tx - controls::FrameTwips,
-            (record.centreY - length) * screen.ty - controls::FrameTwips, side, side};
+    const float side = screen.toTwipsX(2 * length) + controls::BothFrames;
+    return {screen.toTwipsX(record.centreX - length) - controls::FrameTwips,
+            screen.toTwipsY(record.centreY - length) - controls::FrameTwips, side, side};
 }
 
 void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)

@@ -10,13 +10,14 @@ using controls::OverlayControl;
 
 namespace {
 
-// The pixels below `end` on which the multiples of the spacing fall, each once: a spacing may be finer than
-// the pixels.
-QList<int> dottedPixels(int spacing, float twipsPerPixel, int end)
+// The pixels below `end` on which the multiples of the grid's spacing fall, each once: a spacing may be finer
+// than the pixels.
+QList<int> dottedPixels(const CanvasRules &rules, float (platform::Screen::*toPixels)(float) const, int end)
 {
     QList<int> pixels;
     for (int line = 0;; ++line) {
-        const int pixel = static_cast<int>(line * spacing / static_cast<double>(twipsPerPixel));
+        const int pixel =
+            static_cast<int>((rules.screen.*toPixels)(static_cast<float>(line * rules.grid.spacing)));
         if (pixel >= end)
             return pixels;
         if (pixels.isEmpty() || pixel != pixels.last())
@@ -28,9 +29,9 @@ void paintDots(QPainter &painter, const QSize &size, const CanvasRules &rules)
 {
     if (rules.grid.spacing < 1)
         return;
-    const QList<int> columns = dottedPixels(rules.grid.spacing, rules.screen.tx, size.width());
+    const QList<int> columns = dottedPixels(rules, &platform::Screen::toPixelsX, size.width());
     QList<QPoint> dots;
-    for (const int row : dottedPixels(rules.grid.spacing, rules.screen.ty, size.height())) {
+    for (const int row : dottedPixels(rules, &platform::Screen::toPixelsY, size.height())) {
         for (const int column : columns)
             dots.append({column, row});
     }

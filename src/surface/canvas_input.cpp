@@ -31,11 +31,7 @@ Qt::CursorShape pointerOf(std::optional<Handle> handle)
 
 } // namespace
 
-QPointF Canvas::twips(QPointF pixels) const
-{
-    return {pixels.x() * static_cast<double>(m_rules.screen.tx),
-            pixels.y() * static_cast<double>(m_rules.screen.ty)};
-}
+QPointF Canvas::twips(QPointF pixels) const { return m_rules.screen.toTwips(pixels); }
 
 OverlayControl *Canvas::controlAt(QPointF pixels) const
 {
@@ -152,12 +148,9 @@ void Canvas::hover(QPointF pixels)
 void Canvas::track(QPointF at)
 {
     if (m_gesture.kind() == Gesture::Kind::Band) {
-        const auto pixel = [this](QPointF point) {
-            return QPointF(point.x() / static_cast<double>(m_rules.screen.tx),
-                           point.y() / static_cast<double>(m_rules.screen.ty))
-                .toPoint();
-        };
-        setBand(QRect(pixel(m_gesture.press()), pixel(at)).normalized());
+        const platform::Screen &screen = m_rules.screen;
+        setBand(
+            QRect(screen.toPixels(m_gesture.press()).toPoint(), screen.toPixels(at).toPoint()).normalized());
         emit positionShown(positionText(at, m_rules.screen));
         return;
     }

@@ -52,8 +52,8 @@ QPointF SnapXY(QPointF place, int spacing)
 
 bool insideDeadZone(QPointF start, QPointF now, const platform::Screen &screen)
 {
-    return std::fabs(now.x() - start.x()) <= DeadZonePixels * static_cast<double>(screen.tx) &&
-           std::fabs(now.y() - start.y()) <= DeadZonePixels * static_cast<double>(screen.ty);
+    const QPointF reach = screen.toTwips(QPointF(DeadZonePixels, DeadZonePixels));
+    return std::fabs(now.x() - start.x()) <= reach.x() && std::fabs(now.y() - start.y()) <= reach.y();
 }
 
 Box clampedToCanvas(const Box &box, const CanvasRules &rules)
@@ -110,9 +110,10 @@ qsizetype stepInRing(qsizetype count, qsizetype from, bool forward)
 
 QString positionText(QPointF twips, const platform::Screen &screen)
 {
+    const QPointF pixels = screen.toPixels(twips);
     return QStringLiteral("Pos (x, y) : %1, %2")
-        .arg(common::toIntegerClamped<int>(twips.x() / static_cast<double>(screen.tx)))
-        .arg(common::toIntegerClamped<int>(twips.y() / static_cast<double>(screen.ty)));
+        .arg(common::toIntegerClamped<int>(pixels.x()))
+        .arg(common::toIntegerClamped<int>(pixels.y()));
 }
 
 } // namespace surface

@@ -26,8 +26,8 @@ struct CanvasRules
     recorder::VideoStandard standard = recorder::VideoStandard::Pal;
     Grid grid;
 
-    float width() const { return recorder::CanvasWidth * screen.tx; }
-    float height() const { return static_cast<float>(recorder::canvasHeight(standard)) * screen.ty; }
+    float width() const { return screen.toTwipsX(recorder::CanvasWidth); }
+    float height() const { return screen.toTwipsY(static_cast<float>(recorder::canvasHeight(standard))); }
 };
 
 // Down to the grid point at or before the place, never to the nearest one: deliberate, so that a drag by less

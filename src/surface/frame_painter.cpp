@@ -14,8 +14,8 @@ constexpr int StepsInTile = 3; // 28 pixels, the least that are whole
 // A tile of the hatch: wherever it is repeated, its bands meet.
 QPixmap hatchTile(const platform::Screen &screen, const QColor &behind, const QColor &bands, double ratio)
 {
-    const QSize size(qRound(StepsInTile * Step / static_cast<double>(screen.tx)),
-                     qRound(StepsInTile * Step / static_cast<double>(screen.ty)));
+    const QPoint far = screen.toPixels(QPointF(StepsInTile * Step, StepsInTile * Step)).toPoint();
+    const QSize size(far.x(), far.y());
     QPixmap tile((QSizeF(size) * ratio).toSize());
     tile.fill(behind);
     QPainter painter(&tile);
@@ -34,14 +34,12 @@ QPixmap hatchTile(const platform::Screen &screen, const QColor &behind, const QC
 
 void paintGrips(QPainter &painter, const OverlayControl &control, const platform::Screen &screen)
 {
-    const double tx = static_cast<double>(screen.tx);
-    const double ty = static_cast<double>(screen.ty);
     const QPoint corner = control.outerRect().topLeft();
     for (const controls::GripBox &grip : control.handles()) {
         if (!grip.isFilled())
             continue;
-        const QRect box(QPoint(qRound(grip.Left / tx), qRound(grip.Top / ty)),
-                        QPoint(qRound(grip.Right / tx) - 1, qRound(grip.Bottom / ty) - 1));
+        const QRect box(screen.toPixels(QPointF(grip.Left, grip.Top)).toPoint(),
+                        screen.toPixels(QPointF(grip.Right, grip.Bottom)).toPoint() - QPoint(1, 1));
         painter.fillRect(box.translated(corner), Qt::black);
         painter.fillRect(box.translated(corner).adjusted(1, 1, -1, -1), Qt::white);
     }

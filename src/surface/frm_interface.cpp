@@ -29,9 +29,9 @@ frmInterface::frmInterface(const InterfaceContext &context)
       m_caption(UntitledCaption)
 {
     setObjectName(QStringLiteral("frmInterface"));
-    m_panels = new PanelArea(context.screen.tx, {{{QStringLiteral("Variables"), m_variables},
-                                                  {QStringLiteral("Control library"), m_library},
-                                                  {m_caption, makeDesignPanel()}}});
+    m_panels = new PanelArea(context.screen, {{{QStringLiteral("Variables"), m_variables},
+                                               {QStringLiteral("Control library"), m_library},
+                                               {m_caption, makeDesignPanel()}}});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_panels);
@@ -140,8 +140,8 @@ void frmInterface::stepControl(bool forward)
 
 void frmInterface::Reposition(OverlayControl &control, QPointF corner)
 {
-    control.moveTo(static_cast<float>(corner.x() * static_cast<double>(screen().tx)),
-                   static_cast<float>(corner.y() * static_cast<double>(screen().ty)));
+    const QPointF twips = screen().toTwips(corner);
+    control.moveTo(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
     emit designChanged();
     if (m_canvas->current() == &control) // others are placed by a load
         m_canvas->showPosition(control);

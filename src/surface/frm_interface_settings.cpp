@@ -42,7 +42,7 @@ void frmInterface::load()
     const SettingsFile file(m_context.folders.ConfigFile());
     m_grid = {keys::GridSize.read(file), keys::ShowGrid.read(file) == 1, keys::SnapGrid.read(file) == 1};
     m_panels->restore(file);
-    m_library->restoreBar(file, screen().tx);
+    m_library->restoreBar(file, screen());
     setCurBackColour(DefaultBackColour, DefaultLabelColour);
     m_canvas->setPlayMode(false);
     initGrid(m_grid);
@@ -122,7 +122,7 @@ void frmInterface::saveGeometry()
     SettingsFile file(m_context.folders.ConfigFile());
     keys::VideoType.write(file, static_cast<int>(VideoType()));
     m_panels->save(file);
-    m_library->saveBar(file, screen().tx);
+    m_library->saveBar(file, screen());
     file.save();
 }
 

@@ -25,7 +25,7 @@ QImage standardPicture(const controls::Family &family, controls::ControlFactory 
                        controls::ControlHost &host)
 {
     const auto control = create(family, host);
-    const float side = PictureSide * host.screen().tx;
+    const float side = host.screen().toTwipsX(PictureSide);
     const QSizeF start = control->startSize();
     const auto width = static_cast<float>(start.width());
     const auto height = static_cast<float>(start.height());

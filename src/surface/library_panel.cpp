@@ -4,7 +4,6 @@
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
-#include "surface/panel_layout.h"
 
 namespace surface {
 
@@ -83,12 +82,12 @@ void LibraryPanel::loadControlTree()
     }
 }
 
-void LibraryPanel::restoreBar(const platform::SettingsFile &file, float twipsPerPixel)
+void LibraryPanel::restoreBar(const platform::SettingsFile &file, const platform::Screen &screen)
 {
     if (!Bar.stored(file))
         return;
     setStretchFactor(0, 0); // the tree keeps its width, the list takes what is left
-    setSizes({toPixels(Bar.left.read(file), twipsPerPixel), 1});
+    setSizes({screen.storedToPixels(Bar.left.read(file)), 1});
 }
 
 void LibraryPanel::resetBar()
@@ -99,15 +98,15 @@ void LibraryPanel::resetBar()
     setSizes({tree, room - tree});
 }
 
-void LibraryPanel::saveBar(platform::SettingsFile &file, float twipsPerPixel) const
+void LibraryPanel::saveBar(platform::SettingsFile &file, const platform::Screen &screen) const
 {
     if (testAttribute(Qt::WA_PendingResizeEvent))
         return; // the panel has been closed all the time, and the bar was never laid out
     const QRect bar = handle(1)->geometry();
-    Bar.left.write(file, toTwips(bar.left(), twipsPerPixel));
-    Bar.top.write(file, toTwips(bar.top(), twipsPerPixel));
-    Bar.width.write(file, toTwips(bar.width(), twipsPerPixel));
-    Bar.height.write(file, toTwips(bar.height(), twipsPerPixel));
+    Bar.left.write(file, screen.pixelsToStored(bar.left()));
+    Bar.top.write(file, screen.pixelsToStored(bar.top()));
+    Bar.width.write(file, screen.pixelsToStored(bar.width()));
+    Bar.height.write(file, screen.pixelsToStored(bar.height()));
 }
 
 QString LibraryPanel::selectedKey() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/folders.h"
+#include "platform/screen.h"
 #include "platform/settings_file.h"
 
 #include <QListWidget>
@@ -23,9 +24,9 @@ public:
     void loadControlList();
     // The place of the bar between tree and list in the settings file; what is stored stays while the panel
     // is closed.
-    void restoreBar(const platform::SettingsFile &file, float twipsPerPixel);
+    void restoreBar(const platform::SettingsFile &file, const platform::Screen &screen);
     void resetBar(); // as it stands when none is stored
-    void saveBar(platform::SettingsFile &file, float twipsPerPixel) const;
+    void saveBar(platform::SettingsFile &file, const platform::Screen &screen) const;
     // Key of the selected node; empty when none is.
     QString selectedKey() const;
 

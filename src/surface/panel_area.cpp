@@ -20,8 +20,9 @@ const PanelKeys &keysOf(std::size_t panel)
 
 } // namespace
 
-PanelArea::PanelArea(float twipsPerPixel, const std::array<std::pair<QString, QWidget *>, 3> &panels)
-    : m_twipsPerPixel(twipsPerPixel)
+PanelArea::PanelArea(const platform::Screen &screen,
+                     const std::array<std::pair<QString, QWidget *>, 3> &panels)
+    : m_screen(screen)
 {
     for (std::size_t i = 0; i < panels.size(); ++i) {
         m_panels[i] = new Panel(panels[i].first, panels[i].second, this);
@@ -72,7 +73,7 @@ void PanelArea::restore(const platform::SettingsFile &file)
     using Reader = int (NumberKey::*)(const platform::SettingsFile &) const;
     const auto rect = [&](const PanelKeys &key, Reader read) {
         const auto pixels = [&](const NumberKey &number) {
-            return toPixels((number.*read)(file), m_twipsPerPixel);
+            return m_screen.storedToPixels((number.*read)(file));
         };
         return QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
     };
@@ -95,7 +96,7 @@ void PanelArea::save(platform::SettingsFile &file) const
     for (std::size_t i = 0; i < rects.size(); ++i) {
         const PanelKeys &key = keysOf(i);
         const auto write = [&](const NumberKey &number, int pixels) {
-            number.write(file, toTwips(pixels, m_twipsPerPixel));
+            number.write(file, m_screen.pixelsToStored(pixels));
         };
         write(key.left, rects[i].left());
         write(key.top, rects[i].top());

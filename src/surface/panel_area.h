@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/screen.h"
 #include "platform/settings_keys.h"
 #include "surface/panel.h"
 #include "surface/panel_layout.h"
@@ -17,8 +18,7 @@ class PanelArea final : public QWidget
     Q_OBJECT
 
 public:
-    // `twipsPerPixel` turns stored geometry into pixels.
-    PanelArea(float twipsPerPixel, const std::array<std::pair<QString, QWidget *>, 3> &panels);
+    PanelArea(const platform::Screen &screen, const std::array<std::pair<QString, QWidget *>, 3> &panels);
 
     Panel &panel(PanelId id) const { return *m_panels[static_cast<std::size_t>(id)]; }
     bool isPanelVisible(PanelId id) const { return m_visible[static_cast<std::size_t>(id)]; }
@@ -42,7 +42,7 @@ private:
     PanelRects current() const;
     void arrange(const QSize &area);
 
-    float m_twipsPerPixel;
+    platform::Screen m_screen;
     std::array<Panel *, 3> m_panels{};
     std::array<bool, 3> m_visible{true, true, true};
     bool m_automatic = true;

@@ -1,6 +1,6 @@
 #include "surface/panel_layout.h"
 
-#include "common/rounding.h"
+#include "recorder/recorder_settings.h"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@ namespace surface {
 namespace {
 
 constexpr int Gap = 4;
-constexpr int CanvasPanelWidth = 720 + 30; // canvas with its frame and a scroll bar
+constexpr int CanvasPanelWidth = recorder::CanvasWidth + 30; // canvas with its frame and a scroll bar
 constexpr int WidestColumn = 560;
 constexpr int SmallestLibrary = 160;
 
@@ -44,16 +44,6 @@ bool isDefaultArrangement(const PanelRects &panels)
     const QRect &last = panels[std::size_t(PanelId::Library)];
     const QSize area(last.left() + last.width() + Gap, last.top() + last.height() + Gap);
     return panels == defaultPanels(area);
-}
-
-int toPixels(int twips, float twipsPerPixel)
-{
-    return common::toIntegerClamped<int>(twips / static_cast<double>(twipsPerPixel));
-}
-
-int toTwips(int pixels, float twipsPerPixel)
-{
-    return common::toIntegerClamped<int>(pixels * static_cast<double>(twipsPerPixel));
 }
 
 } // namespace surface

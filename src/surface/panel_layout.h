@@ -22,8 +22,4 @@ QRect pulledIntoView(const QRect &panel, const QSize &area);
 // Whether the panels lie as defaultPanels() lays them out for an area of any size: nobody has moved them.
 bool isDefaultArrangement(const PanelRects &panels);
 
-// Stored places are in twips. Values that do not fit come back as the nearest that does.
-int toPixels(int twips, float twipsPerPixel);
-int toTwips(int pixels, float twipsPerPixel);
-
 } // namespace surface

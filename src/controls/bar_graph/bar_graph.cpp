@@ -15,14 +15,14 @@ namespace {
 
 constexpr float LargestBar = 255; // length and thickness in pixels, when dragged by a grip
 
-PropertyValue innerWidth(const ControlValues &values, const platform::Screen &screen)
+PropertyValue readWidth(const ControlValues &values, const platform::Screen &screen)
 {
-    return (values.box.Width - BothFrames) / screen.tx;
+    return innerWidth(values.box, screen);
 }
 
-PropertyValue innerHeight(const ControlValues &values, const platform::Screen &screen)
+PropertyValue readHeight(const ControlValues &values, const platform::Screen &screen)
 {
-    return (values.box.Height - BothFrames) / screen.ty;
+    return innerHeight(values.box, screen);
 }
 
 using V = BarGraphValues;
@@ -36,8 +36,8 @@ constexpr std::array Rows{
     property<&V::curBarType>("curBarType", "newBarType"),
     property<&V::curLeft>("curLeft", "newLeft").notSerialised(),
     property<&V::curTop>("curTop", "newTop").notSerialised(),
-    computed("curWidth", &innerWidth),
-    computed("curHeight", &innerHeight),
+    computed("curWidth", &readWidth),
+    computed("curHeight", &readHeight),
     property<&V::curAlfa>("curAlfa", "newAlfa"),
     property<&V::curColourVariable>("curColourVariable", "newColourVariable"),
     property<&V::curColourVarMin>("curColourVarMin", "newColourVarMin"),
@@ -47,8 +47,7 @@ constexpr std::array Rows{
 // The outer corner, in canvas pixels, of a bar that stands at its Left and Top.
 QPointF cornerOf(const BarGraphValues &values, const platform::Screen &screen)
 {
-    return {static_cast<double>(values.curLeft - FrameTwips) / static_cast<double>(screen.tx),
-            static_cast<double>(values.curTop - FrameTwips) / static_cast<double>(screen.ty)};
+    return screen.toPixels(QPointF(values.curLeft - FrameTwips, values.curTop - FrameTwips));
 }
 
 // One axis of the rule that keeps a bar on the canvas: all in pixels, `frame` being the editing frame.
@@ -70,20 +69,21 @@ BarGraphValues placed(BarGraphValues values, qint16 length, recorder::VideoStand
 {
     Box &box = values.box;
     if (values.isHorizontal()) {
-        box.Height = values.curBarWidth * screen.tx + BothFrames;
+        box.Height = screen.toTwipsX(values.curBarWidth) + BothFrames;
         if (length > 0)
-            box.Width = length * screen.tx + BothFrames;
+            box.Width = screen.toTwipsX(length) + BothFrames;
     } else {
-        box.Width = values.curBarWidth * screen.tx + BothFrames;
+        box.Width = screen.toTwipsX(values.curBarWidth) + BothFrames;
         if (length > 0)
-            box.Height = length * screen.ty + BothFrames;
+            box.Height = screen.toTwipsY(length) + BothFrames;
     }
-    const float x = pulledInto(values.curLeft / screen.tx, box.Width / screen.tx, FrameTwips / screen.tx,
-                               recorder::CanvasWidth);
-    const float y = pulledInto(values.curTop / screen.ty, box.Height / screen.ty, FrameTwips / screen.ty,
-                               static_cast<float>(recorder::canvasHeight(standard)));
-    values.curLeft = toInteger<qint16>(x * screen.tx);
-    values.curTop = toInteger<qint16>(y * screen.ty);
+    const float x = pulledInto(screen.toPixelsX(values.curLeft), screen.toPixelsX(box.Width),
+                               screen.toPixelsX(FrameTwips), recorder::CanvasWidth);
+    const float y =
+        pulledInto(screen.toPixelsY(values.curTop), screen.toPixelsY(box.Height),
+                   screen.toPixelsY(FrameTwips), static_cast<float>(recorder::canvasHeight(standard)));
+    values.curLeft = toInteger<qint16>(screen.toTwipsX(x));
+    values.curTop = toInteger<qint16>(screen.toTwipsY(y));
     box.Left = values.curLeft - FrameTwips;
     box.Top = values.curTop - FrameTwips;
     return values;
@@ -128,8 +128,8 @@ void BarGraph::updatePosition()
 
 Box BarGraph::resizedBox(const Box &wanted, Handle handle) const
 {
-    return withSize(wanted, handle, std::min(wanted.Width, LargestBar * screen().tx + BothFrames),
-                    std::min(wanted.Height, LargestBar * screen().ty + BothFrames));
+    return withSize(wanted, handle, std::min(wanted.Width, screen().toTwipsX(LargestBar) + BothFrames),
+                    std::min(wanted.Height, screen().toTwipsY(LargestBar) + BothFrames));
 }
 
 void BarGraph::applyResize()
@@ -150,15 +150,15 @@ void BarGraph::applyInitialProperties()
 
 void BarGraph::nudge(int dx, int dy)
 {
-    m_values.curLeft = toInteger<qint16>(m_values.curLeft + static_cast<float>(dx) * screen().tx);
-    m_values.curTop = toInteger<qint16>(m_values.curTop + static_cast<float>(dy) * screen().ty);
+    m_values.curLeft = toInteger<qint16>(m_values.curLeft + screen().toTwipsX(static_cast<float>(dx)));
+    m_values.curTop = toInteger<qint16>(m_values.curTop + screen().toTwipsY(static_cast<float>(dy)));
     host().Reposition(*this, cornerOf(m_values, screen()));
 }
 
 void BarGraph::paint(Composition &onto) const
 {
     QColor colour = toQColor(m_values.curColour.packed());
-    const QRectF whole(m_values.curLeft / screen().tx, m_values.curTop / screen().ty, curWidth(),
+    const QRectF whole(screen().toPixelsX(m_values.curLeft), screen().toPixelsY(m_values.curTop), curWidth(),
                        curHeight());
     CompositionPainter painter(onto);
     if (onto.drawing == Drawing::Designed) // also an empty bar can be seen
@@ -170,10 +170,12 @@ void BarGraph::paint(Composition &onto) const
 
 double BarGraph::complexity() const
 {
-    return m_values.isHorizontal() ? complexity::barGraph(m_values.curLeft, static_cast<double>(curWidth()),
-                                                          m_values.curBarWidth, screen().tx)
-                                   : complexity::barGraph(m_values.curTop, static_cast<double>(curHeight()),
-                                                          m_values.curBarWidth, screen().ty);
+    // That the extent in pixels is added to a place in twips is deliberate.
+    const QPointF corner(m_values.curLeft, m_values.curTop);
+    const QPointF from = screen().toPixels(corner);
+    const QPointF to = screen().toPixels(corner + QPointF(curWidth(), curHeight()));
+    return m_values.isHorizontal() ? complexity::barGraph(from.x(), to.x(), m_values.curBarWidth)
+                                   : complexity::barGraph(from.y(), to.y(), m_values.curBarWidth);
 }
 
 } // namespace controls

@@ -43,8 +43,8 @@ public:
     using ControlOf::ControlOf;
 
     // Computed: the bar's extent in pixels.
-    float curWidth() const { return (box().Width - BothFrames) / screen().tx; }
-    float curHeight() const { return (box().Height - BothFrames) / screen().ty; }
+    float curWidth() const { return innerWidth(box(), screen()); }
+    float curHeight() const { return innerHeight(box(), screen()); }
 
     // Takes the place that placed() gives it.
     void AssignProperties(qint16 length);

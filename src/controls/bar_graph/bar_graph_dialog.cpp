@@ -22,8 +22,8 @@ std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed)
 
 BarLine barLine(const BarGraph &bar, bool isHorizontal)
 {
-    const float startX = bar.get().curLeft / bar.host().screen().tx;
-    const float startY = bar.get().curTop / bar.host().screen().ty;
+    const float startX = bar.host().screen().toPixelsX(bar.get().curLeft);
+    const float startY = bar.host().screen().toPixelsY(bar.get().curTop);
     if (isHorizontal)
         return {startX, startY, startX + bar.curWidth(), startY, bar.curHeight()};
     return {startX, startY, startX, startY + bar.curHeight(), bar.curWidth()};
@@ -62,12 +62,10 @@ BarGraphDialog::BarGraphDialog(BarGraph &bar)
 void BarGraphDialog::set(BarOnLine &values)
 {
     const platform::Screen &screen = m_bar.host().screen();
-    const auto twips = [](float pixels, float unit) {
-        return toInteger<qint16>(static_cast<double>(pixels) * static_cast<double>(unit));
-    };
     values.curBarWidth = toInteger<quint8>(static_cast<double>(values.barWidth));
-    values.curLeft = twips(values.startX, screen.tx);
-    values.curTop = twips(values.startY, screen.ty);
+    const QPointF start = screen.toTwips(QPointF(values.startX, values.startY));
+    values.curLeft = toInteger<qint16>(start.x());
+    values.curTop = toInteger<qint16>(start.y());
     const auto length = toInteger<qint16>(static_cast<double>(
         values.isHorizontal() ? values.endX - values.startX : values.endY - values.startY));
     BarGraphValues &bar = values;

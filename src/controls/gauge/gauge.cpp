@@ -22,10 +22,7 @@ constexpr float SmallestBox = 150;
 constexpr float LargestBox = 7600;
 constexpr float LongestNeedle = 255; // pixels, when dragged by a grip
 
-qint32 orHalf(qint16 stored, float size, float twipsPerPixel)
-{
-    return stored != 0 ? stored : toInteger<qint16>(size / twipsPerPixel / 2);
-}
+qint32 orHalf(qint16 stored, float pixels) { return stored != 0 ? stored : toInteger<qint16>(pixels / 2); }
 
 PropertyValue centreX(const ControlValues &values, const platform::Screen &screen)
 {
@@ -41,7 +38,7 @@ PropertyValue centreY(const ControlValues &values, const platform::Screen &scree
 // directions: deliberate.
 QPointF cornerOf(const GaugeValues &values, const platform::Screen &screen)
 {
-    const double inset = static_cast<double>(values.curPointerLength + FrameTwips / screen.tx);
+    const double inset = static_cast<double>(values.curPointerLength + screen.toPixelsX(FrameTwips));
     return pivot(values, screen) - QPointF(inset, inset);
 }
 
@@ -85,8 +82,8 @@ const PropertyTable &gaugeProperties()
 
 QPoint pivot(const GaugeValues &values, const platform::Screen &screen)
 {
-    return {orHalf(values.curCenterX, values.box.Width, screen.tx),
-            orHalf(values.curCenterY, values.box.Height, screen.ty)};
+    return {orHalf(values.curCenterX, screen.toPixelsX(values.box.Width)),
+            orHalf(values.curCenterY, screen.toPixelsY(values.box.Height))};
 }
 
 GaugeValues withPivot(GaugeValues values, const platform::Screen &screen)
@@ -100,13 +97,13 @@ GaugeValues withPivot(GaugeValues values, const platform::Screen &screen)
 GaugeValues placed(GaugeValues values, const platform::Screen &screen)
 {
     // A box of this size gives the same length again by the resize rule.
-    const float side = 2.0F * values.curPointerLength * screen.tx + BothFrames;
+    const float side = screen.toTwipsX(2.0F * values.curPointerLength) + BothFrames;
     values.box.Width = side;
     values.box.Height = side;
     values = withPivot(values, screen);
     const QPointF corner = cornerOf(values, screen);
-    values.box.Left = static_cast<float>(corner.x()) * screen.tx;
-    values.box.Top = static_cast<float>(corner.y()) * screen.ty;
+    values.box.Left = screen.toTwipsX(static_cast<float>(corner.x()));
+    values.box.Top = screen.toTwipsY(static_cast<float>(corner.y()));
     return values;
 }
 
@@ -142,11 +139,11 @@ void Gauge::updatePosition()
 {
     skipFailures([&] {
         m_values.curCenterX =
-            toInteger<qint16>((box().Left + FrameTwips) / screen().tx + m_values.curPointerLength);
+            toInteger<qint16>(screen().toPixelsX(box().Left + FrameTwips) + m_values.curPointerLength);
     });
     skipFailures([&] {
         m_values.curCenterY =
-            toInteger<qint16>((box().Top + FrameTwips) / screen().ty + m_values.curPointerLength);
+            toInteger<qint16>(screen().toPixelsY(box().Top + FrameTwips) + m_values.curPointerLength);
     });
 }
 
@@ -160,7 +157,7 @@ void Gauge::sizeChanged()
     m_values.box = square;
     skipFailures([&] {
         m_values.curPointerLength =
-            toInteger<quint8>(square.Width / (2 * screen().tx) - FrameTwips / screen().tx);
+            toInteger<quint8>(screen().toPixelsX(square.Width) / 2 - screen().toPixelsX(FrameTwips));
     });
     updatePosition();
 }
@@ -168,8 +165,9 @@ void Gauge::sizeChanged()
 void Gauge::applyResize()
 {
     skipFailures([&] {
-        const int half = common::wholeDivide(box().Width, screen().tx) / 2;
-        m_values.curPointerLength = toInteger<quint8>(static_cast<float>(half) - FrameTwips / screen().tx);
+        const int half = screen().wholePixelsX(box().Width) / 2;
+        m_values.curPointerLength =
+            toInteger<quint8>(static_cast<float>(half) - screen().toPixelsX(FrameTwips));
     });
     updatePosition();
 }
@@ -177,9 +175,9 @@ void Gauge::applyResize()
 // Kept square with the opposite corner fixed, as far as the canvas and the needle reach.
 Box Gauge::resizedBox(const Box &wanted, Handle handle) const
 {
-    const float canvasWidth = recorder::CanvasWidth * screen().tx;
+    const float canvasWidth = screen().toTwipsX(recorder::CanvasWidth);
     const float room = movesLeft(handle) ? wanted.right() : canvasWidth - wanted.Left;
-    const float side = std::min({wanted.Height, room, 2 * LongestNeedle * screen().tx + BothFrames});
+    const float side = std::min({wanted.Height, room, screen().toTwipsX(2 * LongestNeedle) + BothFrames});
     return withSize(wanted, handle, side, side);
 }
 
@@ -194,7 +192,7 @@ void Gauge::fitCanvasHeight(float height)
 void Gauge::applyInitialProperties()
 {
     set(GaugeValues());
-    m_values.curPointerLength = toInteger<quint8>(box().Width / (2 * screen().tx));
+    m_values.curPointerLength = toInteger<quint8>(screen().toPixelsX(box().Width) / 2);
     const Box sized = placed(m_values, screen()).box;
     setBox({box().Left, box().Top, sized.Width, sized.Height});
     updatePosition();
