@@ -20,6 +20,8 @@ QSize chromaSize(QSize size) { return {size.width() / 2, size.height() / 2}; }
 
 bool hasSize(const QByteArray &plane, QSize size) { return plane.size() == area(size); }
 
+bool covers(const QByteArray &plane, QSize size) { return plane.size() >= area(size); }
+
 QByteArray newPlane(QSize size) { return QByteArray(area(size), Qt::Uninitialized); }
 
 QSize positive(QSize size) { return size.isEmpty() ? QSize(0, 0) : size; }
@@ -86,7 +88,7 @@ Planes Planes::ofSize(QSize wanted)
 bool Planes::isComplete() const
 {
     const QSize chroma = chromaSize(size());
-    return !size().isEmpty() && hasSize(y, size()) && hasSize(u, chroma) && hasSize(v, chroma);
+    return !size().isEmpty() && hasSize(y, size()) && covers(u, chroma) && covers(v, chroma);
 }
 
 AlphaPlane AlphaPlane::ofSize(QSize wanted)

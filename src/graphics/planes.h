@@ -12,12 +12,12 @@ struct Planes
     int height = 0;
     QByteArray y; // one byte a pixel
     QByteArray u; // one byte a block of 2 by 2: (width / 2) x (height / 2), rounded down
-    QByteArray v;
+    QByteArray v; // the same; what a file holds of either beyond that is kept
 
     // Planes of this size with undefined contents; empty ones where a side is below 1.
     static Planes ofSize(QSize size);
     QSize size() const { return {width, height}; }
-    // Whether there is something to show and the lengths are those of the size.
+    // Whether there is something to show and the lengths fit the size.
     bool isComplete() const;
 
     bool operator==(const Planes &) const = default;

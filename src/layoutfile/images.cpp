@@ -19,26 +19,22 @@ QByteArray take(common::ByteReader &planes, qsizetype length) { return planes.ge
 
 StoredImage takeImage(common::ByteReader &planes, const BitmapRecord &bitmap, int number)
 {
-    StoredImage image{number, {}, {}};
     if (bitmap.width <= 0 || bitmap.height <= 0)
-        return image;
+        return {number, {}};
     const qsizetype luma = qsizetype{bitmap.width} * bitmap.height;
     const qsizetype chroma = qsizetype{bitmap.width / 2} * (bitmap.height / 2);
-    graphics::Planes colours{bitmap.width, bitmap.height, take(planes, luma), take(planes, chroma),
-                             take(planes, chroma)};
-    if (!planes.failed())
-        image.colours = std::move(colours);
-    graphics::AlphaPlane alpha{bitmap.width, bitmap.height, take(planes, luma)};
-    if (!planes.failed())
-        image.alpha = std::move(alpha);
-    return image;
+    const graphics::Planes colours{bitmap.width, bitmap.height, take(planes, luma), take(planes, chroma),
+                                   take(planes, chroma)};
+    const graphics::AlphaPlane alpha{bitmap.width, bitmap.height, take(planes, luma)};
+    return {number, graphics::PlanePicture::fromFile(colours, alpha)};
 }
 
 } // namespace
 
-void ImageList::add(const graphics::Planes &colours, const graphics::AlphaPlane &alpha)
+void ImageList::add(const graphics::PlanePicture &image)
 {
-    m_planes += colours.y + colours.u + colours.v + alpha.values;
+    const graphics::Planes &colours = image.planes();
+    m_planes += colours.y + colours.u + colours.v + image.alpha().values;
 }
 
 void ImageList::addRecord(RecordGroups &groups) const

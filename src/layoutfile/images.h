@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics/planes.h"
+#include "graphics/plane_picture.h"
 #include "layoutfile/layout_file.h"
 
 #include <map>
@@ -15,7 +15,7 @@ class ImageList
 {
 public:
     // To be called once for each bitmap record, in their order.
-    void add(const graphics::Planes &colours, const graphics::AlphaPlane &alpha);
+    void add(const graphics::PlanePicture &image);
     // Adds the record; none without images.
     void addRecord(RecordGroups &groups) const;
 
@@ -23,12 +23,12 @@ private:
     QByteArray m_planes;
 };
 
-// One image as it was read. Planes that the record does not hold in full are empty.
+// One image as it was read. It is none where the record does not hold its colours in full, and opaque where
+// its alpha plane is missing.
 struct StoredImage
 {
     int number = 0; // of its colours, from 0; that of its alpha plane is the next
-    graphics::Planes colours;
-    graphics::AlphaPlane alpha;
+    graphics::PlanePicture picture;
 };
 using StoredImages = std::map<qint16, StoredImage>; // by the bitmap record's object number
 

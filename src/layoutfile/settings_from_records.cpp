@@ -21,6 +21,16 @@ recorder::RecordingTrigger trigger(const Record &r)
     return {r.variable, listed(r.condition, recorder::LastCondition), r.value, r.time};
 }
 
+// The record holds a quarter of the pixels as U and as V also where a side is odd.
+graphics::PlanePicture pictureOf(const SpecialIconRecord &icon)
+{
+    const qsizetype luma = qsizetype{icon.width} * icon.height;
+    const qsizetype chroma = luma / 4;
+    return graphics::PlanePicture::fromFile({icon.width, icon.height, icon.planes.first(luma),
+                                             icon.planes.sliced(luma, chroma), icon.planes.last(chroma)},
+                                            {});
+}
+
 // One overload for each record that carries a setting. What no dialog could show does not get in: values
 // outside their list, records of a message or an icon that does not exist, a gear table without gears.
 class SettingsTaker
@@ -88,7 +98,7 @@ public:
     void operator()(const SpecialIconRecord &r)
     {
         if (r.entry == 1)
-            m_settings.icon = {true, r.width, r.height, r.top, r.left, r.alpha, r.planes};
+            m_settings.icon = {true, r.top, r.left, r.alpha, pictureOf(r)};
     }
 
 private:

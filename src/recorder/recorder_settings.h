@@ -1,8 +1,8 @@
 #pragma once
 
+#include "graphics/plane_picture.h"
 #include "recorder/message_table.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <vector>
@@ -54,16 +54,14 @@ struct GearLimits
     bool operator==(const GearLimits &) const = default;
 };
 
-// The recorder's one icon: its place and its planes (4:2:0), as they go to the file.
+// The recorder's one icon. Its size in the file is that of its planes.
 struct SpecialIcon
 {
     bool enabled = false;
-    qint16 width = 0; // pixels
-    qint16 height = 0;
-    qint16 top = 0;
+    qint16 top = 0; // pixels
     qint16 left = 0;
     quint8 alpha = 0;
-    QByteArray planes; // Y, then U, then V
+    graphics::PlanePicture picture;
 
     bool operator==(const SpecialIcon &) const = default;
 };

@@ -12,6 +12,7 @@ namespace {
 
 using namespace layoutfile;
 using graphics::AlphaPlane;
+using graphics::PlanePicture;
 using graphics::Planes;
 
 template <typename Record>
@@ -43,8 +44,8 @@ TEST(Images, standBackToBackInTheOrderOfTheBitmaps)
     ImageList().addRecord(groups);
     EXPECT_TRUE(groups.of(RecordType::ImagePlanes).empty());
     ImageList images;
-    images.add(Even, EvenAlpha);
-    images.add(Odd, OddAlpha);
+    images.add(PlanePicture::fromFile(Even, EvenAlpha));
+    images.add(PlanePicture::fromFile(Odd, OddAlpha));
     images.addRecord(groups);
     EXPECT_EQ(payloads<ImagePlanesRecord>(groups), std::vector{BothImages});
 }
@@ -53,7 +54,7 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
 {
     constexpr qint16 Largest = 32767;
     const Planes none;
-    const AlphaPlane noAlpha;
+    const AlphaPlane noAlpha, opaque{3, 3, QByteArray(9, '\xFF')};
     struct
     {
         const char *name;
@@ -66,7 +67,7 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
     } const cases[] = {
         {"whole", BothImages, bitmap(4, 2), Even, EvenAlpha, Odd, OddAlpha},
         {"bytes that nobody names", BothImages + "more", bitmap(4, 2), Even, EvenAlpha, Odd, OddAlpha},
-        {"cut in the last alpha plane", BothImages.chopped(1), bitmap(4, 2), Even, EvenAlpha, Odd, noAlpha},
+        {"cut in the last alpha plane", BothImages.chopped(1), bitmap(4, 2), Even, EvenAlpha, Odd, opaque},
         {"cut in the first chroma plane", BothImages.first(9), bitmap(4, 2), none, noAlpha, none, noAlpha},
         {"no planes", {}, bitmap(4, 2), none, noAlpha, none, noAlpha},
         {"the largest size", BothImages, bitmap(Largest, Largest), none, noAlpha, none, noAlpha},
@@ -77,10 +78,10 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
         const StoredImages images =
             storedImages({{7, c.first}, {3, bitmap(3, 3)}, {1, ImagePlanesRecord{Bulk{c.planes}}}});
         ASSERT_EQ(images.size(), 2U);
-        const StoredImage &first = images.at(7), &second = images.at(3);
-        EXPECT_TRUE(first.colours == c.expected && first.alpha == c.expectedAlpha) << c.name;
-        EXPECT_TRUE(second.colours == c.expectedOdd && second.alpha == c.expectedOddAlpha) << c.name;
-        EXPECT_TRUE(first.number == 0 && second.number == 2) << c.name;
+        const PlanePicture &first = images.at(7).picture, &second = images.at(3).picture;
+        EXPECT_TRUE(first.planes() == c.expected && first.alpha() == c.expectedAlpha) << c.name;
+        EXPECT_TRUE(second.planes() == c.expectedOdd && second.alpha() == c.expectedOddAlpha) << c.name;
+        EXPECT_TRUE(images.at(7).number == 0 && images.at(3).number == 2) << c.name;
     }
 }
 
@@ -95,7 +96,7 @@ TEST(Loading, findsWhatBelongsToARecordByTypeAndObjectNumber)
     const Loading load(records, folders, stamp, {});
     ASSERT_TRUE(load.find<LongTextRecord>(2) && load.find<TrackMapUnderlayRecord>(2) && load.imageOf(2));
     EXPECT_EQ(load.find<LongTextRecord>(2)->text.text, "Oil pressure, rear");
-    EXPECT_EQ(load.imageOf(2)->colours, Even);
+    EXPECT_EQ(load.imageOf(2)->picture.planes(), Even);
     EXPECT_FALSE(load.find<LongTextRecord>(1) || load.find<GaugeRecord>(2) || load.imageOf(1));
 }
 

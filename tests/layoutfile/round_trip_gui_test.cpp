@@ -40,7 +40,7 @@ RecordGroups someLayout()
     }
     groups.add(GearsRecord{0.5F, {0, 1.5F, 2.5F}, {1, 2, 3}, 1, 2});
     groups.add(ProgramsRecord{});
-    groups.add(SpecialIconRecord{1, 8, 2, 30, 40, 128, QByteArray(16, 'Y') + QByteArray(8, 'C')});
+    groups.add(SpecialIconRecord{1, 5, 3, 30, 40, 128, "YYYYYYYYYYYYYYYUUUVVV"}); // of odd sides
     return groups;
 }
 
