@@ -20,6 +20,18 @@ double outOfRange(QByteArrayView number)
     return negative ? -limit : limit;
 }
 
+// Adds one to a whole number of decimal digits.
+void countUp(QByteArray &digits)
+{
+    qsizetype place = digits.size() - 1;
+    for (; place >= 0 && digits[place] == '9'; --place)
+        digits[place] = '0';
+    if (place < 0)
+        digits.prepend('1');
+    else
+        ++digits[place];
+}
+
 } // namespace
 
 QString shortestText(float value, const QString &decimalMark)
@@ -32,6 +44,28 @@ QString shortestText(float value, const QString &decimalMark)
     QString text = QString::fromLatin1(buffer.data(), end - buffer.data()).toUpper();
     text.replace(QLatin1Char('.'), decimalMark);
     return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
+QString fixedText(float value, int places, const QString &decimalMark)
+{
+    if (!std::isfinite(value))
+        return shortestText(value, decimalMark);
+    std::array<char, 64> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                   std::chars_format::fixed)
+                         .ptr;
+    const QByteArray text(buffer.data(), end - buffer.data());
+    const qsizetype point = text.contains('.') ? text.indexOf('.') : text.size();
+    QByteArray digits = text.first(point) + text.mid(point + 1).leftJustified(places + 1, '0', true);
+    const bool roundsUp = digits.back() >= '5';
+    digits.chop(1);
+    if (roundsUp)
+        countUp(digits);
+    const bool isZero = digits.count('0') == digits.size();
+    QString fixed = QString::fromLatin1(digits);
+    if (places > 0)
+        fixed.insert(fixed.size() - places, decimalMark);
+    return value < 0 && !isZero ? QLatin1Char('-') + fixed : fixed;
 }
 
 double leadingNumber(const QString &text)

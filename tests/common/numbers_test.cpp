@@ -30,6 +30,18 @@ TEST(ShortestText, switchesToExponentsAndUsesTheDecimalMark)
         EXPECT_EQ(shortestText(value, ",").toStdString(), expected);
 }
 
+TEST(FixedText, roundsTheShortestTextWithHalvesAwayFromZero)
+{
+    constexpr float Largest = std::numeric_limits<float>::max();
+    const std::tuple<float, int, QString> cases[] = {
+        {1.5F, 2, "1,50"},       {2.675F, 2, "2,68"},        {-0.125F, 2, "-0,13"}, {0.994F, 2, "0,99"},
+        {9.995F, 2, "10,00"},    {-0.004F, 2, "0,00"},       {1e-5F, 5, "0,00001"}, {99.5F, 0, "100"},
+        {1e7F, 1, "10000000,0"}, {float(Infinite), 2, "INF"}};
+    for (const auto &[value, places, expected] : cases)
+        EXPECT_EQ(fixedText(value, places, ",").toStdString(), expected.toStdString());
+    EXPECT_EQ(fixedText(-Largest, 20).size(), 1 + 39 + 1 + 20);
+}
+
 TEST(Rounding, halvesGoToTheEvenNeighbourAndOverflowThrowsOrIsClamped)
 {
     EXPECT_EQ(toInteger<int>(10.5), 10);
