@@ -17,6 +17,13 @@ constexpr int CaptionWidth = 120;  // pixels, at least
 constexpr int HighestGroups = 690; // pixels; with frame and buttons 760, the room on a small screen
 constexpr const char *WidestUnit = "degrees ";
 
+QLabel *makeCaption(const char *text)
+{
+    auto *label = new QLabel(QString::fromUtf8(text));
+    label->setMinimumWidth(CaptionWidth);
+    return label;
+}
+
 // Rows may stand without a group.
 void beginRows(QFormLayout *&form, QVBoxLayout &body)
 {
@@ -84,8 +91,7 @@ QGroupBox &Dialog::addGroup(const char *title)
 void Dialog::addRow(Field &field, const char *caption, const char *unit)
 {
     beginRows(m_form, *m_body);
-    auto *label = new QLabel(QString::fromUtf8(caption));
-    label->setMinimumWidth(CaptionWidth);
+    QLabel *label = makeCaption(caption);
     field.setCaption(label);
     if (*unit == '\0') {
         m_form->addRow(label, field.cell());
@@ -103,6 +109,23 @@ void Dialog::addRow(const char *caption, QLayout *cells)
 {
     beginRows(m_form, *m_body);
     m_form->addRow(QString::fromUtf8(caption), cells);
+}
+
+void Dialog::addTurns(Field &field, Field &other)
+{
+    beginRows(m_form, *m_body);
+    QLabel *label = makeCaption("");
+    field.setCaption(label);
+    other.setCaption(label);
+    m_form->addRow(label, sideBySide({field.cell(), other.cell()}));
+}
+
+void Dialog::showTurn(Field &shown, Field &hidden, const char *caption)
+{
+    hidden.cell()->hide();
+    shown.cell()->show();
+    shown.caption()->setText(QString::fromUtf8(caption));
+    shown.setCaption(shown.caption());
 }
 
 void Dialog::addWide(QWidget *widget)

@@ -73,6 +73,9 @@ protected:
     QGroupBox &addGroup(const char *title);
     void addRow(Field &field, const char *caption, const char *unit = "");
     void addRow(const char *caption, QLayout *cells);
+    // Two fields in one row with one caption, of which one shows at a time.
+    void addTurns(Field &field, Field &other);
+    static void showTurn(Field &shown, Field &hidden, const char *caption);
     // A widget over the whole width of the group.
     void addWide(QWidget *widget);
     // The layout that the groups stand in.
