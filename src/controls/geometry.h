@@ -63,6 +63,13 @@ constexpr bool movesBottom(Handle h)
     return h == Handle::BottomLeft || h == Handle::BottomMiddle || h == Handle::BottomRight;
 }
 
+// One axis of the rule that keeps a control on the canvas: where its content begins once the box does not end
+// beyond it. All in pixels, `frame` being the editing frame.
+constexpr float pulledInto(float position, float outerSize, float frame, float canvas)
+{
+    return position + outerSize - frame > canvas ? canvas - outerSize + frame : position;
+}
+
 // The box at another size: the edges that the grip moves give way, the others stand.
 Box withSize(const Box &box, Handle handle, float width, float height);
 

@@ -70,7 +70,7 @@ public:
     void Deserialise(const QStringList &texts);
 
     // What the host drives
-    void setColour(quint32 colour, quint32 /*unused*/) { m_backColour = colour; }
+    void setColour(quint32 colour, quint32 /*unused*/) { values().backColour.setPacked(colour); }
     void setMode(Mode mode);
     Mode mode() const { return m_mode; }
     virtual void AssignProperties() = 0;
@@ -110,7 +110,6 @@ protected:
     virtual void settle() {}
 
     const platform::Screen &screen() const { return m_host.screen(); }
-    quint32 backColour() const { return m_backColour; }
 
 private:
     void setGridColour(quint32 colour);
@@ -120,25 +119,24 @@ private:
     int m_index = 0;
     Mode m_mode = Mode::Design;
     bool m_isGrouped = false;
-    quint32 m_backColour = 0;
     quint32 m_gridColour = FrameNormal;
     QRect m_shownArea; // as the host was told last
 };
 
 // The typed half of a family: its values struct and its table.
-template <typename Values>
-class ControlOf : public OverlayControl
+template <typename Values, typename Base = OverlayControl>
+class ControlOf : public Base
 {
 public:
-    using OverlayControl::OverlayControl;
+    using Base::Base;
 
     const Values &get() const { return m_values; }
-    // Takes over all properties at once; the box stays.
+    // Takes over all properties at once; box and background stay.
     void set(const Values &changed)
     {
-        const Box box = m_values.box;
+        const ControlValues own = m_values;
         m_values = changed;
-        m_values.box = box;
+        static_cast<ControlValues &>(m_values) = own;
     }
 
 protected:

@@ -19,6 +19,7 @@ namespace controls {
 struct ControlValues
 {
     Box box;
+    common::Colour backColour; // of the canvas, as the host gave it
 };
 
 // Text of a fixed width: cut or padded with blanks to N characters whenever it is set.

@@ -50,12 +50,6 @@ QPointF cornerOf(const BarGraphValues &values, const platform::Screen &screen)
     return screen.toPixels(QPointF(values.curLeft - FrameTwips, values.curTop - FrameTwips));
 }
 
-// One axis of the rule that keeps a bar on the canvas: all in pixels, `frame` being the editing frame.
-float pulledInto(float position, float outerSize, float frame, float canvas)
-{
-    return position + outerSize - frame > canvas ? canvas - outerSize + frame : position;
-}
-
 } // namespace
 
 const PropertyTable &barGraphProperties()
@@ -162,7 +156,7 @@ void BarGraph::paint(Composition &onto) const
                        curHeight());
     CompositionPainter painter(onto);
     if (onto.drawing == Drawing::Designed) // also an empty bar can be seen
-        painter.fillRect(whole, toQColor(backColour()));
+        painter.fillRect(whole, toQColor(m_values.backColour.packed()));
     else
         colour.setAlpha(m_values.curAlfa);
     painter.fillRect(filledPart(m_values, whole), colour);
