@@ -1,7 +1,9 @@
 #include "controls/factories.h"
 
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
+#include "controls/text_tag/text_tag.h"
 
 namespace controls {
 
@@ -20,6 +22,8 @@ struct FactoryRow
 };
 
 constexpr FactoryRow Factories[] = {
+    {ControlType::TextTag, make<TextTag>},
+    {ControlType::DigitalDisplay, make<DigitalDisplay>},
     {ControlType::BarGraph, make<BarGraph>},
     {ControlType::Gauge, make<Gauge>},
 };

@@ -1,7 +1,9 @@
 #include "controls/family_dialogs.h"
 
 #include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/digital_display/digital_display_dialog.h"
 #include "controls/gauge/gauge_dialog.h"
+#include "controls/text_tag/text_tag_dialog.h"
 
 namespace controls {
 
@@ -21,6 +23,8 @@ struct DialogRow
 };
 
 constexpr DialogRow Dialogs[] = {
+    {ControlType::TextTag, show<TextTag, TextTagDialog>},
+    {ControlType::DigitalDisplay, show<DigitalDisplay, DigitalDisplayDialog>},
     {ControlType::BarGraph, show<BarGraph, BarGraphDialog>},
     {ControlType::Gauge, show<Gauge, GaugeDialog>},
 };

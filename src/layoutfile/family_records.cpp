@@ -11,8 +11,8 @@ std::span<const FamilyRecord> familyRecords()
     static const std::array Records{
         FamilyRecord{.family = ControlType::VideoSource, .type = RecordType::VideoSource},
         FamilyRecord{.family = ControlType::Bitmap, .type = RecordType::Bitmap},
-        FamilyRecord{.family = ControlType::TextTag, .type = RecordType::TextTag},
-        FamilyRecord{.family = ControlType::DigitalDisplay, .type = RecordType::DigitalDisplay},
+        textTagRecord(),
+        digitalDisplayRecord(),
         barGraphRecord(),
         gaugeRecord(),
         FamilyRecord{.family = ControlType::TrackMap,

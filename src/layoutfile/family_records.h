@@ -41,6 +41,8 @@ std::span<const FamilyRecord> familyRecords();
 const FamilyRecord &recordOf(controls::ControlType family);
 const FamilyRecord &recordOf(RecordType type); // of a control's own record
 
+FamilyRecord textTagRecord();
+FamilyRecord digitalDisplayRecord();
 FamilyRecord barGraphRecord();
 FamilyRecord gaugeRecord();
 FamilyRecord customDialRecord();

@@ -1,5 +1,7 @@
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
+#include "controls/text_tag/text_tag.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +13,10 @@ using common::RunTimeError;
 constexpr platform::Screen Usual;
 // 0x80000005 is a system colour: negative as a signed number.
 const QString GaugeTexts = "1950.5|1965|6025|360|66|59|3|-2147483643|-90|45|-0.25|1E+07|0.1|7|1.5|2";
+// A colour stands in it twice; the second one counts.
+const QString DisplayTexts =
+    "1350.5|300|0|1|0|Block|14|1|0|255|4864815|1.50|2|360|66|255|2|-0.25|100|1.5|1|128|0|3|0.1|9";
+const QString TagTexts = "1350|300|1|0|1|Arial|9|0|1|16711680|7|Oil|2|-0.25|100|5|204|3|0.5|9";
 const QString BarTexts = "1950|450|2|20|16711680|100|-5.5|50|1|204|3|0.5|9";
 
 // What the rows of other families hold besides: text of a fixed width, elements without a name, a picture.
@@ -60,6 +66,11 @@ TEST(Serialise, eachFamilyHasItsElementsInItsOrderInTheLocalesNumbers)
     EXPECT_EQ(textsOf(barGraphProperties(), bar), BarTexts);
     EXPECT_EQ(barGraphProperties().reader("curWidth")->get(bar, {12, 10}), PropertyValue(150.0F));
     EXPECT_EQ(barGraphProperties().reader("curHeight")->get(bar, {12, 10}), PropertyValue(30.0F));
+
+    const auto display = valuesOf<DigitalDisplayValues>(digitalDisplayProperties(), DisplayTexts);
+    EXPECT_EQ(textsOf(digitalDisplayProperties(), display), DisplayTexts);
+    const auto tag = valuesOf<TextTagValues>(textTagProperties(), TagTexts);
+    EXPECT_EQ(textsOf(textTagProperties(), tag), TagTexts);
 
     EXPECT_EQ(textsOf(sampleProperties(), SampleValues()), "0|0|SPEED |255|255");
     const auto sample = valuesOf<SampleValues>(sampleProperties(), "1|2|revolutions|3|4");

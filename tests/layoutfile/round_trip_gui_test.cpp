@@ -1,4 +1,5 @@
 #include "layoutfile/saved_design.h"
+#include "support/block_font.h"
 
 #include <map>
 #include <set>
@@ -11,11 +12,36 @@ using test::DesignWindow;
 
 constexpr common::Yuv Grey{128, 128, 128}; // would climb at every load if it were made anew from its colour
 
+const FixedText<30> BlockFile{"Block  12.qlg"}, OtherFile{"Block B 14.qlg"};
+
+// Fonts of blocks, back to back, and their directories.
+void addBlockFonts(RecordGroups &groups, int count)
+{
+    const auto [standard, extended] = test::blockFont();
+    for (int id = 0; id < count; ++id) {
+        const auto entry = [id](const QByteArray &file) {
+            return std::tuple(static_cast<quint8>(id), static_cast<qint32>(file.size()),
+                              static_cast<qint32>(id * file.size()));
+        };
+        groups.add(std::make_from_tuple<FontDirectoryRecord>(entry(standard)));
+        groups.add(std::make_from_tuple<ExtendedFontDirectoryRecord>(entry(extended)));
+    }
+    groups.add(FontRastersRecord{Bulk{standard.repeated(count)}});
+    groups.add(ExtendedFontRastersRecord{Bulk{extended.repeated(count)}});
+}
+
 // All that a design of the test world's variables and one more, 30, can hold, but for its thumbnail.
 RecordGroups someLayout()
 {
     RecordGroups groups;
     // Vertical bars rise from their lower edge; exchanged limits turn a bar round.
+    // Texts of 10 pixels a character; one that is longer than its record has one more.
+    groups.add(TextTagRecord{-700, 40, 255, Grey, 1, 2, 3, {"Left, right"}, 11, 0, BlockFile, 3, 0, 0, 0});
+    groups.add(TextTagRecord{0, 80, 9, Grey, 0, 0, 5, {"dd/mm/yy"}, 8, 0, BlockFile, 0, 2, -1, 1});
+    groups.add(LongTextRecord{{"Left, right and centre"}, 22}, 1);
+    groups.add(DigitalDisplayRecord{-400, 250, 128, Grey, 254, 0, 1, 2, 1.5F, 3, 0, 0, 0, 1, OtherFile});
+    groups.add(DigitalDisplayRecord{10, 20, 255, Grey, 3, 1, 0, 0, 7, 0, 2, -1, 1, 0, BlockFile});
+    addBlockFonts(groups, 2);
     groups.add(BarGraphRecord{55, 65, 175, 65, 128, 20, Grey, 0, 100, 30, 3, 30, -1, 1});
     groups.add(BarGraphRecord{175, 125, 55, 125, 255, 20, Grey, 100, 0, 30, 3, 0, 0, 0});
     groups.add(BarGraphRecord{305, 185, 305, 65, 255, 20, Grey, 0, 100, 30, 3, 0, 0, 0});
@@ -61,6 +87,24 @@ const Linked LinkedFamilies[] = {
       {"newMin", -1.5F}, {"newMax", 100.0F}, {"newDefaultVal", 0.5F}, {"newColourVariable", 3},
       {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F}},
      "6801 FA00 C8 05 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"},
+    // "00:00:00.50" in blocks of 8 pixels and 2 between them: it ends at 470
+    {controls::ControlType::DigitalDisplay, controls::digitalDisplayProperties(),
+     {{"newDAlign", 1}, {"newBold", 1}, {"newItalic", 1}, {"newFontName", "Block"}, {"newFontSize", 12},
+      {"newStrikethrough", 1}, {"newUnderline", 1}, {"newDText", "none"}, {"newVarID", 2}, {"newCenterX", 360},
+      {"newCenterY", 250}, {"newColour", 255}, {"newDecPlaces", 2}, {"newLowerLimit", -1.5F},
+      {"newUpperLimit", 100.0F}, {"newDefaultVal", 0.5F}, {"newDecMark", 1}, {"newAlfa", 128},
+      {"newTimeFormat", 1}, {"newColourVariable", 3}, {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F},
+      {"newBkColour", 7}},
+     "2AFE FA00 80 525BF0 FE 01 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"
+     "00 'Block BISU 12.qlg' 00 '            '"},
+    {controls::ControlType::TextTag, controls::textTagProperties(),
+     {{"newTAlign", 0}, {"newBold", 1}, {"newItalic", 1}, {"newFont", "Block"}, {"newFontSize", 12},
+      {"newStrikethrough", 1}, {"newUnderline", 1}, {"newForeColour", 255}, {"newBkColour", 7},
+      {"newTText", "Oil pressure"}, {"newVarID", 2}, {"newLowerLimit", -1.5F}, {"newUpperLimit", 100.0F},
+      {"newDefaultVal", 0.5F}, {"newAlfa", 128}, {"newColourVariable", 3}, {"newColourVarMin", 1.0F},
+      {"newColourVarMax", 2.0F}, {"newCenterX", 360}, {"newCenterY", 250}},
+     "6801 FA00 80 525BF0 0000C0BF 0000C842 0000003F 'Oil pressur' 00 0B 00 'Block BISU 12.qlg' 00 '            '"
+     "02000000 03000000 0000803F 00000040"},
     // upright, so it starts at its lower edge; 20 pixels long, the inner height of a new bar
     {controls::ControlType::BarGraph, controls::barGraphProperties(),
      {{"newVarID", 2}, {"newBarWidth", 30}, {"newColour", 255}, {"newMin", -1.5F}, {"newMax", 100.0F},
@@ -74,6 +118,7 @@ TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
 {
     for (const Linked &linked : LinkedFamilies) {
         DesignWindow d;
+        test::writeBlockFont(d.world, {"Block", 12, {true, true, true, true}});
         d.design().addControl(linked.family, {});
         controls::OverlayControl &control = *d.design().controls().last();
         for (const controls::PropertyRow &row : linked.properties.rows) {
@@ -92,6 +137,8 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     d.world.addVariable(30, "Oil temperature");
     d.world.addVariable(31, "Not in use");
     d.world.state.catalogue.live[31].Enabled = false;
+    for (const graphics::FontRequest &font : {graphics::FontRequest{"Block", 12, {}}, {"Block", 14, {true}}})
+        test::writeBlockFont(d.world, font);
     RecordGroups groups = someLayout();
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
     const QByteArray file = test::savedDesign(d);
@@ -99,9 +146,10 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     EXPECT_EQ(file.toHex(), assembleLayout(groups, d.world.state.stamp).toHex());
 
     const auto box = [&d](int control) { return d.design().controls().at(control)->box(); };
-    EXPECT_EQ(box(0), (Box{55 * 15 - 75, 65 * 15 - 75, 120 * 15 + 150, 20 * 15 + 150}));
-    EXPECT_EQ(box(3), (Box{365 * 15 - 75, 65 * 15 - 75, 20 * 15 + 150, 120 * 15 + 150}));
-    EXPECT_EQ(box(4), (Box{105 * 15 - 75, 105 * 15 - 75, 130 * 15 + 150, 130 * 15 + 150}));
+    EXPECT_EQ(box(0), (Box{480 * 15 - 75, 40 * 15 - 75, 220 * 15 + 150, 10 * 15 + 150}));
+    EXPECT_EQ(box(4), (Box{55 * 15 - 75, 65 * 15 - 75, 120 * 15 + 150, 20 * 15 + 150}));
+    EXPECT_EQ(box(7), (Box{365 * 15 - 75, 65 * 15 - 75, 20 * 15 + 150, 120 * 15 + 150}));
+    EXPECT_EQ(box(8), (Box{105 * 15 - 75, 105 * 15 - 75, 130 * 15 + 150, 130 * 15 + 150}));
     EXPECT_EQ(d.canvas().height(), 480);
     EXPECT_EQ(d.text("lblBitRate"), "Bit Rate 12 Mbps");
     EXPECT_TRUE(d.action("mnuIP").isChecked());
@@ -119,7 +167,7 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     std::set<std::pair<controls::ControlType, int>> elements;
     for (const controls::OverlayControl *control : d.design().controls())
         elements.insert({control->family().type, control->Index()});
-    EXPECT_EQ(elements.size(), 12U);
+    EXPECT_EQ(elements.size(), 20U);
 }
 
 TEST(Load, theNeedleOfADialIsNoControlOfItsOwn)
@@ -167,14 +215,18 @@ TEST(Load, extremeValuesLeaveADesignThatWorks)
     for (const auto &[low, high, min, max] : ranges) {
         groups.add(BarGraphRecord{low, high, high, high, 255, 255, {}, min, max, Nan, Low, -1, Nan, Nan});
         groups.add(BarGraphRecord{low, low, low, high, 0, 0, {}, min, max, 0, 9000, 9000, 0, 0});
+        groups.add(TextTagRecord{low, high, 0, {}, min, max, Nan, {}, 255, 255, {}, Low, -1, Nan, Nan});
+        groups.add(DigitalDisplayRecord{
+            high, low, 255, {}, 127, 255, min, max, Infinite, -1, 9000, 0, 0, 9, {"../x B 0.qlg"}});
         groups.add(GaugeRecord{low, high, 255, 255, {}, low, high, min, max, Nan, -1, 9000, Nan, 0});
         groups.add(GaugeRecord{high, low, 0, 0, {}, high, low, min, max, Infinite, 9000, -1, 0, Nan});
     }
+    groups.add(LongTextRecord{{"of a text that is not there"}, 27}, 9);
     groups.add(VariableEntry{2, 1, Nan, Infinite, -1, 1});
     groups.add(ChapterRecord{255, Nan, 255, -5, 255, Infinite});
     DesignWindow d;
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
-    EXPECT_EQ(d.design().controls().size(), 12);
+    EXPECT_EQ(d.design().controls().size(), 18);
     EXPECT_FALSE(d.canvas().grab().isNull());
     const variables::VariableRecord &speed = d.world.state.catalogue.live[2];
     EXPECT_TRUE(speed.SmoothingTime == 0 && speed.MaximumROC == 0);

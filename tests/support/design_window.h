@@ -1,7 +1,9 @@
 #pragma once
 
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
+#include "controls/text_tag/text_tag.h"
 #include "platform/settings_keys.h"
 #include "shell/frm_main.h"
 #include "support/test_world.h"
@@ -67,6 +69,14 @@ struct DesignWindow
     controls::BarGraph &addBar(int x, int y)
     {
         return add<controls::BarGraph>(controls::ControlType::BarGraph, x, y);
+    }
+    controls::DigitalDisplay &addDisplay(int x, int y)
+    {
+        return add<controls::DigitalDisplay>(controls::ControlType::DigitalDisplay, x, y);
+    }
+    controls::TextTag &addTag(int x, int y)
+    {
+        return add<controls::TextTag>(controls::ControlType::TextTag, x, y);
     }
 
     World world;

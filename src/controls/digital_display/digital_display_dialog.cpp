@@ -1,0 +1,111 @@
+#include "controls/digital_display/digital_display_dialog.h"
+
+#include <algorithm>
+
+namespace controls {
+
+namespace {
+
+using V = LimitedDisplay;
+
+constexpr int MostPlaces = 20;
+
+LimitedDisplay shownValues(const DigitalDisplay &display)
+{
+    const DigitalDisplayValues &values = display.get();
+    return {values, values.curLowerLimit != 0 || values.curUpperLimit != 0};
+}
+
+// As far as what was typed so far can be shown.
+DigitalDisplayValues typedFormat(const forms::Typed &typed)
+{
+    DigitalDisplayValues values;
+    const double places = common::parseNumber(typed.text("txtDecimalPlaces"));
+    values.curDecPlaces =
+        static_cast<quint8>(std::clamp(common::toIntegerClamped<int>(places), 0, MostPlaces));
+    values.curDecMark = typed.row("cmbDecMark") == 1;
+    values.curTimeFormat = typed.isOn("chkShowInTimeFormat");
+    values.curDefaultVal = static_cast<float>(common::parseNumber(typed.text("txtDefaultVal")));
+    return values;
+}
+
+// What the preview reads when the kind of format has just been chosen.
+QString patternOf(DigitalDisplayValues format)
+{
+    if (format.curTimeFormat == 0)
+        return QStringLiteral("0.00");
+    format.curDefaultVal = 0;
+    return displayText(format);
+}
+
+} // namespace
+
+std::optional<forms::Verdict> validateDigitalDisplay(const forms::Typed &typed)
+{
+    const double alpha = typed.number("txtAlfa");
+    if (typed.number("txtDecimalPlaces") > MostPlaces)
+        return forms::refusal(QStringLiteral("Invalid number of Decimal Places"), platform::Icon::Critical);
+    if (typed.isOn("chkApplyLimits") && typed.number("txtLowerLimit") == 0 &&
+        typed.number("txtUpperLimit") == 0)
+        return forms::refusal(QStringLiteral("Upper and lower limit can't be 0"));
+    if (alpha < 0 || alpha > 255) // although it is a percentage: deliberate
+        return forms::refusal(QStringLiteral("Invalid Alpha Value"));
+    return std::nullopt;
+}
+
+DigitalDisplayDialog::DigitalDisplayDialog(DigitalDisplay &display)
+    : TextDialog(display, QStringLiteral("Digital Display Properties"), shownValues(display)),
+      m_display(display)
+{
+    addGroup("Variable");
+    variable(&V::curVarID, {"cmbVariable", "Va&riable"});
+    addFormat();
+    addLimits();
+    addGroup("Place and font");
+    placeRows();
+    fontRow();
+    addGroup("Colour");
+    colourAndOpacity();
+    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+}
+
+void DigitalDisplayDialog::addFormat()
+{
+    addGroup("Format");
+    auto &value = number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
+    auto &places = number(&V::curDecPlaces, {"txtDecimalPlaces", "Decimal &places"});
+    auto &mark = choice(&V::curDecMark, {"cmbDecMark", "Decimal &mark"},
+                        {{QStringLiteral("Dot (.)"), 0}, {QStringLiteral("Comma (,)"), 1}}, 1);
+    mark.caption()->setObjectName(QStringLiteral("lblDecSymbol"));
+    auto &time = check(&V::curTimeFormat, "chkShowInTimeFormat", "Show in &time format");
+    auto *preview = new QLabel(displayText(kept()));
+    preview->setObjectName(QStringLiteral("lblPreview"));
+    auto *cell = new QHBoxLayout;
+    cell->addWidget(preview);
+    addRow("Preview", cell);
+    follow([&mark, &time] { mark.setEnabled(!time.isOn()); });
+    react(time, [this, preview] { preview->setText(patternOf(typedFormat(typed()))); });
+    for (forms::Field *field : std::initializer_list<forms::Field *>{&value, &places, &mark})
+        react(*field, [this, preview] { preview->setText(displayText(typedFormat(typed()))); });
+}
+
+void DigitalDisplayDialog::addLimits()
+{
+    addGroup("Limits");
+    auto &limited = check(&V::isLimited, "chkApplyLimits", "Limit the &value displayed");
+    auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "Lo&wer limit"});
+    auto &upper = number(&V::curUpperLimit, {"txtUpperLimit", "&Upper limit"});
+    enableBy(limited, {&lower, &upper});
+}
+
+void DigitalDisplayDialog::set(LimitedDisplay &values)
+{
+    if (!values.isLimited) {
+        values.curLowerLimit = 0;
+        values.curUpperLimit = 0;
+    }
+    m_display.arrange(values);
+    m_display.set(values);
+}
+
+} // namespace controls

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common/code_page.h"
+#include "controls/text/text_control.h"
+#include "layoutfile/font_list.h"
+
+namespace layoutfile {
+
+// What the records of a display and of a text tag have in common, beside their positions.
+
+void linkText(auto &values, auto &record, auto field)
+{
+    field(values.curVarID, record.variable);
+    field(values.curAlfa, record.alpha);
+    field(values.curColour, record.colour);
+    field(values.curLowerLimit, record.lowerLimit);
+    field(values.curUpperLimit, record.upperLimit);
+    field(values.curDefaultVal, record.defaultValue);
+    field(values.curColourVariable, record.colourVariable);
+    field(values.curColourVarMin, record.colourVariableMin);
+    field(values.curColourVarMax, record.colourVariableMax);
+}
+
+// `usualSize`, in points, is the family's.
+void putFont(const controls::TextValues &values, int usualSize, FontList &fonts, auto &record)
+{
+    const FontList::Name name = fonts.add(values.font(), usualSize);
+    record.fontId = name.id;
+    record.fontFile = name.file;
+}
+
+void takeFont(controls::TextValues &values, const auto &record)
+{
+    const auto font = graphics::splitFontFileName(common::fromCodePage(record.fontFile.text));
+    values.face = font.face;
+    values.curFontSize = static_cast<qint16>(font.size);
+    values.curBold = font.style.bold;
+    values.curItalic = font.style.italic;
+    values.curStrikethrough = font.style.strikethrough;
+    values.curUnderline = font.style.underline;
+}
+
+// The place in a record: the sign of x tells the alignment. The control resolves a right edge once its text
+// is known.
+inline void takePlace(controls::TextValues &values, qint16 x, qint16 y)
+{
+    values.align = static_cast<quint8>(x < 0 ? controls::TextAlign::Right : controls::TextAlign::Left);
+    values.curCenterX = x;
+    values.curCenterY = y;
+}
+
+} // namespace layoutfile
