@@ -155,14 +155,8 @@ class Desktop:
             time.sleep(POLL)
 
     def _xdotool(self, *arguments: str) -> subprocess.CompletedProcess:
-        return subprocess.run(
-            ("xdotool", *arguments),
-            env=self._environment,
-            capture_output=True,
-            text=True,
-            timeout=LONGEST_WAIT,
-            check=False,
-        )
+        quietly = {"capture_output": True, "text": True, "check": False, "timeout": LONGEST_WAIT}
+        return subprocess.run(("xdotool", *arguments), env=self._environment, **quietly)
 
     def _ask(self, *arguments: str) -> str:
         """What the command prints; nothing when it fails, as it does for a window that has just gone."""
@@ -176,15 +170,14 @@ class Desktop:
 
     def wait_for_rest(self) -> list[bytes]:
         """Waits until two pictures of the screen are the same, and answers it."""
-        last: list[bytes] = []
+        pictures: list[list[bytes]] = [[]]
 
         def still() -> bool:
-            nonlocal last
-            previous, last = last, self.screen.rows()
-            return previous == last
+            pictures.append(self.screen.rows())
+            return pictures[-2] == pictures[-1]
 
         self.wait("a screen at rest", still)
-        return last
+        return pictures[-1]
 
     def windows(self) -> dict[int, str]:
         """The visible windows of the program with their titles."""

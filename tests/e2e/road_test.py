@@ -16,8 +16,7 @@ from pathlib import Path
 from typing import Iterator
 
 from desktop import Desktop, Failure, missing_tools
-from layout_reader import BarGraph, Damage, Gauge, Layout, Record
-from layout_reader import bar_graph, gauge, jpeg_size, read_layout, variable
+from layout_reader import Damage, Layout, read_layout
 from tool import Tool, expect
 
 SKIPPED = 77
@@ -34,14 +33,15 @@ GRIP_TARGET = (233, 252)  # on the canvas; the height decides: 3780 twips, on th
 GAUGE_RESIZED = (191, 191)  # 2860 twips
 
 RECOVERY = Path("data_home", "Torvane", "MORVELRecovery.VGL")
+BAR_GRAPHS, GAUGES, VARIABLES = 5, 6, 7  # types of records
 SPEED = 2
 ALWAYS_STORED = 10
 RED_YUV = (82, 91, 240)
 
 # 4555, 5435 and 6355 twips of its inner edges, divided without rest.
-EXPECTED_BAR = BarGraph(303, 362, 423, 362, 255, 20, *RED_YUV, 0.0, 100.0, 0.0, 0, 0, 0.0, 0.0)
+EXPECTED_BAR = (303, 362, 423, 362, 255, 20, *RED_YUV, 0.0, 100.0, 0.0, 0, 0, 0.0, 0.0)
 # 2860 twips are 190 pixels, half of them less the frame's 5 are 90; so far behind the frame lies the pivot.
-EXPECTED_GAUGE = Gauge(135, 155, 90, 6, *RED_YUV, -90, 90, 20.0, 220.0, 120.0, SPEED, 0, 0.0, 0.0)
+EXPECTED_GAUGE = (135, 155, 90, 6, *RED_YUV, -90, 90, 20.0, 220.0, 120.0, SPEED, 0, 0.0, 0.0)
 
 
 def design(desktop: Desktop, tool: Tool) -> None:
@@ -74,28 +74,21 @@ def design(desktop: Desktop, tool: Tool) -> None:
 def check_layout(layout: Layout, begun: datetime.datetime) -> None:
     if not begun.replace(second=0, microsecond=0) <= layout.saved <= datetime.datetime.now():
         raise Failure(f"the file is stamped {layout.saved}")
-    expect("user in the header", layout.user, pwd.getpwuid(os.getuid()).pw_name[:19])
-    expect("computer in the header", layout.computer, socket.gethostname()[:19])
-    expect("bar graphs", [bar_graph(record) for record in layout.of(5)], [EXPECTED_BAR])
-    expect("gauges", [gauge(record) for record in layout.of(6)], [EXPECTED_GAUGE])
-    used = {entry.index for entry in map(variable, layout.of(7)) if entry.used}
-    expect("used variables", used, {SPEED, ALWAYS_STORED})
-    expect("size of the thumbnail", jpeg_size(layout.of(23)[0].payload), (120, 96))
-
-
-def controls_of(layout: Layout) -> list[Record]:
-    return layout.of(5) + layout.of(6)
+    expect("user in the header", layout.user, pwd.getpwuid(os.getuid()).pw_name[:19].encode())
+    expect("computer in the header", layout.computer, socket.gethostname()[:19].encode())
+    expect("bar graphs", layout.of(BAR_GRAPHS), [EXPECTED_BAR])
+    expect("gauges", layout.of(GAUGES), [EXPECTED_GAUGE])
+    expect("used variables", {index for index, used, *_ in layout.of(VARIABLES) if used}, {SPEED, ALWAYS_STORED})
 
 
 def crash(desktop: Desktop, tool: Tool, home: Path) -> None:
     """What was designed is there again after a crash, with nothing saved by hand."""
     recovery = home / RECOVERY
 
-    def is_complete() -> bool:
-        layout = read_layout(recovery) if recovery.exists() else None
-        return layout is not None and [gauge(record) for record in layout.of(6)] == [EXPECTED_GAUGE]
-
-    desktop.wait("the recovery file", is_complete)
+    desktop.wait(
+        "the recovery file",
+        lambda: recovery.exists() and read_layout(recovery).of(GAUGES) == [EXPECTED_GAUGE],
+    )
     tool.kill()
     tool.start()
     tool.load_last_layout()
@@ -120,7 +113,9 @@ def go(desktop: Desktop, tool: Tool, home: Path) -> None:
     second = home / "AGAIN.VGL"
     tool.save_as(second)
     tool.quit()
-    expect("controls after coming back", controls_of(read_layout(second)), controls_of(layout))
+    again = read_layout(second)
+    for kind in (BAR_GRAPHS, GAUGES):
+        expect("controls after coming back", again.of(kind), layout.of(kind))
 
 
 @contextlib.contextmanager

@@ -17,14 +17,8 @@ DRAG_PICTURE = 28  # side of what hangs at the pointer, pixels right of it and b
 
 # The Add Control menu from top to bottom, whether they can be chosen or not.
 FAMILIES = (
-    "Video Source",
-    "Bitmap",
-    "Simple Text",
-    "Digital Display",
-    "Bar graph",
-    "Analogue Dial",
-    "Track Map",
-    "Custom Dial",
+    *("Video Source", "Bitmap", "Simple Text", "Digital Display"),
+    *("Bar graph", "Analogue Dial", "Track Map", "Custom Dial"),
 )
 
 
