@@ -3,11 +3,9 @@
 #include "forms/file_field.h"
 #include "forms/font_field.h"
 #include "support/scripted_prompts.h"
-
-#include <QtTest/QtTest>
+#include "support/widgets.h"
 
 #include <array>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -89,9 +87,9 @@ public:
     template <typename Widget>
     Widget &find(const char *name)
     {
-        return *findChild<Widget *>(QLatin1String(name));
+        return test::child<Widget>(*this, name);
     }
-    void press(const char *name) { find<QPushButton>(name).click(); }
+    void press(const char *name) { test::press(*this, name); }
     void type(const char *name, const QString &text) { find<QLineEdit>(name).setText(text); }
 
     Box taken;
@@ -115,7 +113,7 @@ TEST_F(Dialogs, keepWhatWasNotTouchedExactly)
     EXPECT_EQ(dialog.find<QLineEdit>("txtAlfa").text(), "39");
     EXPECT_EQ(dialog.find<QComboBox>("cmbKind").currentIndex(), -1);
     dialog.press("cmdApply");
-    EXPECT_TRUE(dialog.isVisible() && dialog.applies == 1);
+    EXPECT_EQ(std::pair(dialog.isVisible(), dialog.applies), std::pair(true, 1));
     EXPECT_EQ(dialog.taken, Box());
     EXPECT_EQ(dialog.taken.edge.yuv(), (common::Yuv{81, 90, 239}));
 }
@@ -145,21 +143,24 @@ TEST_F(Dialogs, takeWhatWasTypedAndChosenAndStayOpenForMore)
 
     dialog.type("txtSize", "9");
     dialog.press("cmdCancel");
-    EXPECT_TRUE(!dialog.isVisible() && box.size == 2.5F);
+    EXPECT_EQ(std::pair(dialog.isVisible(), box.size), std::pair(false, 2.5F));
 }
 
 TEST_F(Dialogs, giveEachSwatchItsOwnReset)
 {
     auto &edge = dialog.find<forms::ColourSwatch>("picEdge");
     auto &ground = dialog.find<forms::ColourSwatch>("picGround");
-    prompts.expectColour(qRgb(1, 2, 3));
-    ground.click();
-    EXPECT_EQ(ground.colour(), 0x030201u);
+    for (const auto &answer : {std::optional<QRgb>(qRgb(1, 2, 3)), std::optional<QRgb>()}) {
+        prompts.expectColour(answer);
+        ground.click();
+        EXPECT_EQ(ground.colour(), 0x030201u);
+    }
+    EXPECT_EQ(ground.grab().toImage().pixelColor(20, 12), QColor(1, 2, 3));
     edge.setColour(0);
     dialog.press("cmdResetGround");
-    EXPECT_TRUE(edge.colour() == 0 && ground.colour() == 0xFFFFFF);
+    EXPECT_EQ(std::pair(edge.colour(), ground.colour()), std::pair(0U, 0xFFFFFFU));
     dialog.press("cmdResetEdge");
-    EXPECT_TRUE(edge.colour() == 0xFF && ground.colour() == 0xFFFFFF);
+    EXPECT_EQ(std::pair(edge.colour(), ground.colour()), std::pair(0xFFU, 0xFFFFFFU));
 }
 
 TEST_F(Dialogs, asRulesInOrderAndCorrectWhatIsAgreed)
@@ -179,7 +180,7 @@ TEST_F(Dialogs, asRulesInOrderAndCorrectWhatIsAgreed)
     dialog.type("txtSize", "1");
     prompts.expectConfirm("Correct it?", false);
     dialog.press("cmdOk");
-    EXPECT_TRUE(limit.text() == "13" && dialog.applies == 0);
+    EXPECT_EQ(std::pair(limit.text(), dialog.applies), std::pair(QString("13"), 0));
     dialog.find<QPlainTextEdit>("txtNote").setPlainText("ask");
     prompts.expectConfirm("Correct it?", true);
     prompts.expectQuestion("Asked?", true);
@@ -213,7 +214,7 @@ TEST_F(Dialogs, shareNoMnemonic)
     keys.removeAll(QString());
     const qsizetype all = keys.size();
     EXPECT_EQ(keys.removeDuplicates(), 0) << all;
-    EXPECT_TRUE(keys.contains("Alt+O") && dialog.find<QPushButton>("cmdOk").text() == "&OK");
+    EXPECT_EQ(dialog.find<QPushButton>("cmdOk").text(), "&OK");
 }
 
 // Higher than a small screen, with a focus that goes down one column after the other.
@@ -236,7 +237,8 @@ TEST(Columns, keepATallDialogOnASmallScreen)
 {
     test::ScriptedPrompts prompts;
     TallDialog dialog(prompts);
-    EXPECT_TRUE(dialog.height() <= 760 && dialog.width() <= 1280) << dialog.height();
+    EXPECT_LE(dialog.height(), 760);
+    EXPECT_LE(dialog.width(), 1280);
     QWidget *field = dialog.findChild<QLineEdit *>();
     for (QPoint last; field->objectName() == "txt"; field = field->nextInFocusChain()) {
         const QPoint place = field->mapTo(&dialog, QPoint());

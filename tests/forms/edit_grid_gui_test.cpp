@@ -1,10 +1,8 @@
 #include "forms/edit_grid.h"
+#include "support/widgets.h"
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest/QtTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -17,18 +15,20 @@ TEST(EditGrid, editsByTextBoxAndListAndLeavesTheOtherColumnsAlone)
     grid.setCell(0, 1, "slow");
     grid.setEditor(rates, {1});
     grid.setEditor(value, {2});
-    grid.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
-    EXPECT_FALSE(rates->isVisible() || value->isVisible()); // the first column has no editor
+    const auto shown = [&] { return QList<bool>{rates->isVisible(), value->isVisible()}; };
+    test::show(grid);
+    EXPECT_EQ(shown(), (QList<bool>{false, false})); // the first column has no editor
 
     grid.setCurrentCell(0, 1);
-    EXPECT_TRUE(rates->isVisible() && rates->currentText() == "slow");
+    EXPECT_EQ(shown(), (QList<bool>{true, false}));
+    EXPECT_EQ(rates->currentText(), "slow");
     EXPECT_EQ(rates->geometry(), grid.visualRect(grid.currentIndex()));
     grid.setFocus();
     QTest::keyClick(rates, Qt::Key_Up);
     EXPECT_EQ(grid.cells()[0][1], "fast");
     QTest::keyClick(rates, Qt::Key_Right);
-    EXPECT_TRUE(value->isVisible() && value->hasFocus() && !rates->isVisible());
+    EXPECT_EQ(shown(), (QList<bool>{false, true}));
+    EXPECT_TRUE(value->hasFocus());
     QTest::keyClicks(value, "12");
     QTest::keyClick(value, Qt::Key_Return);
     EXPECT_EQ(grid.currentRow(), 1);

@@ -16,7 +16,7 @@ TEST(Corpus, keepsEveryPromise)
                                                                          {"font", &fuzz::font},
                                                                          {"expression", &fuzz::expression}};
     for (const auto &[name, keepsPromises] : targets) {
-        const QDir folder(QStringLiteral(FUZZ_CORPUS "/fuzz_") + QLatin1String(name));
+        const QDir folder(QStringLiteral(FUZZ_CORPUS "/fuzz_") + name);
         const QFileInfoList files = folder.entryInfoList(QDir::Files);
         EXPECT_FALSE(files.isEmpty()) << name;
         for (const QFileInfo &file : files)

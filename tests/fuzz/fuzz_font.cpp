@@ -64,7 +64,7 @@ bool draws(QByteArrayView standard, QByteArrayView extended)
     graphics::TextLook look;
     look.position = {-3, -2};
     look.opacity = 200;
-    const QString text = QStringLiteral("(A! j\u00e9");
+    const QString text = "(A! j\u00e9";
     return drawText(*font, text, look, surface).width == font->penBehind(text, -3);
 }
 
@@ -73,8 +73,7 @@ QByteArray emptyFont(int count) { return QByteArray(FixedPart + PartOfGlyph * co
 bool namesStayInside(const QString &name)
 {
     const QString again = graphics::fontFileName(graphics::splitFontFileName(name));
-    return !again.contains(QLatin1Char('/')) && !again.contains(QLatin1Char('\\')) &&
-           !again.startsWith(QLatin1Char('.'));
+    return !again.contains('/') && !again.contains('\\') && !again.startsWith('.');
 }
 
 } // namespace

@@ -1,11 +1,20 @@
 #include "fuzz/targets.h"
 
+#include "graphics/composer.h"
+#include "graphics/picture_loader.h"
+#include "graphics/planes.h"
 #include "layoutfile/fold_variables.h"
 #include "layoutfile/layout_file.h"
 #include "layoutfile/modCRC.h"
 #include "layoutfile/settings_from_records.h"
 #include "platform/guards.h"
 #include "variables/definition_file.h"
+#include "variables/expression/compiler.h"
+#include "variables/expression/evaluator.h"
+#include "variables/expression/rebuilder.h"
+#include "variables/units.h"
+
+#include <QSize>
 
 #include <algorithm>
 #include <cstring>
@@ -49,6 +58,49 @@ bool foldsIn(const std::vector<LayoutRecord> &records)
     return catalogue.live.size() == variables::LastIndex + 1;
 }
 
+using namespace variables::expression;
+
+constexpr int Owner = 42;
+constexpr qsizetype MostBytes = 257;
+
+// What compiles runs to its end, and what is rebuilt from it compiles to the same bytes.
+bool comesBack(const QString &equation, const platform::NumberLocale &locale)
+{
+    QByteArray program, again;
+    QString text;
+    if (!compile(equation, program, Owner, locale))
+        return program.isEmpty();
+    return program.size() <= MostBytes && Standard(program).status == RunStatus::Ended &&
+           rebuildEquation(program, Owner, locale, text) && compile(text, again, Owner, locale) &&
+           again == program;
+}
+
+bool isBounded(QByteArrayView program)
+{
+    QString text;
+    const bool rebuilt = rebuildEquation(program, Owner, {}, text);
+    return rebuilt ? text.size() <= qsizetype{LongestEquation} : text.isEmpty();
+}
+
+constexpr int MaxSide = 48;
+
+// Either a picture within the limit that goes through planes and composer, or nothing and a reason.
+bool holds(QByteArrayView bytes)
+{
+    const graphics::LoadedPicture loaded = graphics::readPicture(bytes, MaxSide);
+    if (!loaded)
+        return loaded.picture.isNull();
+    const QSize size = loaded.picture.size();
+    if (size.isEmpty() || size.width() > MaxSide || size.height() > MaxSide)
+        return false;
+    const QSize padded = graphics::paddedSize(size);
+    const graphics::Planes planes = graphics::toPlanes(loaded.picture, padded);
+    QImage surface = graphics::toPicture(planes);
+    graphics::compose(surface, {1, -1}, loaded.picture, graphics::toAlphaPlane(loaded.picture, padded), 200);
+    return planes.isComplete() && surface.size() == padded &&
+           graphics::sampled(loaded.picture, padded).size() == padded;
+}
+
 } // namespace
 
 bool layout(QByteArrayView bytes)
@@ -79,6 +131,21 @@ bool definitions(QByteArrayView bytes)
     const QByteArray saved = variables::saveDefinitions(catalogue);
     return variables::loadDefinitions(saved, catalogue) == variables::DefinitionStatus::Loaded &&
            variables::saveDefinitions(catalogue) == saved;
+}
+
+bool expression(QByteArrayView bytes)
+{
+    const QString text = QString::fromLatin1(bytes);
+    Standard(bytes);
+    variables::conversionProgram(text, Owner, {});
+    return isBounded(bytes) && comesBack(text, {}) && comesBack(text, {",", ";"});
+}
+
+bool picture(QByteArrayView bytes)
+{
+    QByteArray asBmp = bytes.toByteArray();
+    asBmp.replace(0, 2, "BM");
+    return holds(bytes) && holds(asBmp);
 }
 
 } // namespace fuzz

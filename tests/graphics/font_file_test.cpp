@@ -9,9 +9,9 @@
 #include <map>
 #include <numeric>
 
-namespace graphics {
-
 namespace {
+
+using namespace graphics;
 
 using Row = std::vector<quint8>;
 
@@ -64,7 +64,7 @@ TEST(GlyphLookUp, findsEveryCharacterOfBothListsAndNoOther)
 {
     const QString standard =
         text("()*+,-./0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ[]abcdefghijklmnopqrstuvwxyz:&<>");
-    const QString extended = QStringLiteral("!\"=?%ÇüéâäàåçêëèïîìÄÅÈæÆôöòûùÿÖÜáíóú#'@^");
+    const QString extended = "!\"=?%ÇüéâäàåçêëèïîìÄÅÈæÆôöòûùÿÖÜáíóú#'@^";
     for (int code = 0; code < 0x10000; ++code) {
         const auto common = static_cast<int>(standard.indexOf(QChar(code)));
         const auto further = static_cast<int>(extended.indexOf(QChar(code)));
@@ -196,7 +196,7 @@ TEST(DrawText, movesThePenByWidthAndTwoAndDrawsWhatLiesOnTheSurface)
     for (const auto &[text, place, advance, pixels] : cases) {
         QImage image = surface(60, 20);
         const TextExtent extent{place.x() + advance, LineHeight};
-        EXPECT_EQ(drawText(font(), QLatin1String(text), {place, 0xFFFFFF}, image), extent) << text;
+        EXPECT_EQ(drawText(font(), text, {place, 0xFFFFFF}, image), extent) << text;
         EXPECT_EQ(changedPixels(image), pixels) << text << " at " << place.x() << ", " << place.y();
         EXPECT_EQ(font().penBehind(QString::fromLatin1(text), place.x()), extent.width) << text;
     }
@@ -209,7 +209,7 @@ TEST(DrawText, mixesEveryComponentByCoverageAndOpacity)
             for (const QColor ink : {QColor(0, 0, 0), QColor(255, 255, 255), QColor(48, 32, 16)}) {
                 QImage image = surface(254, 1, below.rgb());
                 const auto packed = static_cast<quint32>(ink.red() | ink.green() << 8 | ink.blue() << 16);
-                drawText(font(), QStringLiteral("B"), {{}, packed, static_cast<quint8>(opacity)}, image);
+                drawText(font(), "B", {{}, packed, static_cast<quint8>(opacity)}, image);
                 for (int x = 0; x < 254; ++x) {
                     const auto mixed = [a = (x + 1) / 255.0 * (opacity / 255.0)](int background, int text) {
                         return static_cast<int>(std::nearbyint((1 - a) * background + a * text));
@@ -230,7 +230,7 @@ TEST(DrawText, fillsTheLineFromTheBackgroundUpToTheRightEdge)
         background.setPixel(i % 760, i / 760, 0xFF000000 | static_cast<QRgb>(i));
     for (const int left : {700, 730}) { // behind the edge nothing is filled
         QImage image = surface(760, 30);
-        drawText(font(), QStringLiteral("!"), {{left, 12}, 0xFFFFFF, 255, &background}, image);
+        drawText(font(), "!", {{left, 12}, 0xFFFFFF, 255, &background}, image);
         for (int i = 0; i < 760 * 30; ++i) {
             const int x = i % 760, y = i / 760;
             const bool filled = x >= left && x < 720 && y >= 12 && y < 12 + LineHeight;
@@ -241,5 +241,3 @@ TEST(DrawText, fillsTheLineFromTheBackgroundUpToTheRightEdge)
 }
 
 } // namespace
-
-} // namespace graphics

@@ -16,12 +16,12 @@
 
 #include FT_OUTLINE_H
 
-namespace graphics {
-
 namespace {
 
-const QString ProgramFolder = QStringLiteral(MORVEL_PROGRAM_DIR "/");
-const QString Faces = ProgramFolder + QStringLiteral("fonts/");
+using namespace graphics;
+
+const QString ProgramFolder = MORVEL_PROGRAM_DIR "/";
+const QString Faces = ProgramFolder + "fonts/";
 
 // An open window over font folders of its own.
 struct FontWindow : testing::Test
@@ -29,15 +29,14 @@ struct FontWindow : testing::Test
     FontWindow()
     {
         folders.program = ProgramFolder;
-        folders.applicationData = root.path() + QLatin1Char('/');
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        folders.applicationData = root.path() + '/';
+        test::show(window);
     }
 
     template <typename Widget>
     Widget &field(const char *name)
     {
-        return *window.findChild<Widget *>(QLatin1String(name));
+        return test::child<Widget>(window, name);
     }
     void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
     QStringList files() const { return QDir(folders.FontFolder()).entryList(QDir::Files, QDir::Name); }
@@ -59,15 +58,17 @@ TEST_F(FontWindow, makesTheChosenFontByKeyboardAlone)
     press(Qt::Key_Tab);
     press(Qt::Key_Space);
     EXPECT_EQ(window.request(), (FontRequest{DefaultFace, 7, {false, true}}));
-    EXPECT_TRUE(hasPicture() && files().isEmpty());
-    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(QStringLiteral("Liberation Sans stands in")));
+    EXPECT_TRUE(hasPicture());
+    EXPECT_EQ(files(), QStringList());
+    EXPECT_TRUE(field<QLabel>("lblstatus").text().contains("Liberation Sans stands in"));
 
     press(Qt::Key_Return);
-    const QString written = QStringLiteral("QL Sans Serif I 7.qlg");
-    EXPECT_EQ(files(), QStringList({QStringLiteral("Ext_") + written, written}));
+    const QString written = "QL Sans Serif I 7.qlg";
+    EXPECT_EQ(files(), QStringList({"Ext_" + written, written}));
     EXPECT_EQ(field<QProgressBar>("pBar").value(), 100);
     EXPECT_TRUE(field<QLabel>("lblstatus").text().contains(written));
-    EXPECT_TRUE(window.isEnabled() && !QApplication::overrideCursor());
+    EXPECT_TRUE(window.isEnabled());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     press(Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
 }
@@ -78,16 +79,17 @@ TEST_F(FontWindow, saysWhatIsWrongAndWritesNothing)
         field<QComboBox>("cmbFontSize").setCurrentText(size);
         prompts.expectMessage(message);
         field<QPushButton>("cmdGenerate").click();
-        EXPECT_TRUE(files().isEmpty() && window.isEnabled());
+        EXPECT_EQ(files(), QStringList());
+        EXPECT_TRUE(window.isEnabled());
         EXPECT_EQ(field<QProgressBar>("pBar").value(), 0);
     };
     generate({}, NoFontChosen);
     EXPECT_FALSE(hasPicture());
-    generate(QStringLiteral("900"), FontTooLarge);
+    generate("900", FontTooLarge);
     EXPECT_FALSE(hasPicture());
     QDir().mkpath(folders.GetAppDataFolder());
     platform::replaceFile(folders.FontFolder().chopped(1), "a file in the place of the folder");
-    generate(QStringLiteral("12"), {});
+    generate("12", {});
     EXPECT_TRUE(prompts.shown().back().text.contains(store.standardPath(window.request())));
     EXPECT_TRUE(hasPicture());
 }
@@ -95,7 +97,7 @@ TEST_F(FontWindow, saysWhatIsWrongAndWritesNothing)
 TEST(FontOfTheDesign, isMadeWithoutAMessage)
 {
     test::DesignWindow d;
-    const FontRequest request{QStringLiteral("Arial"), 12, {}};
+    const FontRequest request{"Arial", 12, {}};
     const auto font = d.design().textFont(request, 9);
     ASSERT_TRUE(font->glyph(u'H'));
     EXPECT_EQ(d.design().textFont(request, 9), font);
@@ -109,26 +111,27 @@ TEST(InstalledFaces, lookTheSameAsTheirFiles)
     platform::NoProgress progress;
     const FontRequest request{ShippedFace, 15, {true, true}};
     const auto shipped = renderFont(request, Faces, progress);
-    const auto installed = renderFont(request, QStringLiteral("/no/such/folder/"), progress);
+    const auto installed = renderFont(request, "/no/such/folder/", progress);
     ASSERT_TRUE(shipped && installed);
-    EXPECT_TRUE(installed->standard == shipped->standard && installed->extended == shipped->extended);
+    EXPECT_EQ(installed->standard, shipped->standard);
+    EXPECT_EQ(installed->extended, shipped->extended);
 }
 
 TEST(InstalledFaces, areOfferedWhereTheyCanBeDrawnAndAliasesMeanWhatTheDesktopMeans)
 {
     platform::registerShippedFaces(Faces);
     const QStringList offered = drawableFaces();
-    EXPECT_TRUE(offered.contains(ShippedFace) && offered.contains(QStringLiteral("Arial")));
+    EXPECT_TRUE(offered.contains(ShippedFace) && offered.contains("Arial"));
     for (const QString &face : offered) {
         EXPECT_TRUE(StoodInFor.contains(face) || !installedFace(face, {}).isEmpty()) << face.toStdString();
         EXPECT_EQ(storedFace(face), face);
     }
-    for (const QString &alias : {QStringLiteral("Serif"), QStringLiteral("Monospace")}) {
+    for (const QString alias : {"Serif", "Monospace"}) {
         if (QFontDatabase::families().contains(alias)) {
             EXPECT_EQ(installedFace(alias, {}), installedFace(QFontInfo(QFont(alias)).family(), {}));
         }
     }
-    EXPECT_FALSE(isDrawable(QStringLiteral("No Such Face")));
+    EXPECT_FALSE(isDrawable("No Such Face"));
 }
 
 // Faces without tables to hand over become files of their outlines: the same as from the face's own file, but
@@ -165,5 +168,3 @@ TEST(OutlineFile, drawsEveryCharacterLikeTheFaceItself)
 }
 
 } // namespace
-
-} // namespace graphics

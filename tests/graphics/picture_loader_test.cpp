@@ -118,7 +118,7 @@ TEST(PictureLoader, readsFilesAndNothingElse)
     ASSERT_TRUE(file.open() && file.write(bmp(Forms[0])) > 0 && file.flush());
     EXPECT_TRUE(graphics::loadPicture(file.fileName()));
     EXPECT_EQ(graphics::loadPicture(QDir::tempPath()).fault, PictureFault::Unreadable);
-    EXPECT_EQ(graphics::loadPicture(QStringLiteral("/dev/zero")).fault, PictureFault::Unreadable);
+    EXPECT_EQ(graphics::loadPicture("/dev/zero").fault, PictureFault::Unreadable);
     // Larger than any picture within the limits: told without reading it (the file has no blocks).
     ASSERT_TRUE(file.resize(qint64{1} << 40));
     EXPECT_EQ(graphics::loadPicture(file.fileName()).fault, PictureFault::TooLarge);

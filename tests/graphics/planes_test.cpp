@@ -161,7 +161,8 @@ TEST(Planes, takeEveryPixelAndChromaAtEvenPlacesAndShowThemAgain)
         const QImage shown = graphics::toPicture(planes), grey = graphics::toPicture(alpha);
         const int columns = stored.width() / 2, rows = stored.height() / 2;
         ASSERT_TRUE(planes.isComplete() && alpha.isComplete());
-        ASSERT_TRUE(shown.size() == stored && grey.size() == stored && planes.u.size() == columns * rows);
+        ASSERT_EQ((std::array{shown.size(), grey.size()}), (std::array{stored, stored}));
+        ASSERT_EQ(planes.u.size(), columns * rows);
         for (int i = 0; i < stored.width() * stored.height(); ++i) {
             const int x = i % stored.width(), y = i / stored.width();
             const bool inside = picture.rect().contains(x, y);
@@ -171,7 +172,7 @@ TEST(Planes, takeEveryPixelAndChromaAtEvenPlacesAndShowThemAgain)
             const int v = columns * rows > 0 ? at(planes.v, block) : 128;
             EXPECT_EQ(at(planes.y, i), wanted[0]);
             if (x % 2 == 0 && y % 2 == 0 && x / 2 < columns && y / 2 < rows) {
-                EXPECT_TRUE(u == wanted[1] && v == wanted[2]) << x << ", " << y;
+                EXPECT_EQ(std::pair(u, v), std::pair(int{wanted[1]}, int{wanted[2]})) << x << ", " << y;
             }
             EXPECT_EQ(at(alpha.values, i), inside ? qRed(picture.pixel(x, y)) : 0) << x << ", " << y;
             EXPECT_EQ(qBlue(grey.pixel(x, y)), at(alpha.values, i));
@@ -196,7 +197,8 @@ TEST(Planes, areNotShownWhereTheirLengthsDoNotFit)
 {
     Planes planes = graphics::toPlanes(colourful({8, 4}), {8, 4});
     planes.v.chop(1);
-    EXPECT_TRUE(graphics::toPicture(planes).isNull() && graphics::toPicture(Planes()).isNull());
+    EXPECT_TRUE(graphics::toPicture(planes).isNull());
+    EXPECT_TRUE(graphics::toPicture(Planes()).isNull());
     EXPECT_TRUE(graphics::toPicture(AlphaPlane{4, 4, QByteArray(15, 0)}).isNull());
     EXPECT_FALSE(graphics::toPlanes(colourful({8, 4}), {0, 4}).isComplete());
 }

@@ -79,9 +79,11 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
             storedImages({{7, c.first}, {3, bitmap(3, 3)}, {1, ImagePlanesRecord{Bulk{c.planes}}}});
         ASSERT_EQ(images.size(), 2U);
         const PlanePicture &first = images.at(7).picture, &second = images.at(3).picture;
-        EXPECT_TRUE(first.planes() == c.expected && first.alpha() == c.expectedAlpha) << c.name;
-        EXPECT_TRUE(second.planes() == c.expectedOdd && second.alpha() == c.expectedOddAlpha) << c.name;
-        EXPECT_TRUE(images.at(7).number == 0 && images.at(3).number == 2) << c.name;
+        EXPECT_TRUE(first.planes() == c.expected) << c.name;
+        EXPECT_TRUE(first.alpha() == c.expectedAlpha) << c.name;
+        EXPECT_TRUE(second.planes() == c.expectedOdd) << c.name;
+        EXPECT_TRUE(second.alpha() == c.expectedOddAlpha) << c.name;
+        EXPECT_EQ(std::pair(images.at(7).number, images.at(3).number), std::pair(0, 2)) << c.name;
     }
 }
 
@@ -117,7 +119,7 @@ void expectFiles(const RecordGroups &groups, const QStringList &paths)
     EXPECT_EQ(payloads<Rasters>(groups), std::vector{rasters});
 }
 
-graphics::FontRequest font(const char *face, int size) { return {QLatin1String(face), size, {true}}; }
+graphics::FontRequest font(const char *face, int size) { return {face, size, {true}}; }
 
 TEST(FontList, storesEachFontOnceWithBothItsFiles)
 {

@@ -87,7 +87,8 @@ TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
     for (const VariableEntry &entry : expected)
         EXPECT_EQ(encodePayload(pass.entry(entry.variable)).toHex(), encodePayload(entry).toHex());
     EXPECT_EQ(pass.programs().size(), 272);
-    EXPECT_TRUE(pass.programs().startsWith(Doubled) && pass.programs().endsWith(bytes("01120100 0119")));
+    EXPECT_TRUE(pass.programs().startsWith(Doubled));
+    EXPECT_TRUE(pass.programs().endsWith(bytes("01120100 0119")));
 }
 
 TEST(Folding, programsBecomeUnitsOrEquations)

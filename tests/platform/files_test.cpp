@@ -4,6 +4,7 @@
 #include "platform/guards.h"
 #include "platform/process_lock.h"
 #include "platform/settings_file.h"
+#include "support/scripted_prompts.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -57,6 +58,34 @@ TEST_F(Files, replacedFileIsWholeAndNothingStaysBesideIt)
         EXPECT_EQ(readFile(at("f")), bytes);
         EXPECT_EQ(names(), QStringList{"f"});
     }
+    put("f", "old", 0640);
+    replaceFile(at("f"), "new");
+    EXPECT_EQ(QFile::permissions(at("f")) & 0x777, QFile::Permissions(0x640));
+}
+
+// Whether a file may be written to is asked for the real user; permissions bind root to nothing.
+TEST_F(Files, fileThatIsLockedAgainstWritingIsNotSwappedEither)
+{
+    ASSERT_EQ(chmod(qPrintable(folder.path()), 0777), 0);
+    for (const auto &[mode, reason] : {std::pair(0444, at("f") + ": Permission denied"), {0666, QString()}}) {
+        put("f", "old", mode_t(mode));
+        const uid_t self = getuid();
+        ASSERT_EQ(self == 0 ? setreuid(65534, uid_t(-1)) : 0, 0);
+        EXPECT_EQ(failureOf([&] { replaceFile(at("f"), "new"); }).value_or(QString()), reason);
+        ASSERT_EQ(setreuid(self, uid_t(-1)), 0);
+        EXPECT_EQ(readFile(at("f")), mode == 0444 ? "old" : "new");
+    }
+}
+
+TEST(Standing, isToldWhereTheDeviceDidNotConfirmIt)
+{
+    test::ScriptedPrompts prompts;
+    reportStanding(prompts, "/card/DEFAULT.VGL", Standing::Confirmed);
+    prompts.expectMessage(
+        "/card/DEFAULT.VGL\nwas saved, but not confirmed by the device. Keep a copy in another "
+        "place as well.");
+    reportStanding(prompts, "/card/DEFAULT.VGL", Standing::NotConfirmed);
+    EXPECT_EQ(prompts.shown().back().icon, Icon::Warning);
 }
 
 TEST_F(Files, closedFolderGetsTheNewContentInPlaceOrKeepsTheOldOne)
@@ -83,8 +112,14 @@ TEST_F(Files, closedFolderGetsTheNewContentInPlaceOrKeepsTheOldOne)
 TEST_F(Files, whatIsNoRegularFileIsNeitherReadNorReplaced)
 {
     ASSERT_EQ(mkfifo(qPrintable(at("pipe")), 0666), 0);
-    ASSERT_TRUE(QFile::link(at("loop"), at("loop2")) && QFile::link(at("loop2"), at("loop")));
-    ASSERT_TRUE(QDir(folder.path()).mkdir("folder") && QFile::link("/dev/full", at("device")));
+    const std::pair<QString, QString> links[] = {{at("loop"), at("loop2")},
+                                                 {at("loop2"), at("loop")},
+                                                 {"/dev/full", at("device")},
+                                                 {at("f"), at("link")},
+                                                 {at("coming"), at("ahead")}};
+    for (const auto &[target, name] : links)
+        ASSERT_TRUE(QFile::link(target, name)) << qPrintable(name);
+    ASSERT_TRUE(QDir(folder.path()).mkdir("folder"));
     for (const char *name : {"pipe", "loop", "folder", "device"}) {
         EXPECT_THROW(readFile(at(name)), common::RunTimeError) << name;
         EXPECT_THROW(replaceFile(at(name), "x"), common::RunTimeError) << name;
@@ -92,7 +127,6 @@ TEST_F(Files, whatIsNoRegularFileIsNeitherReadNorReplaced)
         EXPECT_THROW(SettingsFile(at(name)).save(), common::RunTimeError) << name;
     }
     put("f", "old");
-    ASSERT_TRUE(QFile::link(at("f"), at("link")) && QFile::link(at("coming"), at("ahead")));
     replaceFile(at("link"), "new");
     replaceFile(at("ahead"), "new");
     EXPECT_EQ(readFile(at("f")) + readFile(at("coming")), "newnew");
@@ -113,7 +147,8 @@ TEST_F(Files, whatAKilledSaveLeftGoesWithTheNextOneOrAtTheStart)
         else
             removeStagedFiles(folder.path());
         EXPECT_FALSE(QFile::exists(dead));
-        EXPECT_TRUE(QFile::exists(at(qPrintable(alive))) && QFile::exists(at(qPrintable(elsewhere))));
+        EXPECT_TRUE(names().contains(alive));
+        EXPECT_TRUE(names().contains(elsewhere));
     }
     ASSERT_EQ(utimes(qPrintable(at(qPrintable(elsewhere))), LongAgo), 0);
     removeStagedFiles(folder.path());

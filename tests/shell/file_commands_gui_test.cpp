@@ -1,8 +1,11 @@
 #include "layoutfile/layout_file.h"
 #include "platform/file_replace.h"
+#include "shell/termination.h"
 #include "support/design_window.h"
 
 #include <QDir>
+
+#include <csignal>
 
 namespace {
 
@@ -40,19 +43,15 @@ TEST_F(FileCommands, NewClearsTheDesignAndItsSettingsAfterAQuestion)
     w.run("mnuNTSC");
     w.design().setCaption("RACE");
     w.addBar(100, 100);
-    prompts.expectQuestion(Clear, false);
-    w.run("mnuNew");
-    EXPECT_EQ(w.design().controls().size(), 1);
-    EXPECT_EQ(w.text("lblBitRate"), "Bit Rate 9 Mbps");
-    EXPECT_TRUE(w.action("mnuI").isChecked());
-
-    prompts.expectQuestion(Clear, true);
-    w.run("mnuNew");
-    EXPECT_TRUE(w.design().controls().isEmpty());
-    EXPECT_EQ(w.design().caption(), "Untitled");
-    EXPECT_EQ(w.text("lblBitRate"), "Bit Rate 6 Mbps");
-    EXPECT_TRUE(w.action("mnuIPB").isChecked() && !w.action("mnuI").isChecked());
-    EXPECT_TRUE(w.action("mnuNTSC").isChecked());
+    for (const bool clears : {false, true}) {
+        prompts.expectQuestion(Clear, clears);
+        w.run("mnuNew");
+        EXPECT_EQ(w.design().controls().isEmpty(), clears);
+        EXPECT_EQ(w.design().caption(), clears ? "Untitled" : "RACE");
+        EXPECT_EQ(w.text("lblBitRate"), clears ? "Bit Rate 6 Mbps" : "Bit Rate 9 Mbps");
+        EXPECT_TRUE(w.action(clears ? "mnuIPB" : "mnuI").isChecked());
+        EXPECT_TRUE(w.action("mnuNTSC").isChecked());
+    }
 }
 
 TEST_F(FileCommands, KeepTheWorkspaceBeforeTheLastAndTheThreeNewestClearedDesigns)
@@ -109,6 +108,17 @@ TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowO
         EXPECT_EQ(w.window.isVisible(), !leaves);
     }
     EXPECT_EQ(w.window.files().saveWorkspace(shell::Leaving::SessionEnds), Parting::DesignAtRisk);
+}
+
+TEST_F(FileCommands, TheEndOfTheSessionAsksNothing)
+{
+    const platform::Folders &folders = w.world.state.folders;
+    QDir().mkpath(folders.workspaceFile());
+    w.addBar(100, 100);
+    shell::closeOnTermination(&w.window, w.world.state.sessionEnds);
+    std::raise(SIGTERM);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !w.window.isVisible(); }));
+    EXPECT_EQ(count(folders.inUserData("MORVELBackup.VGL")), 1);
 }
 
 TEST_F(FileCommands, ABackupThatFailsCostsNoOlderOne)

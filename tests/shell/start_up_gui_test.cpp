@@ -40,9 +40,11 @@ struct Start : testing::Test
     }
     surface::frmInterface &design() { return program->window()->design(); }
     surface::Panel &panel(PanelId id) { return design().panels().panel(id); }
-    QAction &action(const char *name)
+    QAction &action(const char *name) { return test::child<QAction>(*program->window(), name); }
+    void expectOpen(PanelId id, const char *command, bool open)
     {
-        return *program->window()->findChild<QAction *>(QLatin1String(name));
+        EXPECT_EQ(panel(id).isVisible(), open) << command;
+        EXPECT_EQ(action(command).isChecked(), open);
     }
 
     test::World world;
@@ -107,35 +109,34 @@ TEST_F(Start, OffersWhatARunLeftThatDidNotComeToItsEnd)
     const QString left = folders.recoveryFile(), backup = folders.inUserData("MORVELBackup.VGL");
     const QString named = folders.inUserData("NAMED.VGL");
     test::writeLayout(named, 3);
-    const auto leave = [&] {
+    const struct
+    {
+        bool isWhole;
+        QStringList arguments;
+        QList<bool> answers;
+        int controls;
+        bool becomesBackup;
+    } cases[] = {
+        {true, {}, {true}, 1, false},
+        {true, {}, {false, true}, 2, true},
+        {true, {"/F" + named}, {}, 3, true},
+        {false, {}, {true}, 2, false},
+    };
+    for (const auto &c : cases) {
         test::writeLayout(left, 1);
         test::writeLayout(folders.workspaceFile(), 2);
         QFile::remove(backup);
-    };
-    leave();
-    world.prompts.expectQuestion(LastQuestion, true);
-    ASSERT_TRUE(start());
-    EXPECT_EQ(design().controls().size(), 1);
-    EXPECT_TRUE(program->window()->close());
-    EXPECT_FALSE(QFile::exists(left));
-
-    for (const QStringList &arguments : {QStringList{}, QStringList{"/F" + named}}) {
-        leave();
         const QByteArray recovered = platform::readFile(left);
-        if (arguments.isEmpty()) {
-            world.prompts.expectQuestion(LastQuestion, false);
-            world.prompts.expectQuestion(LastQuestion, true);
-        }
-        ASSERT_TRUE(start(arguments));
-        EXPECT_EQ(design().controls().size(), arguments.isEmpty() ? 2 : 3);
-        EXPECT_EQ(platform::readFile(backup), recovered);
+        if (!c.isWhole)
+            platform::replaceFile(left, "half a file");
+        for (const bool answer : c.answers)
+            world.prompts.expectQuestion(LastQuestion, answer);
+        ASSERT_TRUE(start(c.arguments));
+        EXPECT_EQ(design().controls().size(), c.controls);
+        EXPECT_EQ(QFile::exists(backup) && platform::readFile(backup) == recovered, c.becomesBackup);
+        EXPECT_TRUE(program->window()->close());
+        EXPECT_FALSE(QFile::exists(left));
     }
-    leave();
-    platform::replaceFile(left, "half a file");
-    world.prompts.expectQuestion(LastQuestion, true);
-    ASSERT_TRUE(start());
-    EXPECT_EQ(design().controls().size(), 2);
-    EXPECT_FALSE(QFile::exists(backup));
 }
 
 TEST_F(Start, KeepsTheDesignSafeFromEveryFinishedChangeOn)
@@ -229,11 +230,11 @@ TEST_F(Start, AClosedPanelStaysClosedAndKeepsItsBarUntilTheViewMenuBringsItBack)
     const QList<int> sizes = library->sizes();
     QTest::mouseClick(panel(PanelId::Library).findChild<QToolButton *>(), Qt::LeftButton);
     restart();
-    EXPECT_FALSE(panel(PanelId::Library).isVisible() || action("mnuPanelLibrary").isChecked());
-    EXPECT_TRUE(panel(PanelId::Functions).isVisible() && action("mnuPanelFunctions").isChecked());
+    expectOpen(PanelId::Library, "mnuPanelLibrary", false);
+    expectOpen(PanelId::Functions, "mnuPanelFunctions", true);
     action("mnuPanelLibrary").trigger();
     restart();
-    EXPECT_TRUE(panel(PanelId::Library).isVisible() && action("mnuPanelLibrary").isChecked());
+    expectOpen(PanelId::Library, "mnuPanelLibrary", true);
     EXPECT_EQ(program->window()->findChild<surface::LibraryPanel *>()->sizes(), sizes);
 }
 

@@ -7,16 +7,13 @@
 #include "platform/settings_keys.h"
 #include "shell/frm_main.h"
 #include "support/test_world.h"
+#include "support/widgets.h"
 #include "surface/canvas.h"
 
-#include <QApplication>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QToolBar>
-#include <QtTest/QtTest>
-
-#include <gtest/gtest.h>
 
 namespace test {
 
@@ -38,8 +35,7 @@ struct DesignWindow
         window.design().load();
         window.refreshFromState();
         window.resize(1400, 900);
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        show(window);
     }
 
     surface::frmInterface &design() { return window.design(); }
@@ -111,24 +107,7 @@ inline void writeLayout(const QString &path, int bars)
 // The corner of a control, canvas pixels.
 inline QPoint placeOf(const controls::OverlayControl &control) { return control.outerRect().topLeft(); }
 
-// Presses `from` (pixels within the widget), goes through the points of `way` (pixels from the press) and
-// releases at the last one.
-inline void drag(QWidget &widget, QPoint from, const QList<QPoint> &way)
-{
-    const QPoint press = widget.mapToGlobal(from);
-    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
-    for (const QPoint &step : way)
-        QTest::mouseMove(&widget, widget.mapFromGlobal(press + step));
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, widget.mapFromGlobal(press + way.last()));
-}
-
 inline void drag(DesignWindow &w, QPoint from, const QList<QPoint> &way) { drag(w.canvas(), from, way); }
-
-inline void click(QWidget &widget, QPoint at, Qt::KeyboardModifiers modifiers = {},
-                  Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseClick(&widget, button, modifiers, at);
-}
 
 inline void click(DesignWindow &w, QPoint at, Qt::KeyboardModifiers modifiers = {},
                   Qt::MouseButton button = Qt::LeftButton)

@@ -9,23 +9,20 @@ namespace {
 QString folder(const QTemporaryDir &root, const QString &name)
 {
     QDir().mkpath(root.filePath(name));
-    return root.filePath(name) + QLatin1Char('/');
+    return root.filePath(name) + '/';
 }
 
 } // namespace
 
 World::World()
 {
-    state.folders = {folder(root, QStringLiteral("program")), folder(root, QStringLiteral("data")),
-                     folder(root, QStringLiteral("temporary")), folder(root, QStringLiteral("cache"))};
+    state.folders = {folder(root, "program"), folder(root, "data"), folder(root, "temporary"),
+                     folder(root, "cache")};
     QDir().mkpath(state.folders.GetAppDataFolder());
-    state.stamp = {[] {
-                       return QDateTime({2005, 12, 31}, {23, 59});
-                   },
-                   QStringLiteral("driver"), QStringLiteral("pitwall")};
-    addVariable(2, QStringLiteral("Speed"));
-    addVariable(3, QStringLiteral("Engine speed"));
-    addVariable(10, QStringLiteral("Time stamp"));
+    state.stamp = {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, "driver", "pitwall"};
+    addVariable(2, "Speed");
+    addVariable(3, "Engine speed");
+    addVariable(10, "Time stamp");
     for (std::size_t i = 0; i < state.settings.MessageTable.size(); ++i)
         state.settings.MessageTable[i].number = static_cast<quint8>(i);
     state.startMessages = state.settings.MessageTable;

@@ -189,29 +189,25 @@ TEST_F(Marks, AHeldDeleteKeyDeletesOneControlAndChoosesNoOther)
 
 TEST_F(Marks, EnterAndSpaceOpenThePropertyDialog)
 {
-    OverlayControl &gauge = w.addGauge(300, 300);
-    QString title;
-    const auto closeDialog = [&title] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        title = dialog->windowTitle();
-        dialog->close();
+    QStringList titles;
+    const auto closeDialog = [&titles](QWidget &dialog) {
+        titles.append(dialog.windowTitle());
+        dialog.close();
     };
-    QTimer::singleShot(0, &w.window, closeDialog);
-    click(one);
-    test::press(w, Qt::Key_Return);
-    EXPECT_EQ(title, "Bar Graph Properties");
-    w.window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&w.window));
-    click(gauge);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        test::whenOpened(closeDialog);
+        click(one);
+        test::press(w, key);
+        w.window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&w.window));
+    }
+    click(w.addGauge(300, 300));
     focusLibrary();
-    QTimer::singleShot(0, &w.window, closeDialog);
+    test::whenOpened(closeDialog);
     w.pressToolButton("cmdEnter");
-    EXPECT_EQ(title, "Analogue Dial Properties");
+    EXPECT_EQ(titles,
+              (QStringList{"Bar Graph Properties", "Bar Graph Properties", "Analogue Dial Properties"}));
     EXPECT_EQ(w.design().controls().size(), 4);
-    QTimer::singleShot(0, &w.window, closeDialog);
-    click(one);
-    test::press(w, Qt::Key_Space);
-    EXPECT_EQ(title, "Bar Graph Properties");
 }
 
 } // namespace

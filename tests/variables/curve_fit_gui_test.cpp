@@ -1,11 +1,8 @@
 #include "support/scripted_prompts.h"
+#include "support/widgets.h"
 #include "variables/editors/frm_curve_fit.h"
 
 #include <QClipboard>
-#include <QGuiApplication>
-#include <QtTest/QtTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -13,11 +10,7 @@ using namespace variables;
 
 struct FitWindow
 {
-    FitWindow()
-    {
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
+    FitWindow() { test::show(window); }
 
     void keys(const QString &text, Qt::Key then)
     {
@@ -34,17 +27,8 @@ struct FitWindow
     {
         return grid->visualRect(grid->model()->index(row, column)).center();
     }
-    void click(int row, int column)
-    {
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, at(row, column));
-    }
-    void drag(QWidget *pressed, QPoint from, QPoint to)
-    {
-        QTest::mousePress(pressed, Qt::LeftButton, {}, from);
-        QTest::mouseMove(pressed, to);
-        QTest::mouseRelease(pressed, Qt::LeftButton, {}, to);
-    }
-    void menu(const char *entry) { window.findChild<QAction *>(QLatin1String(entry))->trigger(); }
+    void click(int row, int column) { test::click(*grid->viewport(), at(row, column)); }
+    void menu(const char *entry) { window.findChild<QAction *>(entry)->trigger(); }
     QStringList row(int number) const { return grid->cells()[number]; }
     QString label() const { return window.findChild<QLabel *>("lblEquationLabel")->text(); }
 
@@ -59,12 +43,12 @@ struct FitWindow
 TEST(CurveFitWindow, isFilledFromTheKeyboard)
 {
     FitWindow fit;
-    EXPECT_EQ(fit.label(), QStringLiteral("Not enough data"));
+    EXPECT_EQ(fit.label(), "Not enough data");
     EXPECT_TRUE(fit.cell->hasFocus());
     fit.keys("x1", Qt::Key_Right); // letters are dropped
     fit.keys("1.5", Qt::Key_Return);
     fit.keys("6.5", Qt::Key_Left);
-    EXPECT_EQ(fit.label(), QStringLiteral("1.5     std dev=0"));
+    EXPECT_EQ(fit.label(), "1.5     std dev=0");
     fit.press(Qt::Key_Up);
     fit.press(Qt::Key_Delete);
     EXPECT_FALSE(fit.ok->isEnabled());
@@ -72,14 +56,14 @@ TEST(CurveFitWindow, isFilledFromTheKeyboard)
     EXPECT_TRUE(fit.ok->isEnabled()); // before the cell is left
     fit.press(Qt::Key_Down);
     fit.keys("3", Qt::Key_Up);
-    EXPECT_EQ(fit.label(), QStringLiteral("2.5*x - 1     std dev=0"));
-    EXPECT_EQ(fit.cell->text(), QStringLiteral("1"));
+    EXPECT_EQ(fit.label(), "2.5*x - 1     std dev=0");
+    EXPECT_EQ(fit.cell->text(), "1");
     EXPECT_EQ(fit.chart->points(), (QList<QPointF>{{1, 1.5}, {3, 6.5}}));
     EXPECT_EQ(fit.chart->curve().last(), QPointF(3, 6.5));
 
     fit.keys("9", Qt::Key_Escape); // takes the typing back, not the window
     EXPECT_TRUE(fit.window.isVisible());
-    EXPECT_EQ(fit.cell->text(), QStringLiteral("1"));
+    EXPECT_EQ(fit.cell->text(), "1");
     fit.keys("2", Qt::Key_Tab); // leaving the grid commits
     EXPECT_FALSE(fit.cell->hasFocus());
     EXPECT_EQ(fit.row(0), (QStringList{"2", "1.5"}));
@@ -94,17 +78,17 @@ TEST(CurveFitWindow, goesWhereTheMousePoints)
     EXPECT_EQ(fit.cell->geometry(), fit.grid->visualRect(fit.grid->model()->index(0, 0)));
 
     // A drag out of the current cell selects a block, and the popup menu works on it.
-    fit.drag(fit.cell, fit.cell->rect().center(), fit.cell->mapFromParent(fit.at(2, 1)));
+    test::drag(*fit.cell, fit.cell->rect().center(), {fit.at(2, 1) - fit.at(0, 0)});
     fit.menu("mnuCopy");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\t\r\n\t\r\n\t4"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "\t\r\n\t\r\n\t4");
     fit.menu("mnuDelete");
     EXPECT_EQ(fit.row(2), (QStringList{"", ""}));
 
     // A paste fills the block from its first cell, whichever way it was dragged.
-    fit.drag(fit.grid->viewport(), fit.at(1, 0), fit.at(3, 1));
+    test::drag(*fit.grid->viewport(), fit.at(1, 0), {fit.at(3, 1) - fit.at(1, 0)});
     fit.paste("1\t2\n3\t4");
     fit.click(0, 0);
-    fit.drag(fit.grid->viewport(), fit.at(5, 1), fit.at(4, 0));
+    test::drag(*fit.grid->viewport(), fit.at(5, 1), {fit.at(4, 0) - fit.at(5, 1)});
     fit.paste("5\t6");
     EXPECT_EQ(fit.row(1) + fit.row(2) + fit.row(4), (QStringList{"1", "2", "3", "4", "5", "6"}));
     EXPECT_EQ(fit.row(3) + fit.row(5), (QStringList{"", "", "", ""}));
@@ -114,14 +98,14 @@ TEST(CurveFitWindow, cutsCopiesAndPastesBlocks)
 {
     FitWindow fit;
     fit.paste("0\t1\r\n1\t3\r2\t5\n");
-    EXPECT_EQ(fit.label(), QStringLiteral("2*x + 1     std dev=0"));
-    EXPECT_EQ(fit.cell->text(), QStringLiteral("0"));
+    EXPECT_EQ(fit.label(), "2*x + 1     std dev=0");
+    EXPECT_EQ(fit.cell->text(), "0");
 
     fit.press(Qt::Key_Right, Qt::ShiftModifier);
     fit.press(Qt::Key_Down, Qt::ShiftModifier);
     fit.press(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("0\t1\r\n1\t3"));
-    EXPECT_EQ(fit.label(), QStringLiteral("5     std dev=0"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "0\t1\r\n1\t3");
+    EXPECT_EQ(fit.label(), "5     std dev=0");
 
     fit.press(Qt::Key_Down); // from the second row on
     fit.menu("mnuPaste");
@@ -137,21 +121,15 @@ TEST(CurveFitWindow, givesNoEquationWhereThereIsNone)
     FitWindow fit;
     QString rows;
     for (int i = 0; i < 40; ++i) // more than the grid has
-        rows += QStringLiteral("%1\t%2\n").arg(i).arg(2 * i);
+        rows += QString("%1\t%2\n").arg(i).arg(2 * i);
     fit.paste(rows);
-    EXPECT_EQ(fit.label(), QStringLiteral("Maxmium of 25 data points"));
+    EXPECT_EQ(fit.label(), "Maxmium of 25 data points");
     EXPECT_FALSE(fit.ok->isEnabled());
     EXPECT_EQ(fit.chart->curve().size(), 0);
 
-    FitWindow same;
-    same.paste("1\t1\n1\t2");
-    EXPECT_EQ(same.label(), QStringLiteral("Not enough different values of Input X"));
-    EXPECT_FALSE(same.ok->isEnabled());
-    EXPECT_EQ(same.chart->points().size(), 2);
-
     FitWindow large;
     large.paste("1e200\t1\n2\t2");
-    EXPECT_EQ(large.label(), QStringLiteral("No curve can be calculated from this table"));
+    EXPECT_EQ(large.label(), "No curve can be calculated from this table");
 }
 
 TEST(CurveFitWindow, showsTheWholeCurve)

@@ -33,7 +33,8 @@ TEST(Xvr, aBlockIsWrittenLineByLineAndReadBack)
         "     <calculus>3</calculus>\r\n     <Misc>200</Misc>\r\n   </Data>\r\n\r\n"
         "</VariableList>\r\n";
     const QByteArray written = writeXvr(catalogue.live, ",");
-    EXPECT_TRUE(written.startsWith(head) && written.contains(middle)) << written.toStdString();
+    EXPECT_TRUE(written.startsWith(head)) << written.toStdString();
+    EXPECT_TRUE(written.contains(middle)) << written.toStdString();
     EXPECT_TRUE(written.endsWith(tail)) << written.toStdString();
 
     catalogue.live[2].CustomUnits = "µm";

@@ -1,12 +1,78 @@
 #include "common/run_time_error.h"
 #include "variables/curve_fit.h"
 #include "variables/table_text.h"
+#include "variables/transformation.h"
+#include "variables/transformation_entries.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace variables;
+
+const UnitTable Units{
+    {"", "", "", ""}, {"kph", "Kilometres per hour", "-$1$0", "km/h"}, {"mph", "Miles", "x*0.62", "mi"}};
+
+VariableRecord speed()
+{
+    VariableRecord record;
+    record.BaseName = "Speed";
+    record.VariableType = 1;
+    record.ApplyTransformation = "mph";
+    record.AllowTransformations = {"kph", "mph", "lost"};
+    record.CustomTransformation = "x\r\n+1";
+    record.CustomUnits = "abc";
+    return record;
+}
+
+TEST(Transformation, namesUnitsThatTheTableLacks)
+{
+    EXPECT_EQ(unitChoices(speed(), Units), (QStringList{"Kilometres per hour", "Miles", "lost"}));
+    for (const int row : {-1, 2, 3})
+        EXPECT_EQ(unitLabel(speed(), row, Units), "[]");
+}
+
+TEST(Transformation, storesByTheChosenOption)
+{
+    struct Case
+    {
+        TransformationForm form;
+        bool custom;
+        const char *unit, *equation, *units, *displayName;
+    };
+    const Case cases[] = {
+        {{true, 0, "x*2", "abcd"}, true, "mph", "x*2", "abc", "Speed [abc]"},
+        {{false, 0, "not (looked at", "abcd"}, false, "kph", "not (looked at", "abc", "Speed [km/h]"},
+        {{false, -1, "", ""}, false, "mph", "0", "abc", "Speed [mi]"},
+    };
+    for (const Case &expected : cases) {
+        VariableRecord record = speed();
+        EXPECT_EQ(validate(expected.form, 2, {}), std::nullopt);
+        storeTransformation(expected.form, record, Units);
+        EXPECT_EQ(record.UseCustomTrans, expected.custom);
+        EXPECT_EQ(record.ApplyTransformation, expected.unit);
+        EXPECT_EQ(record.CustomTransformation, expected.equation);
+        EXPECT_EQ(record.CustomUnits, expected.units);
+        EXPECT_EQ(record.DisplayName, expected.displayName);
+    }
+}
+
+TEST(Transformation, compilesACustomEquation)
+{
+    EXPECT_EQ(validate({true, 0, "2*x\r\n+var_0003", ""}, 2, {}), std::nullopt);
+    EXPECT_EQ(validate({true, 0, "2,5*x", ""}, 2, {",", ";"}), std::nullopt);
+    for (const char *wrong : {"2*(x", "Temp", " ", "sqrt(0-1)", "RND()"})
+        EXPECT_EQ(validate({true, 0, wrong, ""}, 2, {}), EquationError) << wrong;
+}
+
+TEST(VariableEntries, areTheEnabledVariablesInIndexOrder)
+{
+    VariableTable table(LastIndex + 1);
+    table[6001].Enabled = table[2].Enabled = table[3].Available = true;
+    const std::vector<VariableEntry> entries = variableEntries(table);
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[0].text + entries[1].text, "VAR_0002VAR_6001");
+}
 
 QList<QPointF> table(const Coefficients &c, const std::vector<double> &inputs)
 {
@@ -70,7 +136,7 @@ TEST(CurveFit, saysWhatIsWrongWithThePoints)
         return line;
     };
     EXPECT_EQ(complaint({}), "Not enough data");
-    EXPECT_EQ(fitComplaint(points(3), 3), QStringLiteral("Not Enough Data"));
+    EXPECT_EQ(fitComplaint(points(3), 3), "Not Enough Data");
     EXPECT_EQ(complaint(points(26)), "Maxmium of 25 data points");
     for (const int count : {1, 4, 5, 25})
         EXPECT_EQ(complaint(points(count)), "none") << count;
@@ -89,9 +155,9 @@ TEST(FitPoints, countOnlyWhereBothCellsHoldText)
 TEST(TableText, isRowsAndTabs)
 {
     const QList<QStringList> block{{"1", "2"}, {"", "4"}};
-    EXPECT_EQ(tableText(block), QStringLiteral("1\t2\r\n\t4"));
+    EXPECT_EQ(tableText(block), "1\t2\r\n\t4");
     for (const char *text : {"1\t2\r\n\t4", "1\t2\r\n\t4\r\n", "1\t2\r\t4", "1\t2\n\t4\n"})
-        EXPECT_EQ(tableRows(QLatin1String(text)), block) << text;
+        EXPECT_EQ(tableRows(text), block) << text;
 }
 
 } // namespace

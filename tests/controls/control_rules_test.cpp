@@ -1,4 +1,6 @@
+#include "common/run_time_error.h"
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/complexity.h"
 #include "controls/gauge/gauge.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +8,7 @@
 namespace {
 
 using namespace controls;
+
 using recorder::VideoStandard;
 
 TEST(Grips, standOnTheEdgesAndTheFirstSlotWins)
@@ -66,6 +69,40 @@ TEST(Bar, staysInItsAreaWhateverItsValue)
     EXPECT_TRUE(filledPart(values, area).isEmpty());
     values.curMax = values.curMin;
     EXPECT_TRUE(filledPart(values, area).isEmpty());
+}
+
+TEST(LoadEstimate, termsOfTheKinds)
+{
+    using namespace complexity;
+    const std::pair<double, double> terms[] = {
+        {videoSource(1), 1.25},
+        {videoSource(4), 0.65},
+        {gauge(4, 50), 0.124},
+        {barGraph(50, 60, 20), 0.0134},
+        {bitmap(1650, 900, 0, {15, 15}), 0.09},
+        {bitmap(1650, 900, 0, {10, 15}), 0.135},
+        {bitmap(1650, 900, 2, {15, 15}), 0},
+        {digitalDisplay(12, 6), 0.0864},
+        {textTag(9, 11), 0.2079},
+        {trackMap(100, 50, false), 0.49},
+        {trackMap(100, 50, true), 0.775},
+    };
+    for (const auto &[term, expected] : terms)
+        EXPECT_NEAR(term, expected, 1e-9);
+    EXPECT_THROW(videoSource(0), common::RunTimeError);
+}
+
+TEST(LoadEstimate, asksOverFifteenAndMoreUrgentlyOverTwenty)
+{
+    const QString question =
+        "The designed layout file has %1high complexity and this %2 result in high CPU load on "
+        "the hardware device.\nDo you want to continue?";
+    const QString high = question.arg("", "may");
+    const QString extreme = question.arg("extremely ", "will");
+    const std::pair<double, QString> cases[] = {{14.5, {}},   {15.49, {}},      {15.5, high},
+                                                {20.5, high}, {20.51, extreme}, {250, extreme}};
+    for (const auto &[load, asked] : cases)
+        EXPECT_EQ(overloadQuestion(shownLoad(load)).value_or(QString()), asked) << load;
 }
 
 } // namespace

@@ -6,7 +6,9 @@
 #include "support/scripted_prompts.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -15,6 +17,49 @@
 namespace {
 
 using namespace shell;
+
+using recorder::VideoStandard;
+
+const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl",    "c.VGL",          "/x/a.txt",
+                         "/x/fooVGL",       "/me/12\" disc.VGL", "/me/12 disc.VGL"};
+
+TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
+{
+    constexpr std::nullopt_t None = std::nullopt;
+    const std::tuple<QStringList, const char *, std::optional<VideoStandard>> cases[] = {
+        {{}, "", None},
+        {{"/me/DEFAULT.VGL"}, "", None}, // a plain file name is not opened
+        {{"/F/me/DEFAULT.VGL"}, "/me/DEFAULT.VGL", None},
+        {{"/f\"/me/DEFAULT.VGL\""}, "/me/DEFAULT.VGL", None},
+        {{"/F", "/my card/b.vgl"}, "/my card/b.vgl", None},
+        {{"/F c.VGL "}, "c.VGL", None},
+        {{"/F/x/fooVGL"}, "/x/fooVGL", None},
+        {{"/F/x/a.txt"}, "", None},
+        {{"/F/me/12\" disc.VGL"}, "/me/12\" disc.VGL", None},
+        {{"/Fc.VGL", "/F/me/DEFAULT.VGL", "/Fmissing.VGL"}, "/me/DEFAULT.VGL", None},
+        {{"/t", "pal"}, "", VideoStandard::Pal},
+        {{"/T\" Ntsc \""}, "", VideoStandard::Ntsc},
+        {{"/TPAL", "/TNTSC", "/TSECAM"}, "", VideoStandard::Ntsc},
+        {{"/Xc.VGL", "/", "/T", "NTSC", "/Fc.VGL", "/F"}, "c.VGL", VideoStandard::Ntsc},
+    };
+    for (const auto &[arguments, layout, standard] : cases) {
+        const CommandLine parsed = parseCommandLine(
+            rawCommandLine(arguments), [](const QString &path) { return OnDisk.contains(path); });
+        EXPECT_EQ(parsed.layoutToOpen, layout) << qPrintable(arguments.join('|'));
+        EXPECT_EQ(parsed.videoOverride, standard) << qPrintable(arguments.join('|'));
+    }
+    const auto always = [](const QString &) { return true; };
+    EXPECT_EQ(parseCommandLine("x.VGL /Fa.VGL/b.VGL", always).layoutToOpen, "a.VGL"); // cut at every slash
+}
+
+TEST(CommandLine, passesAPlainFileOnByItsLetter)
+{
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    const QString path = QFileInfo(file).absoluteFilePath();
+    EXPECT_EQ(argumentsForProgram({path, "/F", path, "/x", "/t", "pal"}),
+              (QStringList{"/F" + path, "/F" + path, "/x", "/tpal"}));
+}
 
 // The words are seen at the Save command; here is which names need which question.
 TEST(SaveQuestions, dependOnTheChosenName)
@@ -60,9 +105,11 @@ TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
     const QStringList missing = missingDefinitions(folders);
     EXPECT_EQ(missing, QStringList{"QLM6ConfigToolVars.cfg"});
     const QString question = missingFilesQuestion(folders, missing);
-    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()) && question.contains(missing[0]));
+    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()));
+    EXPECT_TRUE(question.contains(missing[0]));
     seedUserData(folders, missing);
-    EXPECT_TRUE(QFile::exists(folders.variablesFile()) && !QFile::exists(folders.inUserData("back.bmp")));
+    EXPECT_TRUE(QFile::exists(folders.variablesFile()));
+    EXPECT_FALSE(QFile::exists(folders.inUserData("back.bmp")));
     QFile::remove(folders.variablesFile());
     QFile::remove(folders.seeds() + "QLM6ConfigToolVars.cfg");
     EXPECT_EQ(missingDefinitions(folders), QStringList()); // nothing to offer
@@ -77,7 +124,8 @@ TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
     }
     int status = -1;
     ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(status == 0 && QFile::exists(path("a/morvel-config.lock")));
+    ASSERT_EQ(status, 0);
+    ASSERT_TRUE(QFile::exists(path("a/morvel-config.lock")));
     {
         const SingleInstance first(path("a/"), prompts);
         EXPECT_TRUE(first.isFirst()); // the lock of the crashed one is taken over
