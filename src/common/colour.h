@@ -17,7 +17,15 @@ struct Yuv
     bool operator==(const Yuv &) const = default;
 };
 
-// Packed colour 0x00BBGGRR to Y, U, V: the BT.601 studio-swing integer sums, divided by 256 in floating
+// Packed colour 0x00BBGGRR to an opaque pixel 0xFFRRGGBB, as pictures hold it, and back. The high byte does
+// not count.
+constexpr quint32 toPixel(quint32 packed)
+{
+    return 0xFF000000U | (packed & 0xFF) << 16 | (packed & 0xFF00) | (packed >> 16 & 0xFF);
+}
+constexpr quint32 fromPixel(quint32 pixel) { return toPixel(pixel) & 0x00FFFFFFU; }
+
+// Packed colour to Y, U, V: the BT.601 studio-swing integer sums, divided by 256 in floating
 // point and rounded with halves to even.
 Yuv toYuv(quint32 packed);
 

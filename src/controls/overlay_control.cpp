@@ -2,10 +2,7 @@
 
 namespace controls {
 
-QColor toQColor(quint32 packed)
-{
-    return QColor::fromRgb(packed & 0xFF, (packed >> 8) & 0xFF, (packed >> 16) & 0xFF);
-}
+QColor toQColor(quint32 packed) { return QColor(common::toPixel(packed)); }
 
 void OverlayControl::setBox(const Box &box)
 {

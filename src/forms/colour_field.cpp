@@ -1,5 +1,7 @@
 #include "forms/colour_field.h"
 
+#include "common/colour.h"
+
 #include <QColor>
 #include <QPainter>
 
@@ -9,11 +11,6 @@ namespace {
 
 constexpr QSize SwatchSize(72, 24);
 
-QColor shownColour(quint32 packed)
-{
-    return QColor::fromRgb(packed & 0xFF, packed >> 8 & 0xFF, packed >> 16 & 0xFF);
-}
-
 } // namespace
 
 ColourSwatch::ColourSwatch(platform::Prompts &prompts)
@@ -21,10 +18,8 @@ ColourSwatch::ColourSwatch(platform::Prompts &prompts)
     setFixedSize(SwatchSize);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QToolButton::clicked, this, [this, &prompts] {
-        if (const auto chosen = prompts.colour(shownColour(m_colour).rgb())) {
-            const QColor colour = QColor::fromRgb(*chosen);
-            setColour(static_cast<quint32>(colour.red() | colour.green() << 8 | colour.blue() << 16));
-        }
+        if (const auto chosen = prompts.colour(common::toPixel(m_colour)))
+            setColour(common::fromPixel(*chosen));
     });
 }
 
@@ -41,7 +36,7 @@ void ColourSwatch::paintEvent(QPaintEvent *event)
 {
     QToolButton::paintEvent(event);
     QPainter painter(this);
-    QColor colour = shownColour(m_colour);
+    QColor colour(common::toPixel(m_colour));
     colour.setAlphaF(isEnabled() ? 1.0F : 0.35F);
     painter.fillRect(rect().adjusted(4, 4, -4, -4), colour);
 }

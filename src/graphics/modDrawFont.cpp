@@ -1,5 +1,8 @@
 #include "graphics/modDrawFont.h"
 
+#include "common/canvas_size.h"
+#include "common/colour.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -7,18 +10,13 @@ namespace graphics {
 
 namespace {
 
-constexpr int RightEdge = 720; // of the picture, to where a line is filled
 constexpr quint32 Full = 255;
 
 // The colour in the order of the surface's pixels, and its strength.
 struct Ink
 {
-    quint32 red, green, blue, opacity;
-
-    Ink(quint32 packed, quint8 strength)
-        : red(packed & 0xFF), green((packed >> 8) & 0xFF), blue((packed >> 16) & 0xFF), opacity(strength)
-    {
-    }
+    QRgb pixel;
+    quint32 opacity;
 };
 
 // (1 - a) * below + a * ink for a = share / (255 * 255). The divisor is odd, so there are no exact halves.
@@ -30,17 +28,16 @@ inline quint32 mixed(quint32 below, quint32 ink, quint32 share)
 
 inline quint32 mixedPixel(quint32 below, const Ink &ink, quint32 share)
 {
-    return (below & 0xFF000000) | mixed((below >> 16) & 0xFF, ink.red, share) << 16 |
-           mixed((below >> 8) & 0xFF, ink.green, share) << 8 | mixed(below & 0xFF, ink.blue, share);
+    return qRgba(mixed(qRed(below), qRed(ink.pixel), share), mixed(qGreen(below), qGreen(ink.pixel), share),
+                 mixed(qBlue(below), qBlue(ink.pixel), share), qAlpha(below));
 }
 
 void mixRow(const quint8 *coverage, quint32 *pixels, int length, const Ink &ink)
 {
-    const quint32 solid = ink.red << 16 | ink.green << 8 | ink.blue;
     for (int x = 0; x < length; ++x) {
         const quint32 share = coverage[x] * ink.opacity;
         if (share == Full * Full)
-            pixels[x] = (pixels[x] & 0xFF000000) | solid;
+            pixels[x] = (pixels[x] & ~RGB_MASK) | (ink.pixel & RGB_MASK);
         else if (share != 0)
             pixels[x] = mixedPixel(pixels[x], ink, share);
     }
@@ -94,8 +91,9 @@ TextExtent drawText(const TextFont &font, const QString &text, const TextLook &l
     const int top = look.position.y();
     int pen = look.position.x();
     if (look.background)
-        fillLine(*look.background, QRect(pen, top, std::max(RightEdge - pen, 0), font.lineHeight()), surface);
-    const Ink ink(look.colour, look.opacity);
+        fillLine(*look.background, QRect(pen, top, std::max(common::CanvasWidth - pen, 0), font.lineHeight()),
+                 surface);
+    const Ink ink{common::toPixel(look.colour), look.opacity};
     const Pixels pixels(surface);
     for (const QChar character : text) {
         if (const Glyph *glyph = font.glyph(character.unicode()))

@@ -26,8 +26,6 @@ QByteArray newPlane(QSize size) { return QByteArray(area(size), Qt::Uninitialize
 
 QSize positive(QSize size) { return size.isEmpty() ? QSize(0, 0) : size; }
 
-QRgb toPixel(quint32 packed) { return qRgb(packed & 0xFF, packed >> 8 & 0xFF, packed >> 16 & 0xFF); }
-
 // A plane that is written row by row.
 class Rows
 {
@@ -178,7 +176,7 @@ void fillPicture(QImage &picture, const Planes &planes)
             continue;
         const int lastX = chroma.lastX();
         const common::Yuv last{y[evenWidth], chroma.u(row)[lastX], chroma.v(row)[lastX]};
-        pixelsOf(picture, row)[evenWidth] = toPixel(common::toPacked(last));
+        pixelsOf(picture, row)[evenWidth] = common::toPixel(common::toPacked(last));
     }
 }
 

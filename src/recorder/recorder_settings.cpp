@@ -10,6 +10,14 @@ void resetForNewLayout(RecorderSettings &settings, const MessageTable &startMess
     settings = std::move(fresh);
 }
 
+QString standardCaption(VideoStandard standard)
+{
+    return QStringLiteral("%1 %2 x %3")
+        .arg(standard == VideoStandard::Pal ? "PAL" : "NTSC")
+        .arg(CanvasWidth)
+        .arg(canvasHeight(standard));
+}
+
 QString bitRateCaption(quint8 megabitsPerSecond)
 {
     return QStringLiteral("Bit Rate %1 Mbps").arg(megabitsPerSecond);

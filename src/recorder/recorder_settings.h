@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/canvas_size.h"
 #include "graphics/plane_picture.h"
 #include "recorder/message_table.h"
 
@@ -11,8 +12,11 @@ namespace recorder {
 
 enum class VideoStandard : quint8 { Ntsc = 0, Pal = 1 };
 
-inline constexpr int CanvasWidth = 720; // pixels
-constexpr int canvasHeight(VideoStandard standard) { return standard == VideoStandard::Pal ? 576 : 480; }
+using common::CanvasWidth;
+constexpr int canvasHeight(VideoStandard standard)
+{
+    return standard == VideoStandard::Pal ? common::PalHeight : common::NtscHeight;
+}
 
 enum class EncodePattern : quint8 { I = 0, IP = 1, IPB = 2 };
 
@@ -91,6 +95,7 @@ struct RecorderSettings
 // message table as it was read at start.
 void resetForNewLayout(RecorderSettings &settings, const MessageTable &startMessages);
 
+QString standardCaption(VideoStandard standard);
 QString bitRateCaption(quint8 megabitsPerSecond);
 
 } // namespace recorder

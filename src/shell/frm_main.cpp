@@ -14,8 +14,6 @@
 
 namespace shell {
 
-using recorder::VideoStandard;
-
 namespace {
 
 QIcon resourceIcon(const QString &name)
@@ -159,8 +157,7 @@ void frmMain::refreshFromState()
         if (command.isEnabled)
             action.setEnabled(command.isEnabled(*this));
     }
-    m_standard->setText(settings.VideoType == VideoStandard::Pal ? QStringLiteral("PAL 720 x 576")
-                                                                 : QStringLiteral("NTSC 720 x 480"));
+    m_standard->setText(recorder::standardCaption(settings.VideoType));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());
 }

@@ -1,3 +1,4 @@
+#include "common/colour.h"
 #include "graphics/font_coding.h"
 #include "graphics/font_file.h"
 #include "graphics/font_name.h"
@@ -208,7 +209,7 @@ TEST(DrawText, mixesEveryComponentByCoverageAndOpacity)
         for (const QColor below : {QColor(0, 0, 0), QColor(255, 255, 255), QColor(200, 5, 1)}) {
             for (const QColor ink : {QColor(0, 0, 0), QColor(255, 255, 255), QColor(48, 32, 16)}) {
                 QImage image = surface(254, 1, below.rgb());
-                const auto packed = static_cast<quint32>(ink.red() | ink.green() << 8 | ink.blue() << 16);
+                const quint32 packed = common::fromPixel(ink.rgb());
                 drawText(font(), "B", {{}, packed, static_cast<quint8>(opacity)}, image);
                 for (int x = 0; x < 254; ++x) {
                     const auto mixed = [a = (x + 1) / 255.0 * (opacity / 255.0)](int background, int text) {

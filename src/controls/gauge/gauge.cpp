@@ -16,7 +16,7 @@ namespace {
 // Degrees to radians with this literal: deliberate, the recorder's needles are drawn with it too.
 constexpr double DegreesPerRadian = 57.3;
 // An NTSC canvas squeezes the needle so that its circle stays round on the screen.
-constexpr double NtscSqueeze = 480.0 / 576.0;
+constexpr double NtscSqueeze = double{common::NtscHeight} / common::PalHeight;
 // The resize rule works only between these sizes, twips.
 constexpr float SmallestBox = 150;
 constexpr float LargestBox = 7600;
