@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Includes follow the arrows between the rooms, and rules know no windows.
+# Includes follow the arrows between the rooms and never run in a circle, and rules know no windows.
 
 source "$(dirname "${BASH_SOURCE[0]}")/findings.sh"
 
@@ -47,8 +47,19 @@ check_windows() # FILE LINE INCLUDED
     fi
 }
 
+check_circles()
+{
+    local file
+    # tsort names the files of a circle, each in a line "tsort: FILE".
+    while IFS= read -r file; do
+        finding "src/$file" 1 "includes itself by way of others"
+    done < <(grep -rE --include='*.cpp' --include='*.h' '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' src |
+        sed -E 's|^src/([^:]+):[^"]*"([^"]+)".*|\1 \2|' | tsort 2>&1 >/dev/null | sed -nE 's/^tsort: ([^ ]+)$/\1/p')
+}
+
 check_includes()
 {
+    check_circles
     local include='^(src/([^/]+)/[^:]+):([0-9]+):[^<"]*([<"])([^>"]+)' place
     while IFS= read -r place; do
         [[ $place =~ $include ]] || continue

@@ -50,18 +50,29 @@ changed_sources()
     done | sort -rn | cut -d ' ' -f 2-
 }
 
+# The changed sources that the build in this folder compiles.
+changed_in() # BUILD-FOLDER
+{
+    local file
+    changed_sources | while IFS= read -r file; do
+        ! grep -qF "\"$root/$file\"" "$1/compile_commands.json" || printf '%s\n' "$file"
+    done
+}
+
 check_changed() # BUILD-FOLDER
 {
-    local build=$1 tool file most=12
+    local build=$1 tool most=12
+    local -a changed
     tool=$(llvm_tool clang-tidy) || return 0
     if ! in_git rev-parse --git-dir >/dev/null 2>&1; then
         say "This is no git repository; static checks are left out"
     elif [[ ! -f $build/compile_commands.json ]]; then
         say "There is no build in $build; static checks are left out"
     else
-        changed_sources | while IFS= read -r file; do
-            ! grep -qF "\"$root/$file\"" "$build/compile_commands.json" || printf '%s\n' "$file"
-        done | sed -n "1,${most}p" |
+        mapfile -t changed < <(changed_in "$build")
+        ((${#changed[@]} <= most)) || say "Static checks take the $most sources changed last and leave out" \
+            "${changed[@]:most}"
+        printf '%s\n' "${changed[@]:0:most}" |
             xargs -r -d '\n' -n 1 -P "$(nproc)" "$root/scripts/lib/tidy" "$tool" "$build" || findings=1
     fi
 }
