@@ -36,7 +36,7 @@ private:
         qsizetype line;
         bool found;
     };
-    // The line of the key, or the line behind the section's last one.
+    // The line of the key, or the line after the section's last one.
     std::optional<Place> find(const QString &section, const QString &key) const;
 
     QStringList m_lines;

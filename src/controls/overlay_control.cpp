@@ -2,6 +2,17 @@
 
 namespace controls {
 
+namespace {
+
+const PropertyRow &found(const PropertyRow *row)
+{
+    if (!row)
+        throw common::RunTimeError(QStringLiteral("No such property"));
+    return *row;
+}
+
+} // namespace
+
 QColor toQColor(quint32 packed) { return QColor(common::toPixel(packed)); }
 
 void OverlayControl::setBox(const Box &box)
@@ -46,18 +57,12 @@ void OverlayControl::fitCanvasHeight(float height)
 
 PropertyValue OverlayControl::read(std::string_view reader) const
 {
-    const PropertyRow *row = properties().reader(reader);
-    if (!row)
-        throw common::RunTimeError(QStringLiteral("No such property"));
-    return row->get(values(), screen());
+    return found(properties().reader(reader)).get(values(), screen());
 }
 
 void OverlayControl::write(std::string_view writer, const PropertyValue &value)
 {
-    const PropertyRow *row = properties().writer(writer);
-    if (!row)
-        throw common::RunTimeError(QStringLiteral("No such property"));
-    row->set(values(), value);
+    found(properties().writer(writer)).set(values(), value);
 }
 
 QStringList OverlayControl::Serialise() const

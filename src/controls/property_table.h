@@ -66,7 +66,7 @@ struct PropertyRow
     }
 };
 
-// A family's properties in the order of its serialised array behind width and height.
+// A family's properties in the order of its serialised array, after width and height.
 struct PropertyTable
 {
     std::span<const PropertyRow> rows;

@@ -79,7 +79,7 @@ protected:
     {
         return inRow(add<SliderField>(row.name, minimum, maximum), member, row);
     }
-    // A check box with its caption behind it.
+    // A check box with its caption after it.
     template <typename Member>
     CheckField &check(Member member, const char *name, const char *caption)
     {

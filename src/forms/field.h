@@ -9,7 +9,7 @@
 
 namespace forms {
 
-// What a row says of itself: the contract name of its field, caption with mnemonic, and unit behind it.
+// What a row says of itself: the contract name of its field, caption with mnemonic, and unit after it.
 struct RowText
 {
     const char *name;

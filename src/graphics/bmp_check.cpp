@@ -77,7 +77,7 @@ bool isKnown(const BmpHeader &header)
            !(header.isRunLength() && header.height < 0);
 }
 
-// Where decoders look for the first row: behind masks and palette, wherever the header says it is.
+// Where decoders look for the first row: after masks and palette, wherever the header says it is.
 qint64 startOfData(const BmpHeader &header)
 {
     qint64 start = FileHeaderSize + header.headerSize;

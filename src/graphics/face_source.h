@@ -7,11 +7,8 @@
 
 namespace graphics {
 
-// The face that comes with the program.
-inline const QString ShippedFace = QStringLiteral("Liberation Sans");
-// Faces that the shipped one stands in for where they are not installed, so that a design looks the same
-// there.
-inline const QStringList StoodInFor = {DefaultFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")};
+using platform::ShippedFace;
+using platform::StoodInFor;
 
 // Whether a face is drawn as it is: it is installed and has letters or digits with outlines, or it comes with
 // the program. An alias ("Serif") counts as what the desktop means by it.

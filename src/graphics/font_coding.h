@@ -14,7 +14,7 @@ namespace graphics {
 // Appends the coded row.
 void encodeRow(std::span<const quint8> row, std::vector<quint8> &coded);
 
-// Reads one row from `position` on and moves it behind what was read. False when the data end within the row
+// Reads one row from `position` on and moves it past what was read. False when the data end within the row
 // or a run passes the row's end. Any bytes may be given.
 bool decodeRow(QByteArrayView coded, qsizetype &position, std::span<quint8> row);
 

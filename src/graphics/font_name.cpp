@@ -44,7 +44,7 @@ QString withoutSuffix(const QString &name)
     return name;
 }
 
-// Takes the part behind the last blank off `text`, if there is a blank.
+// Takes the part after the last blank off `text`, if there is a blank.
 QString takeLastPart(QString &text)
 {
     const qsizetype blank = text.lastIndexOf(QLatin1Char(' '));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/faces.h"
+
 #include <QString>
 
 namespace graphics {
@@ -24,7 +26,7 @@ struct FontRequest
     bool operator==(const FontRequest &) const = default;
 };
 
-inline const QString DefaultFace = QStringLiteral("QL Sans Serif");
+using platform::DefaultFace;
 
 // A face as files know it: without the foundry, which the desktop adds in brackets ("Name [Foundry]"), and
 // the default face in place of one that is empty or would lead out of the font folder.

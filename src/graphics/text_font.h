@@ -22,7 +22,7 @@ public:
     const Glyph *glyph(char16_t character) const;
     // How far the pen moves, in pixels; for unknown characters as far as for "j".
     int advance(char16_t character) const;
-    // Where the pen stands behind a text that begins at `left`.
+    // Where the pen stands after a text that begins at `left`.
     int penBehind(QStringView text, int left = 0) const;
 
     qsizetype bytes() const; // of the decoded glyphs

@@ -20,7 +20,7 @@ constexpr int NameWidth = 20;
 constexpr qsizetype HeaderSize = 53;
 constexpr qsizetype FrameSize = 12; // sync, type, size, object
 constexpr qsizetype CrcSize = 4;
-constexpr int LastTrustedType = 26; // behind it stand the two types whose stated size is off
+constexpr int LastTrustedType = 26; // after it come the two types whose stated size is off
 
 constexpr std::array WritingOrder{RecordType::VideoSource,
                                   RecordType::Bitmap,

@@ -8,6 +8,9 @@ namespace platform {
 // relative to the current folder). Tests point them into a temporary folder.
 struct Folders
 {
+    static constexpr const char *VariablesName = "QLM6ConfigToolVars.cfg";
+    static constexpr const char *WorkspaceName = "MORVELWorkspace.VGL";
+
     QString program;         // of the executable; never written to
     QString applicationData; // per-user root of all applications' data; empty when the system names none
     QString temporary;       // private to this user
@@ -21,11 +24,12 @@ struct Folders
     QString ControlConfigFile() const { return inUserData("QLM6ConfigToolControl.cfg"); }
     QString MessagesFile() const { return inUserData("QLM6ConfigToolMessages.cfg"); }
     QString FontFolder() const { return inUserData("FontFiles/"); }
-    QString variablesFile() const { return inUserData("QLM6ConfigToolVars.cfg"); }
-    QString workspaceFile() const { return inUserData("MORVELWorkspace.VGL"); }
+    QString variablesFile() const { return inUserData(VariablesName); }
+    QString workspaceFile() const { return inUserData(WorkspaceName); }
     QString recoveryFile() const { return inUserData("MORVELRecovery.VGL"); }
     QString defaultLayoutFile() const { return inUserData("MORVELDefault.VGL"); }
     QString pictureFolder() const { return inUserData("ImgTemp/"); } // copies of pictures that users chose
+    QString shippedVariablesFile() const { return program + QLatin1String(VariablesName); }
     QString seeds() const { return program + QStringLiteral("defaults/"); }
     QString shippedFaces() const { return program + QStringLiteral("fonts/"); }
     QString inUserData(const char *name) const { return GetAppDataFolder() + QLatin1String(name); }

@@ -22,7 +22,7 @@ inline const QString LaunchedMark = QStringLiteral("--launched");
 // What the launcher passes on: a plain file, as a file manager names it, as /F and its path.
 QStringList argumentsForProgram(const QStringList &arguments);
 
-// The raw line of the arguments behind the program's name. Where "/" separates folders, the slashes behind
+// The raw line of the arguments after the program's name. Where "/" separates folders, the slashes after
 // the first one of an argument become "\", so that the parser, which splits at "/", sees one path. An
 // argument that follows a bare /F or /T belongs to it.
 QString rawCommandLine(const QStringList &arguments);

@@ -36,7 +36,7 @@ bool restoreDefaultDefinitions(ProgramState &state, platform::Prompts &prompts, 
     if (!prompts.ask(Icon::Question, ProductTitle,
                      QStringLiteral("Do you want to restore default variable information?")))
         return false;
-    const QString shipped = state.folders.program + QStringLiteral("QLM6ConfigToolVars.cfg");
+    const QString shipped = state.folders.shippedVariablesFile();
     if (platform::FileExists(shipped))
         return takeOverDefinitions(shipped, state, prompts, window);
     prompts.message(Icon::Critical, ProductTitle, QStringLiteral("Can't find default variable file"));

@@ -26,7 +26,6 @@ namespace {
 
 const QString OpenFilter = QStringLiteral("VGL files|*.VGL");
 const QString SaveFilter = QStringLiteral("VGL Files(*.VGL)|*.VGL");
-const QString DefaultName = QStringLiteral("DEFAULT.VGL");
 
 enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
 
@@ -189,7 +188,7 @@ void FileCommands::mnuSaveConfig()
     if (!mayLoseVariables() || !passesComplexityGate())
         return;
     const QString path =
-        m_prompts.saveFile({QStringLiteral("Save Layout"), m_lastFolder, SaveFilter, DefaultName, {}});
+        m_prompts.saveFile({QStringLiteral("Save Layout"), m_lastFolder, SaveFilter, RecorderFileName, {}});
     if (path.isEmpty())
         return;
     rememberFolder(path);

@@ -62,7 +62,7 @@ QString keepAnywhere(const QByteArray &layout, const Folders &folders)
 {
     if (platform::skipFailures([&] { keepAsBackup(layout, folders); }))
         return newestBackup(folders);
-    const QString temporary = folders.inTemporary("MORVELWorkspace.VGL");
+    const QString temporary = folders.inTemporary(Folders::WorkspaceName);
     return written(temporary, layout) ? temporary : QString();
 }
 

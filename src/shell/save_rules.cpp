@@ -18,12 +18,13 @@ std::optional<QString> recorderNameQuestion(const QString &path,
                                             const std::function<bool(const QString &)> &isVolumeRoot)
 {
     const QFileInfo file(path);
-    const bool named = file.fileName().compare(QLatin1String("DEFAULT.VGL"), Qt::CaseInsensitive) == 0;
+    const bool named = file.fileName().compare(RecorderFileName, Qt::CaseInsensitive) == 0;
     if (named && isVolumeRoot(QDir::cleanPath(file.absolutePath())))
         return std::nullopt;
-    return QStringLiteral("Note that the file must be called DEFAULT.VGL and saved to the root \n"
+    return QStringLiteral("Note that the file must be called %1 and saved to the root \n"
                           "directory of a CF card to be recognised by the MORVEL\n\n"
-                          "Do you want to continue ?");
+                          "Do you want to continue ?")
+        .arg(RecorderFileName);
 }
 
 bool isVolumeRoot(const QString &folder)

@@ -12,7 +12,10 @@ namespace shell {
 // A base name of more than 8 characters.
 std::optional<QString> longNameQuestion(const QString &path);
 
-// Anything but DEFAULT.VGL (in any case) in the root of a volume.
+// The one name that the recorder looks for, in any case.
+inline const QString RecorderFileName = QStringLiteral("DEFAULT.VGL");
+
+// Anything but that name in the root of a volume.
 std::optional<QString> recorderNameQuestion(const QString &path,
                                             const std::function<bool(const QString &folder)> &isVolumeRoot);
 

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QScreen>
 
@@ -87,7 +88,7 @@ bool StartUp::loadVariables()
 {
     const QString path = m_state.folders.variablesFile();
     if (!FileExists(path)) {
-        missingFile(QStringLiteral("QLM6ConfigToolVars.cfg"));
+        missingFile(QFileInfo(path).fileName());
         return false;
     }
     m_state.catalogue.definitionsLost = true; // until they are loaded

@@ -17,7 +17,7 @@ struct StartUpInput
     platform::Folders folders;
     platform::NumberLocale locale;
     platform::Stamp stamp;
-    QStringList arguments; // behind the program's name
+    QStringList arguments; // after the program's name
 };
 
 // The load of the main window, step by step in its order.

@@ -4,6 +4,7 @@
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
+#include "surface/panel.h"
 
 namespace surface {
 
@@ -14,8 +15,6 @@ constexpr int KeyRole = Qt::UserRole;
 constexpr QSize PictureSize(72, 72);
 constexpr int TreeShare = 1; // of the panel, beside the list
 constexpr int ListShare = 2;
-const QString PanelFont = QStringLiteral("QL Sans Serif");
-constexpr int PanelFontPoints = 8;
 
 using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
 using List = DragSource<QListWidget, QListWidgetItem>;
@@ -38,12 +37,11 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
                       [](const QListWidgetItem &item) { return draggedKey(item.data(KeyRole).toString()); }))
 {
     setChildrenCollapsible(false);
-    const QFont font(PanelFont, PanelFontPoints);
     m_tree->setObjectName(QStringLiteral("trvControl"));
     m_tree->setAccessibleName(QStringLiteral("Control library"));
     m_tree->setHeaderHidden(true);
     m_tree->setIndentation(12);
-    m_tree->setFont(font);
+    m_tree->setFont(panelFont());
     m_list->setObjectName(QStringLiteral("lvControl"));
     m_list->setAccessibleName(QStringLiteral("Entries of the chosen kind"));
     m_list->setViewMode(QListView::IconMode);
@@ -52,7 +50,7 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
     m_list->setMovement(QListView::Static);
     m_list->setDragEnabled(true); // out of the list, which the line above forbids as well
     m_list->setSpacing(4);
-    m_list->setFont(font);
+    m_list->setFont(panelFont());
     addWidget(m_tree);
     addWidget(m_list);
     setStretchFactor(0, TreeShare);

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "platform/faces.h"
+
+#include <QFont>
 #include <QFrame>
 #include <QLabel>
 
 namespace surface {
+
+// The small print of the lists in the panels.
+inline QFont panelFont() { return {platform::DefaultFace, 8}; }
 
 // A titled frame inside the design window that the user can move by its title, size by its edges and close.
 class Panel final : public QFrame

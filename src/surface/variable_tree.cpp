@@ -3,6 +3,7 @@
 #include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
+#include "surface/panel.h"
 #include "surface/variable_edits.h"
 #include "surface/variable_labels.h"
 #include "variables/edit_cycle.h"
@@ -93,7 +94,7 @@ VariableTree::VariableTree(const VariableTreeContext &context)
     m_tree->setHeaderHidden(true);
     m_tree->setIndentation(14);
     m_tree->setUniformRowHeights(true);
-    m_tree->setFont(QFont(QStringLiteral("QL Sans Serif"), 8));
+    m_tree->setFont(panelFont());
     makeSearchBox();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

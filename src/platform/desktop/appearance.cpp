@@ -1,5 +1,7 @@
 #include "platform/desktop/appearance.h"
 
+#include "platform/faces.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFont>
@@ -55,10 +57,8 @@ Theme desktopTheme()
 
 void applyAppearance(QApplication &application, Theme theme)
 {
-    const QString libreFace = QStringLiteral("Liberation Sans");
-    const QString ownFace = QStringLiteral("QL Sans Serif");
-    for (const QString &face : {ownFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")})
-        QFont::insertSubstitution(face, libreFace);
+    for (const QString &face : StoodInFor)
+        QFont::insertSubstitution(face, ShippedFace);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const Shades &shades = theme == Theme::Light ? Light : Dark;
     QPalette palette = paletteOf(shades);
@@ -67,7 +67,7 @@ void applyAppearance(QApplication &application, Theme theme)
     palette.setColor(QPalette::Highlight, shades.accent);
     palette.setColor(QPalette::HighlightedText, theme == Theme::Light ? Qt::white : shades.dark);
     QApplication::setPalette(palette, "QProgressBar");
-    application.setFont(QFont(ownFace, 9));
+    application.setFont(QFont(DefaultFace, 9));
 }
 
 void registerShippedFaces(const QString &folder)

@@ -8,6 +8,8 @@ namespace variables {
 
 namespace {
 
+const QString InputCaption = QStringLiteral("Input X (Volts)");
+const QString OutputCaption = QStringLiteral("Output Y");
 constexpr int GridRows = 30;
 constexpr int CurveSteps = 201;
 constexpr int GridWidth = 260; // pixels
@@ -27,10 +29,8 @@ QRectF rangeOf(const QList<QPointF> &points)
 
 frmCurveFit::frmCurveFit(const forms::Context &context)
     : Dialog(QStringLiteral("Generate an equation from a table"), context),
-      m_grid(new PointGrid(GridRows, {QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y")},
-                           decimalMark())),
-      m_chart(new Chart(QStringLiteral("Input X (Volts)"), QStringLiteral("Output Y"))),
-      m_equation(new QLabel)
+      m_grid(new PointGrid(GridRows, {InputCaption, OutputCaption}, decimalMark())),
+      m_chart(new Chart(InputCaption, OutputCaption)), m_equation(new QLabel)
 {
     makeResizable();
     m_grid->setObjectName(QStringLiteral("grdInput"));

@@ -11,7 +11,7 @@ namespace {
 constexpr int Digits = 5;
 constexpr int FieldWidth = 90; // pixels
 
-// A field and the caption that stands behind it.
+// A field and the caption that stands after it.
 struct Term
 {
     double Coefficients::*coefficient;

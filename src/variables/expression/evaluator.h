@@ -19,7 +19,7 @@ struct RunResult
 };
 
 // Runs a program as the recorder does: on a stack of 32-bit floats, with arithmetic in double precision.
-// `variables` are values by catalogue index; those behind its end are 0. Any program may be passed.
+// `variables` are values by catalogue index; those past its end are 0. Any program may be passed.
 RunResult Standard(const WordProgram &program, std::span<const float> variables = {});
 RunResult Standard(QByteArrayView program, std::span<const float> variables = {});
 

@@ -68,7 +68,7 @@ struct OperationRow
 {
     Op code;
     std::string_view text; // of operators; equations are read without regard to case
-    int operandBytes;      // in a byte program, behind slot and code
+    int operandBytes;      // in a byte program, after slot and code
     int reach;             // how many slots it reads or writes, from its own upward
     int precedence;        // of operators, 1 binds loosest; 0: not written by the user
 };

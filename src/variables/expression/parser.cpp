@@ -109,7 +109,7 @@ private:
     const char *m_at;
     const char *m_end;
     WordProgram &m_program;
-    const OperationRow *m_operator = nullptr; // the one behind the last value; has been passed over
+    const OperationRow *m_operator = nullptr; // the one after the last value; has been passed over
     Op m_last = Op::Nothing;                  // the last instruction's
     int m_depth = 0;
 };

@@ -23,7 +23,7 @@ namespace variables::expression {
 //   variable    = "var_" and four digits, 0001 to 8000
 //   number      = digits with an optional "." and an optional exponent: 5, .5, 1.5, 5e-2, 1e+10
 //
-// All operators work from left to right, "^" too. A minus takes the whole power behind it: -2^2 is -4 and
+// All operators work from left to right, "^" too. A minus takes the whole power after it: -2^2 is -4 and
 // 2^-x^2 is 2^(-(x^2)). A number that stands directly before a variable multiplies that variable's power:
 // 3var_0012^2 is 3*(var_0012^2). Names are those of opcodes.h in small letters; sum, avg, min and max take
 // two or more arguments.

@@ -37,7 +37,7 @@ constexpr quint32 callOperand(int arguments, Function function)
     return static_cast<quint32>(arguments) | static_cast<quint32>(function) << 8;
 }
 
-// A program as the parser makes it: two 32-bit words (slot, code) for each instruction and two more behind
+// A program as the parser makes it: two 32-bit words (slot, code) for each instruction and two more after
 // those with an operand (the operand and a spare one; for calls the number of arguments and the function).
 class WordProgram
 {

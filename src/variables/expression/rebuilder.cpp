@@ -1,6 +1,7 @@
 #include "variables/expression/rebuilder.h"
 
 #include "common/number_text.h"
+#include "variables/expression/number_marks.h"
 #include "variables/expression/program.h"
 #include "variables/expression/variable_name.h"
 
@@ -94,15 +95,6 @@ bool Rebuilder::store(quint32 slot, std::string text)
     return true;
 }
 
-// By way of two marks, so that a decimal mark that is turned to "," is not taken for a list separator.
-QString withLocaleMarks(QString text, const platform::NumberLocale &locale)
-{
-    text.replace(QLatin1Char('.'), QLatin1String("<dec>"));
-    text.replace(QLatin1Char(','), QLatin1String("<lst>"));
-    text.replace(QLatin1String("<dec>"), locale.decimalSeparator);
-    return text.replace(QLatin1String("<lst>"), locale.listSeparator);
-}
-
 } // namespace
 
 bool rebuildEquation(QByteArrayView program, int variableIndex, const platform::NumberLocale &locale,
@@ -114,7 +106,7 @@ bool rebuildEquation(QByteArrayView program, int variableIndex, const platform::
     Instruction instruction;
     while (reader.next(instruction) && rebuilder.step(instruction)) {
         if (instruction.operation->code == Op::End) {
-            text = withLocaleMarks(QString::fromStdString(rebuilder.result()), locale);
+            text = withMarks(QString::fromStdString(rebuilder.result()), {}, locale);
             return true;
         }
     }

@@ -1,5 +1,6 @@
 #include "variables/expression/string_building.h"
 
+#include "variables/expression/number_marks.h"
 #include "variables/expression/variable_name.h"
 
 #include <array>
@@ -11,16 +12,6 @@ namespace {
 constexpr char WordMark = '#';
 
 bool isLetter(char c) { return c >= 'a' && c <= 'z'; }
-
-// By way of two marks, so that a list separator that is turned to "," is not taken for a decimal mark.
-QString withPlainMarks(QString text, const platform::NumberLocale &locale)
-{
-    text.replace(locale.decimalSeparator, QLatin1String("<dec>"));
-    text.replace(locale.listSeparator, QLatin1String("<lst>"));
-    text.replace(QLatin1String("<dec>"), QLatin1String("."));
-    text.replace(QLatin1String("<lst>"), QLatin1String(","));
-    return text;
-}
 
 std::string lowered(QStringView text)
 {
@@ -69,7 +60,7 @@ bool isPartOfWord(const std::string &text, std::size_t at)
     return (at > 0 && isLetter(text[at - 1])) || (at + 1 < text.size() && isLetter(text[at + 1]));
 }
 
-// The input wherever it stands alone or behind a digit, as in 3x; not as a letter of a word.
+// The input wherever it stands alone or after a digit, as in 3x; not as a letter of a word.
 void replaceInput(std::string &text, char input, std::string_view name)
 {
     if (text.find(input) == std::string::npos)
@@ -88,7 +79,7 @@ std::string StringBuilding(const QString &text, int variableIndex, const platfor
 {
     const bool plain =
         locale.decimalSeparator == QLatin1String(".") && locale.listSeparator == QLatin1String(",");
-    std::string result = lowered(plain ? text : withPlainMarks(text, locale));
+    std::string result = lowered(plain ? text : withMarks(text, locale, {}));
     const std::string name = variableName(variableIndex).toStdString();
     replaceVehicleConstants(result);
     replaceInput(result, 'u', name);
