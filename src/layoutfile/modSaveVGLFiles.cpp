@@ -187,7 +187,7 @@ LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlLi
     writeControls(file, save.groups, progressSteps(controls), progress);
     gatherVariables(save, context, progress);
     gatherSettings(save.groups, context.settings, progress);
-    LayoutBytes made{file.finish(save.groups), {}};
+    LayoutBytes made{file.finish(save.groups), {}, save.fonts.replaced()};
     progress.setValue(100);
     return made;
 }

@@ -11,6 +11,7 @@
 #include "variables/catalogue.h"
 
 #include <QByteArray>
+#include <QStringList>
 
 namespace layoutfile {
 
@@ -40,6 +41,7 @@ struct LayoutBytes
 {
     QByteArray file;
     QString refusal;
+    QStringList replacedFonts{}; // that could not be made: the default face stands under their names
 };
 
 // Puts the layout file of the design together in memory and writes nothing. Throws RunTimeError when a Save

@@ -58,19 +58,19 @@ void FileCommands::backUpDesign()
     platform::NoProgress silent;
     if (const auto layout = layoutBytes(SaveKind::Backup, m_prompts, silent))
         platform::reportStanding(m_prompts, m_state.folders.GetAppDataFolder(),
-                                 keepAsBackup(*layout, m_state.folders));
+                                 keepAsBackup(layout->file, m_state.folders));
 }
 
 // Nothing when the save was refused, which is shown.
-std::optional<QByteArray> FileCommands::layoutBytes(SaveKind kind, platform::Prompts &prompts,
-                                                    platform::Progress &progress)
+std::optional<layoutfile::LayoutBytes> FileCommands::layoutBytes(SaveKind kind, platform::Prompts &prompts,
+                                                                 platform::Progress &progress)
 {
-    const auto [file, refusal] =
+    auto made =
         layoutfile::layoutBytes(kind, {m_design, m_state.catalogue, m_state.settings, m_state.fonts, prompts,
                                        progress, m_state.stamp, m_state.screen, m_state.locale});
-    if (!refusal.isEmpty())
-        prompts.message(Icon::Critical, ProductTitle, refusal);
-    return file.isEmpty() ? std::nullopt : std::optional(file);
+    if (!made.refusal.isEmpty())
+        prompts.message(Icon::Critical, ProductTitle, made.refusal);
+    return made.file.isEmpty() ? std::nullopt : std::optional(std::move(made));
 }
 
 void FileCommands::mnuLoadConfig()
@@ -202,16 +202,18 @@ void FileCommands::mnuSaveConfig()
 
 bool FileCommands::save(const QString &path)
 {
-    bool written = false;
+    std::optional<layoutfile::LayoutBytes> written;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
-        if (const auto layout = layoutBytes(SaveKind::Command, m_prompts, busy)) {
+        if (auto layout = layoutBytes(SaveKind::Command, m_prompts, busy)) {
             const QString keepIn = m_state.folders.GetAppDataFolder();
-            platform::reportStanding(m_prompts, path, platform::replaceFile(path, *layout, keepIn));
-            written = true;
+            platform::reportStanding(m_prompts, path, platform::replaceFile(path, layout->file, keepIn));
+            written = std::move(layout);
         }
     });
-    return written;
+    if (const auto note = replacedFontsNote(written ? written->replacedFonts : QStringList()))
+        m_prompts.message(Icon::Warning, ProductTitle, *note);
+    return written.has_value();
 }
 
 void FileCommands::saveRecovery()
@@ -219,7 +221,7 @@ void FileCommands::saveRecovery()
     const QString path = m_state.folders.recoveryFile();
     platform::NoProgress silent;
     if (const auto layout = layoutBytes(SaveKind::Recovery, m_prompts, silent))
-        platform::StagedFile(path, *layout, platform::Flush::None).commit();
+        platform::StagedFile(path, layout->file, platform::Flush::None).commit();
     else
         removeRecovery();
 }
@@ -230,13 +232,13 @@ void FileCommands::removeRecovery() { QFile::remove(m_state.folders.recoveryFile
 platform::Standing FileCommands::keepDesign(platform::Prompts &prompts, QByteArray &layout)
 {
     platform::Busy busy(&m_window);
-    std::optional<QByteArray> made;
+    std::optional<layoutfile::LayoutBytes> made;
     if (!m_state.catalogue.definitionsLost)
         made = layoutBytes(SaveKind::Workspace, prompts, busy);
     const bool isWorkspace = made.has_value();
     if (!made)
         made = layoutBytes(SaveKind::Backup, prompts, busy);
-    layout = made.value_or(QByteArray());
+    layout = made ? made->file : QByteArray();
     if (layout.isEmpty())
         return platform::Standing::Confirmed;
     const platform::Folders &folders = m_state.folders;

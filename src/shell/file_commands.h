@@ -52,8 +52,8 @@ private:
     bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
     platform::Standing keepDesign(platform::Prompts &prompts, QByteArray &layout);
-    std::optional<QByteArray> layoutBytes(layoutfile::SaveKind kind, platform::Prompts &prompts,
-                                          platform::Progress &progress);
+    std::optional<layoutfile::LayoutBytes> layoutBytes(layoutfile::SaveKind kind, platform::Prompts &prompts,
+                                                       platform::Progress &progress);
     bool mayLoseVariables();
     bool passesComplexityGate();
     double CalculateComplexity() const;

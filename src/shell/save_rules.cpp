@@ -1,5 +1,7 @@
 #include "shell/save_rules.h"
 
+#include "graphics/font_name.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -30,6 +32,17 @@ std::optional<QString> recorderNameQuestion(const QString &path,
 bool isVolumeRoot(const QString &folder)
 {
     return QStorageInfo(folder).rootPath() == QFileInfo(folder).canonicalFilePath();
+}
+
+std::optional<QString> replacedFontsNote(const QStringList &files)
+{
+    if (files.isEmpty())
+        return std::nullopt;
+    QStringList names;
+    for (const QString &file : files)
+        names.append(QFileInfo(file).completeBaseName().simplified());
+    return QStringLiteral("These fonts could not be made, the layout holds %1 in their place:\n\n%2")
+        .arg(graphics::DefaultFace, names.join(QLatin1Char('\n')));
 }
 
 } // namespace shell

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -21,5 +21,8 @@ std::optional<QString> recorderNameQuestion(const QString &path,
 
 // Whether `folder`, perhaps by way of a link, is the root of a mounted volume.
 bool isVolumeRoot(const QString &folder);
+
+// What a Save says afterwards about fonts (names of their files) that could not be made; nothing for none.
+std::optional<QString> replacedFontsNote(const QStringList &files);
 
 } // namespace shell

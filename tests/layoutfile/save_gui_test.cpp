@@ -32,8 +32,8 @@ TEST(Save, refusesAnEmptyDesignAndGoesOnWithoutAThumbnail)
     for (const auto &[kind, tells] :
          {std::pair{SaveKind::Command, true}, std::pair{SaveKind::Workspace, true},
           std::pair{SaveKind::Backup, false}, std::pair{SaveKind::Recovery, false}}) {
-        const auto [none, refusal] = test::save(d, surface, kind);
-        EXPECT_TRUE(none.isEmpty());
+        const auto [none, refusal, fonts] = test::save(d, surface, kind);
+        EXPECT_TRUE(none.isEmpty() && fonts.isEmpty());
         EXPECT_EQ(refusal, kind == SaveKind::Command ? "System can't detect any object(s) to save" : "");
 
         controls::OverlayControl &bar = d.addBar(0, 0);

@@ -54,6 +54,30 @@ TEST_F(FileCommands, NewClearsTheDesignAndItsSettingsAfterAQuestion)
     }
 }
 
+// The design keeps what it asks for, and the folder of fonts may be out of reach.
+TEST_F(FileCommands, OnlyTheUsersSaveTellsOnceOfFontsThatCannotBeMade)
+{
+    QDir(w.world.state.folders.FontFolder()).removeRecursively();
+    platform::replaceFile(w.world.state.folders.FontFolder().chopped(1), "no folder");
+    for (const int x : {100, 300}) {
+        controls::TextTag &tag = w.addTag(x, 100);
+        tag.write("newFont", QString("No Such Face"));
+        tag.write("newFontSize", x == 100 ? 0 : 9);
+        tag.AssignProperties();
+        EXPECT_GT(tag.innerRect().width(), 20);
+    }
+    prompts.expectSaveFile(path("A.VGL"));
+    prompts.expectQuestion(RecorderName, true);
+    prompts.expectMessage("These fonts could not be made, the layout holds QL Sans Serif in their place:\n\n"
+                          "No Such Face 0\nNo Such Face 9");
+    w.run("mnuSaveConfig");
+    EXPECT_EQ(w.window.files().saveWorkspace(), Parting::DesignIsSafe);
+    DesignWindow other;
+    other.window.files().load(path("A.VGL"));
+    const auto &tag = static_cast<controls::TextTag &>(*other.design().controls().last());
+    EXPECT_TRUE(tag.get().face == "No Such Face" && tag.get().curFontSize == 9);
+}
+
 TEST_F(FileCommands, KeepTheWorkspaceBeforeTheLastAndTheThreeNewestClearedDesigns)
 {
     const auto bars = [this](const char *name) {
