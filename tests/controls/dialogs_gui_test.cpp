@@ -1,6 +1,8 @@
 #include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/digital_display/digital_display_dialog.h"
 #include "controls/gauge/gauge_dialog.h"
-#include "support/design_window.h"
+#include "controls/property_dialogs.h"
+#include "controls/text_tag/text_tag_dialog.h"
 
 namespace {
 
@@ -10,68 +12,13 @@ using controls::Box;
 using controls::Gauge;
 using controls::GaugeDialog;
 using forms::ColourSwatch;
+using test::box;
 using test::DesignWindow;
-
-QLineEdit &box(QDialog &dialog, const QString &name) { return *dialog.findChild<QLineEdit *>("txt" + name); }
-QComboBox &list(QDialog &dialog, const char *name) { return test::child<QComboBox>(dialog, name); }
-
-// What the text boxes show, by name: "Max=160 Min=0".
-QString shown(QDialog &dialog)
-{
-    QStringList texts;
-    for (const QLineEdit *field : dialog.findChildren<QLineEdit *>())
-        texts.append(field->objectName().mid(3) + '=' + field->text());
-    texts.sort();
-    return texts.join(' ');
-}
-
-// Types texts that are written in the same way.
-void type(QDialog &dialog, const QString &texts)
-{
-    for (const QString &text : texts.split(' ', Qt::SkipEmptyParts)) {
-        QLineEdit &field = box(dialog, text.section('=', 0, 0));
-        field.selectAll();
-        QTest::keyClicks(&field, text.section('=', 1));
-    }
-}
-
-template <typename Dialog, typename Control>
-struct Properties : testing::Test
-{
-    // A dialog in which these texts were typed and the button was pressed.
-    std::unique_ptr<Dialog> pressed(const char *button, const QString &texts, int barType = 0)
-    {
-        auto dialog = std::make_unique<Dialog>(control);
-        dialog->show();
-        if (barType == 1)
-            list(*dialog, "cmbBarType").setCurrentIndex(1);
-        type(*dialog, texts);
-        test::press(*dialog, button);
-        return dialog;
-    }
-
-    // An empty message is the general one. Nothing may be written.
-    void expectRefusals(const char *button, std::initializer_list<std::pair<const char *, QString>> refusals)
-    {
-        const QStringList before = control.Serialise();
-        const Box place = control.box();
-        for (const auto &[texts, message] : refusals) {
-            SCOPED_TRACE(texts);
-            w.world.prompts.expectMessage(message);
-            EXPECT_TRUE(pressed(button, texts)->isVisible());
-            EXPECT_EQ(w.world.prompts.shown().back().icon,
-                      message.isNull() ? platform::Icon::Critical : platform::Icon::Information);
-            EXPECT_EQ(control.Serialise(), before);
-            EXPECT_EQ(control.box(), place);
-        }
-    }
-
-    DesignWindow w;
-    Control &control;
-
-protected:
-    explicit Properties(Control &(DesignWindow::*add)(int, int)) : control((w.*add)(100, 200)) {}
-};
+using test::list;
+using test::press;
+using test::Properties;
+using test::shown;
+using test::type;
 
 struct GaugeProperties : Properties<GaugeDialog, Gauge>
 {
@@ -99,7 +46,7 @@ TEST_F(GaugeProperties, AreShownAndAllWrittenByApply)
     list(dialog, "cmbColourVariable").setCurrentText("Accel [long] []");
     type(dialog, "CenterX=300 CenterY=210 PointerLen=80 PointerWidth=7 MinAngle=-90 MaxAngle=95 Min=-2,5 "
                  "Max=12.25 DefaultVal=3 ColourVarMin=10 ColourVarMax=2x0a");
-    test::press(dialog, "cmdAdd");
+    press(dialog, "cmdAdd");
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(control.Serialise().join(' '), "2550 2550 22 300 210 80 7 0 -90 95 -2,5 12,25 3 16 10 20");
     EXPECT_EQ(control.box(), (Box{3225, 1875, 2550, 2550}));
@@ -163,14 +110,14 @@ TEST_F(GaugeProperties, AColourVariableTakesThePlaceOfTheColour)
     };
     expectFixedColour(true);
     swatch.setColour(0x332211);
-    test::press(dialog, "cmdResetForeColour");
+    press(dialog, "cmdResetForeColour");
     EXPECT_EQ(swatch.colour(), 255u);
     QTest::keyClick(&list(dialog, "cmbColourVariable"), Qt::Key_Down);
     expectFixedColour(false);
     EXPECT_EQ(swatch.colour(), 0u);
     QTest::keyClick(&list(dialog, "cmbColourVariable"), Qt::Key_Up);
     expectFixedColour(true);
-    test::press(dialog, "cmdAdd");
+    press(dialog, "cmdAdd");
     EXPECT_EQ(control.get().curColourVariable, 0);
 }
 
@@ -186,8 +133,8 @@ TEST_F(BarProperties, AreShownForTheChosenTypeAndAllWrittenByApply)
     EXPECT_EQ(shown(dialog), before.arg(120).arg(105).arg(225));
     type(dialog, "StartX=10 StartY=20 EndY=220 BarWidth=30 Min=-1.5 Max=2 DefaultVal=1 Alfa=50");
     w.world.prompts.expectColour(qRgb(0, 0, 255));
-    test::press(dialog, "picForeColour");
-    test::press(dialog, "cmdApply");
+    press(dialog, "picForeColour");
+    press(dialog, "cmdApply");
     EXPECT_EQ(control.Serialise().join(' '), "600 3150 2 30 16711680 -1.5 2 1 1 128 0 0 0");
     EXPECT_EQ(control.box(), (Box{75, 225, 600, 3150}));
 }
@@ -248,7 +195,9 @@ TEST(Dialogs, TabReachesTheFieldsFromTopToBottom)
     DesignWindow w;
     GaugeDialog gauge(w.addGauge(100, 200));
     BarGraphDialog bar(w.addBar(100, 200));
-    for (QDialog *dialog : QList<QDialog *>{&gauge, &bar}) {
+    controls::DigitalDisplayDialog display(w.addDisplay(100, 200));
+    controls::TextTagDialog tag(w.addTag(100, 200));
+    for (QDialog *dialog : QList<QDialog *>{&gauge, &bar, &display, &tag}) {
         dialog->show();
         dialog->activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); }));
@@ -261,8 +210,7 @@ TEST(Dialogs, TabReachesTheFieldsFromTopToBottom)
             QWidget *field = QApplication::focusWidget();
             ASSERT_TRUE(unreached.remove(field)) << field->objectName().toStdString() << " comes twice";
             const QPoint place = field->mapTo(dialog, field->rect().center());
-            const bool sameRow = qAbs(place.y() - last.y()) < 4;
-            EXPECT_TRUE(sameRow ? place.x() > last.x() : place.y() > last.y())
+            EXPECT_TRUE(place.y() > last.y() + 3 || place.x() > last.x()) // or in the next column
                 << field->objectName().toStdString();
             last = place;
             QTest::keyClick(field, Qt::Key_Tab);

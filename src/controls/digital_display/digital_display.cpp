@@ -59,12 +59,12 @@ QString timeText(float seconds, int places)
 {
     const double whole = std::trunc(static_cast<double>(seconds));
     const double inHour = std::fmod(whole, SecondsPerHour);
-    const QString text = timePart(std::trunc(whole / SecondsPerHour)) + QLatin1Char(':') +
-                         timePart(std::trunc(inHour / SecondsPerMinute)) + QLatin1Char(':') +
-                         timePart(std::fmod(inHour, SecondsPerMinute));
-    if (places == 0)
-        return text;
-    return text + QLatin1Char('.') + fractionDigits(seconds).leftJustified(places, QLatin1Char('0'), true);
+    QString text = timePart(std::trunc(whole / SecondsPerHour)) + QLatin1Char(':') +
+                   timePart(std::trunc(inHour / SecondsPerMinute)) + QLatin1Char(':') +
+                   timePart(std::fmod(inHour, SecondsPerMinute));
+    if (places > 0)
+        text += QLatin1Char('.') + fractionDigits(seconds).leftJustified(places, QLatin1Char('0'), true);
+    return text;
 }
 
 } // namespace

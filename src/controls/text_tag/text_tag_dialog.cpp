@@ -57,9 +57,6 @@ TextTagDialog::TextTagDialog(TextTag &tag)
 forms::TextField &TextTagDialog::addContent()
 {
     addGroup("Text");
-    auto &variable = variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
-    auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "Lo&wer limit"});
-    auto &upper = number(&V::curUpperLimit, {"txtUpperLimit", "&Upper limit"});
     auto &type = bind(add<forms::ListField>("cmbTextType", forms::numbered(TextTypes)), &V::textType);
     auto &value = bind(add<forms::NumberField>("txtDefaultVal", decimalMark()), &V::curDefaultVal);
     addTurns(type, value);
@@ -67,6 +64,10 @@ forms::TextField &TextTagDialog::addContent()
     auto &text = this->text(&V::text, {"txtText", "Text"});
     text.caption()->setObjectName(QStringLiteral("lblText"));
     addWide(new QLabel(QStringLiteral("Note : Maximum 30 characters for text")));
+    addGroup("Hiding");
+    auto &variable = variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
+    auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "Lo&wer limit"});
+    auto &upper = number(&V::curUpperLimit, {"txtUpperLimit", "&Upper limit"});
 
     follow([&variable, &lower, &upper, &type, &value, &text] {
         const bool isFree = variable.row() == 0;
