@@ -4,6 +4,8 @@
 #include "platform/guards.h"
 #include "surface/overlay_picture.h"
 
+#include <algorithm>
+
 namespace surface {
 
 namespace {
@@ -11,14 +13,24 @@ namespace {
 constexpr int PictureSide = 183; // pixels: 203 less the editing frame
 const QColor Plate(0x2f, 0x3b, 0x4a);
 
-// So that there is something to see, the icon shows two thirds of the scale.
-void showTwoThirds(controls::OverlayControl &control)
+// So that there is something to see, the icon shows two thirds of the scale, and black writing in white.
+void showWell(controls::OverlayControl &control)
 {
+    platform::skipFailures([&] { control.write("newForeColour", 0xFFFFFF); });
     platform::skipFailures([&] {
         const float low = std::get<float>(control.read("curMin"));
         const float high = std::get<float>(control.read("curMax"));
         control.write("newDefaultVal", low + (high - low) * 2 / 3);
     });
+}
+
+// The square round a control and a little more: small ones are shown larger.
+QRect withMargin(const QRect &control)
+{
+    const int side = std::max(control.width(), control.height()) * 5 / 4;
+    QRect square(0, 0, side, side);
+    square.moveCenter(control.center());
+    return square;
 }
 
 QImage standardPicture(const controls::Family &family, controls::ControlFactory create,
@@ -34,11 +46,14 @@ QImage standardPicture(const controls::Family &family, controls::ControlFactory 
     const controls::Box box = control->box();
     control->moveTo((side - box.Width) / 2, (side - box.Height) / 2);
     control->updatePosition();
-    showTwoThirds(*control);
+    showWell(*control);
 
     QImage plate(PictureSide, PictureSide, QImage::Format_RGB32);
     plate.fill(Plate);
-    return overlayPicture(plate, {control.get()});
+    const QRect middle = withMargin(control->outerRect()) & plate.rect();
+    return overlayPicture(plate, {control.get()})
+        .copy(middle)
+        .scaled(plate.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
