@@ -70,6 +70,7 @@ check_changed() # BUILD-FOLDER
         say "There is no build in $build; static checks are left out"
     else
         mapfile -t changed < <(changed_in "$build")
+        ((${#changed[@]})) || return 0
         ((${#changed[@]} <= most)) || say "Static checks take the $most sources changed last and leave out" \
             "${changed[@]:most}"
         printf '%s\n' "${changed[@]:0:most}" |
