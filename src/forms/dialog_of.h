@@ -79,6 +79,15 @@ protected:
     {
         return inRow(add<SliderField>(row.name, minimum, maximum), member, row);
     }
+    // A row that the user cannot type in; a follow() fills it.
+    TextField &shownText(const RowText &row)
+    {
+        TextField &field = add<TextField>(row.name);
+        field.box().setReadOnly(true);
+        field.box().setFrame(false);
+        addRow(field, row.caption, row.unit);
+        return field;
+    }
     // A check box with its caption after it.
     template <typename Member>
     CheckField &check(Member member, const char *name, const char *caption)

@@ -112,6 +112,13 @@ LoadedPicture loadPicture(const QString &path)
     return readPicture(file.readAll());
 }
 
+QByteArray bmpOf(const QImage &picture)
+{
+    QBuffer buffer;
+    picture.save(&buffer, "BMP");
+    return buffer.data();
+}
+
 QImage sampled(const QImage &picture, QSize size)
 {
     if (picture.isNull() || size.isEmpty())

@@ -1,7 +1,7 @@
 #include "forms/columns.h"
 #include "forms/dialog_of.h"
-#include "forms/file_field.h"
 #include "forms/font_field.h"
+#include "forms/picture_field.h"
 #include "support/scripted_prompts.h"
 #include "support/widgets.h"
 
@@ -26,7 +26,7 @@ struct Box
     QString face = "No Such Face";
     qint16 points = 0;
     quint8 bold = 2, italic = 0, strikethrough = 0, underline = 0;
-    QString picture;
+    forms::ChosenPicture picture;
 
     bool operator==(const Box &) const = default;
 };
@@ -68,16 +68,15 @@ public:
                                                                 box.italic, box.strikethrough, box.underline};
                     }),
                "Font");
-        const auto preview = [](const QString &path) {
-            QImage picture(4, 4, QImage::Format_RGB32);
+        const auto taker = [](const QString &path) {
+            QImage picture(200, 100, QImage::Format_RGB32);
             picture.fill(Qt::red);
             return path == "/red.bmp" ? picture : QImage();
         };
-        addRow(
-            bind(add<forms::FileField>("cmdBrowse", "picPreview",
-                                       platform::FileRequest{"Open", {}, {}, {}, preview}, this->prompts()),
-                 &Box::picture),
-            "Picture");
+        auto &picture = add<forms::PictureField>("cmdBrowse", "picPreview", platform::FileRequest(),
+                                                 this->prompts(), taker);
+        picture.addButton("cmdExamples", "Examples...", {{}, "/examples", {}, {}, {}});
+        addRow(bind(picture, &Box::picture), "Picture");
         finish({{"cmdOk", "&OK", forms::Press::Accept},
                 {"cmdApply", "&Apply", forms::Press::Apply},
                 {"cmdCancel", "&Cancel", forms::Press::Cancel}});
@@ -129,15 +128,18 @@ TEST_F(Dialogs, takeWhatWasTypedAndChosenAndStayOpenForMore)
     dialog.press("cmdFont");
     prompts.expectOpenFile("/red.bmp");
     dialog.press("cmdBrowse");
-    prompts.expectOpenFile({}); // cancelled
-    dialog.press("cmdBrowse");
+    for (const char *path : {"", "/none.bmp"}) { // cancelled, not taken
+        prompts.expectOpenFile(path);
+        dialog.press("cmdExamples");
+    }
+    EXPECT_EQ(prompts.lastFileRequest().folder, "/examples");
     EXPECT_EQ(dialog.find<QLabel>("lblFont").text(), "Arial - Bold Italic - 20");
-    EXPECT_FALSE(dialog.find<QLabel>("picPreview").pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_EQ(dialog.find<QLabel>("picPreview").pixmap(Qt::ReturnByValue).size(), QSize(160, 80));
     dialog.press("cmdApply");
     const Box &box = dialog.taken;
     EXPECT_EQ(box.size, 2.5F);
     EXPECT_EQ(QList<int>({box.alpha, box.kind, box.hue}), QList<int>({128, 2, -100}));
-    EXPECT_EQ(box.note + box.picture, "x\r\ny/red.bmp");
+    EXPECT_EQ(box.note + box.picture.path, "x\r\ny/red.bmp");
     EXPECT_EQ(QList<int>({box.points, box.bold, box.italic, box.underline}), QList<int>({20, 1, 1, 0}));
     EXPECT_EQ(box.face, "Arial");
 

@@ -72,7 +72,8 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
     setNameFilter(qtFilter(request.filter));
     setDefaultSuffix(request.filter.section(QLatin1Char('.'), -1));
     setSidebarUrls(sidePlaces());
-    setDirectory(request.folder.isEmpty() ? QDir::homePath() : request.folder);
+    const bool hasFolder = !request.folder.isEmpty() && QDir(request.folder).exists();
+    setDirectory(hasFolder ? request.folder : QDir::homePath());
     if (!request.fileName.isEmpty())
         selectFile(request.fileName);
     if (request.preview)
