@@ -64,7 +64,7 @@ struct SpecialIcon
     bool enabled = false;
     qint16 top = 0; // pixels
     qint16 left = 0;
-    quint8 alpha = 0;
+    quint8 alpha = 255;
     graphics::PlanePicture picture;
 
     bool operator==(const SpecialIcon &) const = default;

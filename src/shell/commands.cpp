@@ -1,5 +1,6 @@
 #include "shell/commands.h"
 
+#include "recorder/dialogs/frm_special_icons.h"
 #include "shell/frm_main.h"
 #include "shell/frm_start_splash.h"
 #include "surface/panel_area.h"
@@ -143,6 +144,14 @@ struct CommandTable
          .icon = "menu/panels",
          .run = [](frmMain &w) { w.m_design->resetPanels(); }},
 
+        {.places = ConfigurationMenu,
+         .name = "mnuSpecialIcons",
+         .caption = "Special Icons",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmSpecialIcons(w.m_state.settings.icon, {w.m_prompts, w.m_state.locale, &w})
+                     .exec();
+             }},
         {.places = EncodePatternMenu,
          .name = "mnuI",
          .caption = "I",

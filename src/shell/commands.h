@@ -12,10 +12,11 @@ class frmMain;
 enum Place : unsigned {
     FileMenu = 1U << 0U,
     ViewMenu = 1U << 1U,
-    EncodePatternMenu = 1U << 2U,
-    HelpMenu = 1U << 3U,
-    Toolbar = 1U << 4U,
-    ControlPopup = 1U << 5U
+    ConfigurationMenu = 1U << 2U,
+    EncodePatternMenu = 1U << 3U,
+    HelpMenu = 1U << 4U,
+    Toolbar = 1U << 5U,
+    ControlPopup = 1U << 6U
 };
 
 // One entry: where it stands, how it looks, what it does, and what it shows of the program's state. In each

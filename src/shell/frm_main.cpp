@@ -102,6 +102,7 @@ void frmMain::makeMenus()
     fillAddMenu(*addMenu(bar, &m_addControl, "mnuAddControl"), QStringLiteral("mnu"));
     QMenu *configuration =
         addMenu(bar, new QMenu(QStringLiteral("&Configuration"), &bar), "mnuConfiguration");
+    fill(*configuration, ConfigurationMenu);
     fill(*addMenu(*configuration, new QMenu(QStringLiteral("Encode Pattern"), configuration),
                   "mnuEncodePattern"),
          EncodePatternMenu);

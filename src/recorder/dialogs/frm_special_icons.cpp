@@ -1,0 +1,46 @@
+#include "recorder/dialogs/frm_special_icons.h"
+
+#include "graphics/picture_choice.h"
+
+namespace recorder {
+
+std::optional<forms::Verdict> validateSpecialIcon(const forms::Typed &typed)
+{
+    const QStringList size = typed.text("cmdBrowse").split(QStringLiteral(" x "));
+    if (size.first().toInt() % 8 == 0 && size.last().toInt() % 2 == 0)
+        return std::nullopt;
+    return forms::refusal(
+        QStringLiteral("The image width should be multiples of 8 and height should be multiples of 2"),
+        platform::Icon::Critical);
+}
+
+frmSpecialIcons::frmSpecialIcons(SpecialIcon &icon, const forms::Context &context)
+    : DialogOf(QStringLiteral("Special Icons"), {icon, {icon.picture.picture(), {}}}, context), m_icon(icon)
+{
+    using V = IconOfFile;
+    addGroup("Icon");
+    const auto &enabled = check(&V::enabled, "chkEnabled", "&Enabled/Disabled");
+    auto &left = number(&V::left, {"txtLeft", "&Left", "pixels"});
+    auto &top = number(&V::top, {"txtTop", "&Top", "pixels"});
+    auto &alpha = percent(&V::alpha, {"txtAlpha", "&Alpha Factor", "%"});
+    left.caption()->setObjectName(QStringLiteral("lblLeft"));
+    top.caption()->setObjectName(QStringLiteral("lblTop"));
+    alpha.caption()->setObjectName(QStringLiteral("lblAlpha"));
+    enableBy(enabled, {&left, &top, &alpha});
+    addGroup("Picture");
+    auto &picture = add<forms::PictureField>(
+        "cmdBrowse", "picPreview", graphics::pictureRequest(), prompts(),
+        [this](const QString &path) { return graphics::chosenPicture(path, prompts()); });
+    addRow(picture, "Picture");
+    bind(picture, &V::source);
+    finish(forms::okAndCancel());
+}
+
+void frmSpecialIcons::set(IconOfFile &values)
+{
+    if (!values.source.path.isEmpty())
+        values.picture = graphics::PlanePicture::chosen(values.source.picture, {});
+    m_icon = values;
+}
+
+} // namespace recorder
