@@ -28,6 +28,7 @@ public:
     virtual const platform::NumberLocale &locale() const = 0;
     virtual platform::Prompts &prompts() = 0;
     virtual const variables::Catalogue &catalogue() const = 0;
+    virtual const platform::Folders &folders() const = 0;
     virtual recorder::VideoStandard VideoType() const = 0;
     // A font to draw with, never null, as FontStore::open() finds or makes it: without a window or message.
     // `usualSize`, in points, is the family's and serves where the request's size does not.
@@ -36,6 +37,8 @@ public:
 
     // Moves the control's outer corner there, canvas pixels.
     virtual void Reposition(OverlayControl &control, QPointF corner) = 0;
+    // Stacks the control above or below all others of its family, where it does not stand so already.
+    virtual void restack(OverlayControl &control, bool above) = 0;
     virtual void Delete(OverlayControl &control) = 0;
     // The property dialog of the control's family, until it is closed.
     virtual void showProperties(OverlayControl &control) = 0;

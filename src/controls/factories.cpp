@@ -1,9 +1,11 @@
 #include "controls/factories.h"
 
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/bitmap/bitmap.h"
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
+#include "controls/video_source/video_source.h"
 
 namespace controls {
 
@@ -22,10 +24,9 @@ struct FactoryRow
 };
 
 constexpr FactoryRow Factories[] = {
-    {ControlType::TextTag, make<TextTag>},
-    {ControlType::DigitalDisplay, make<DigitalDisplay>},
-    {ControlType::BarGraph, make<BarGraph>},
-    {ControlType::Gauge, make<Gauge>},
+    {ControlType::TextTag, make<TextTag>},   {ControlType::DigitalDisplay, make<DigitalDisplay>},
+    {ControlType::BarGraph, make<BarGraph>}, {ControlType::Bitmap, make<Bitmap>},
+    {ControlType::Gauge, make<Gauge>},       {ControlType::VideoSource, make<VideoSource>},
 };
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "controls/family_dialogs.h"
 
 #include "controls/bar_graph/bar_graph_dialog.h"
+#include "controls/bitmap/bitmap_dialog.h"
 #include "controls/digital_display/digital_display_dialog.h"
 #include "controls/gauge/gauge_dialog.h"
 #include "controls/text_tag/text_tag_dialog.h"
+#include "controls/video_source/video_source_dialog.h"
 
 namespace controls {
 
@@ -26,7 +28,9 @@ constexpr DialogRow Dialogs[] = {
     {ControlType::TextTag, show<TextTag, TextTagDialog>},
     {ControlType::DigitalDisplay, show<DigitalDisplay, DigitalDisplayDialog>},
     {ControlType::BarGraph, show<BarGraph, BarGraphDialog>},
+    {ControlType::Bitmap, show<Bitmap, BitmapDialog>},
     {ControlType::Gauge, show<Gauge, GaugeDialog>},
+    {ControlType::VideoSource, show<VideoSource, VideoSourceDialog>},
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "controls/property_table.h"
 
 #include <QColor>
+#include <QMarginsF>
 
 #include <memory>
 
@@ -51,8 +52,12 @@ public:
     virtual void applyResize() {}
     // The box that a drag by `handle` really leads to, `wanted` being inside the canvas already.
     virtual Box resizedBox(const Box &wanted, Handle handle) const;
+    // After the video standard was set, whether or not it is another one.
+    virtual void standardChanged() {}
     // Forces the control into a canvas of this height (twips), when the standard becomes NTSC.
     virtual void fitCanvasHeight(float height);
+    // How far the control may stand outside the canvas when it is dragged or placed, twips.
+    virtual QMarginsF overhang() const { return {}; }
     // One arrow key: changes the position property by (dx, dy) canvas pixels and has the host reposition it.
     virtual void nudge(int dx, int dy) = 0;
     // The box on the canvas, the part of it within the frame, and all that the control covers, canvas pixels.

@@ -9,8 +9,8 @@ using controls::ControlType;
 std::span<const FamilyRecord> familyRecords()
 {
     static const std::array Records{
-        FamilyRecord{.family = ControlType::VideoSource, .type = RecordType::VideoSource},
-        FamilyRecord{.family = ControlType::Bitmap, .type = RecordType::Bitmap},
+        videoSourceRecord(),
+        bitmapRecord(),
         textTagRecord(),
         digitalDisplayRecord(),
         barGraphRecord(),

@@ -44,7 +44,9 @@ const FamilyRecord &recordOf(RecordType type); // of a control's own record
 FamilyRecord textTagRecord();
 FamilyRecord digitalDisplayRecord();
 FamilyRecord barGraphRecord();
+FamilyRecord bitmapRecord();
 FamilyRecord gaugeRecord();
 FamilyRecord customDialRecord();
+FamilyRecord videoSourceRecord();
 
 } // namespace layoutfile

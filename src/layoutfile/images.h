@@ -28,7 +28,9 @@ private:
 struct StoredImage
 {
     int number = 0; // of its colours, from 0; that of its alpha plane is the next
-    graphics::PlanePicture picture;
+    graphics::PlanePicture picture{};
+    QString fileName{}; // of its copy in the picture folder, once it was given one
+    QString alphaFileName{};
 };
 using StoredImages = std::map<qint16, StoredImage>; // by the bitmap record's object number
 

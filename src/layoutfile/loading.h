@@ -30,6 +30,10 @@ public:
     // The image of the bitmap record under this object number; null when there is none.
     const StoredImage *imageOf(qint16 bitmapObject) const;
 
+    // Names the images that no other record claims, and puts copies of them into the user's picture folder.
+    // Throws RunTimeError at the first that cannot be written; all have their names then.
+    void keepCopies(const ObjectNames &claimed);
+
     const platform::Folders &folders;
     const platform::Stamp &stamp;
     const platform::Screen screen;

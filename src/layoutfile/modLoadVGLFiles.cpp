@@ -61,8 +61,9 @@ ObjectNames claimedParts(const Records &records)
 
 void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
 {
-    const Loading load(records, context.folders, context.stamp, context.screen);
+    Loading load(records, context.folders, context.stamp, context.screen);
     const ObjectNames parts = claimedParts(records);
+    platform::reportFailures(context.prompts, [&] { load.keepCopies(parts); });
     const qsizetype total = controlCount(records);
     qsizetype done = 0;
     for (const FamilyRecord &family : familyRecords()) {

@@ -29,6 +29,7 @@ struct Folders
     QString recoveryFile() const { return inUserData("MORVELRecovery.VGL"); }
     QString defaultLayoutFile() const { return inUserData("MORVELDefault.VGL"); }
     QString pictureFolder() const { return inUserData("ImgTemp/"); } // copies of pictures that users chose
+    QString exampleGraphics() const { return program + QStringLiteral("Example Graphics/"); }
     QString shippedVariablesFile() const { return program + QLatin1String(VariablesName); }
     QString seeds() const { return program + QStringLiteral("defaults/"); }
     QString shippedFaces() const { return program + QStringLiteral("fonts/"); }

@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include "controls/bitmap/picture_copies.h"
 #include "platform/desktop/busy.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
@@ -71,6 +72,7 @@ void StartUp::makeFolders()
     for (const QString &folder : {m_state.folders.GetAppDataFolder(), m_state.folders.pictureFolder(),
                                   m_state.folders.FontFolder(), m_state.folders.temporary})
         platform::removeStagedFiles(folder);
+    controls::removeUnusedCopies(m_state.folders);
     const QDir temporary(m_state.folders.temporary);
     for (const QString &left :
          temporary.entryList({QStringLiteral("save*")}, QDir::Dirs | QDir::NoDotAndDotDot))

@@ -56,25 +56,25 @@ bool insideDeadZone(QPointF start, QPointF now, const platform::Screen &screen)
     return std::fabs(now.x() - start.x()) <= reach.x() && std::fabs(now.y() - start.y()) <= reach.y();
 }
 
-Box clampedToCanvas(const Box &box, const CanvasRules &rules)
+Box clampedToCanvas(const Box &box, const QMarginsF &overhang, const CanvasRules &rules)
 {
+    const auto pulled = [](float place, float size, float canvas, double before, double behind) {
+        const float last = canvas + static_cast<float>(behind) - size;
+        return std::max(std::min(place, last), static_cast<float>(0 - before));
+    };
     Box clamped = box;
-    if (box.right() > rules.width())
-        clamped.Left = rules.width() - box.Width;
-    if (box.bottom() > rules.height())
-        clamped.Top = rules.height() - box.Height;
-    clamped.Left = std::max(clamped.Left, 0.0F);
-    clamped.Top = std::max(clamped.Top, 0.0F);
+    clamped.Left = pulled(box.Left, box.Width, rules.width(), overhang.left(), overhang.right());
+    clamped.Top = pulled(box.Top, box.Height, rules.height(), overhang.top(), overhang.bottom());
     return clamped;
 }
 
-Box movedBox(const Box &box, QPointF start, QPointF now, const CanvasRules &rules)
+Box movedBox(const Box &box, const QMarginsF &overhang, QPointF start, QPointF now, const CanvasRules &rules)
 {
     const QPointF shift = now - start;
     Box moved = box;
     moved.Left = snapped(box.Left + static_cast<float>(shift.x()), rules.grid);
     moved.Top = snapped(box.Top + static_cast<float>(shift.y()), rules.grid);
-    return clampedToCanvas(moved, rules);
+    return clampedToCanvas(moved, overhang, rules);
 }
 
 Box resizedBox(const Box &box, controls::Handle handle, QPointF now, const CanvasRules &rules)

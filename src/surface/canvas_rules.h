@@ -3,6 +3,7 @@
 #include "controls/geometry.h"
 #include "recorder/recorder_settings.h"
 
+#include <QMarginsF>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -37,11 +38,12 @@ QPointF SnapXY(QPointF place, int spacing);
 // Small jitter of a click: at most five pixels in both directions.
 bool insideDeadZone(QPointF start, QPointF now, const platform::Screen &screen);
 
-// The box with its corner pulled so that it lies on the canvas; a box larger than the canvas begins at 0.
-Box clampedToCanvas(const Box &box, const CanvasRules &rules);
+// The box with its corner pulled so that it lies on the canvas, but for what may hang over (twips); a box
+// larger than the canvas begins at its edge.
+Box clampedToCanvas(const Box &box, const QMarginsF &overhang, const CanvasRules &rules);
 
 // Where a drag from `start` to `now` (twips within the control) takes the box: snapped, then clamped.
-Box movedBox(const Box &box, QPointF start, QPointF now, const CanvasRules &rules);
+Box movedBox(const Box &box, const QMarginsF &overhang, QPointF start, QPointF now, const CanvasRules &rules);
 
 // Where a drag of a grip to `now` (twips within the control) takes the box: at least 180 twips each way,
 // moving edges snapped, inside the canvas.

@@ -1,5 +1,7 @@
 #include "surface/control_registry.h"
 
+#include <algorithm>
+
 namespace surface {
 
 using controls::ControlType;
@@ -53,6 +55,20 @@ bool ControlRegistry::raise(OverlayControl &control)
         return false;
     m_stack.append(&control);
     return true;
+}
+
+bool ControlRegistry::restack(OverlayControl &control, bool above)
+{
+    const qsizetype from = m_stack.indexOf(&control);
+    if (from < 0)
+        return false;
+    qsizetype to = from;
+    for (qsizetype i = 0; i < m_stack.size(); ++i) {
+        if (m_stack[i]->family().type == control.family().type)
+            to = above ? std::max(to, i) : std::min(to, i);
+    }
+    m_stack.move(from, to);
+    return to != from;
 }
 
 void ControlRegistry::unload(OverlayControl &control)

@@ -32,6 +32,9 @@ public:
     void show(controls::OverlayControl &control) { m_stack.append(&control); }
     // False when it stands on the top already.
     bool raise(controls::OverlayControl &control);
+    // Puts it above or below all others of its family in the stack. False when it stands so already, or is
+    // not in the stack.
+    bool restack(controls::OverlayControl &control, bool above);
     // Takes the control off the layout at once; it is deleted when its events are done.
     void unload(controls::OverlayControl &control);
     void clear();

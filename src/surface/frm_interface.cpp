@@ -105,7 +105,7 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
         Box box = control->box();
         box.Left = left;
         box.Top = top;
-        const Box clamped = clampedToCanvas(box, rules());
+        const Box clamped = clampedToCanvas(box, control->overhang(), rules());
         control->moveTo(clamped.Left, clamped.Top);
     };
     control->setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
@@ -145,6 +145,12 @@ void frmInterface::Reposition(OverlayControl &control, QPointF corner)
     emit designChanged();
     if (m_canvas->current() == &control) // others are placed by a load
         m_canvas->showPosition(control);
+}
+
+void frmInterface::restack(OverlayControl &control, bool above)
+{
+    if (m_canvas->registry().restack(control, above))
+        control.redraw();
 }
 
 void frmInterface::Delete(OverlayControl &control)

@@ -77,10 +77,12 @@ public:
     const platform::NumberLocale &locale() const override { return m_context.locale; }
     platform::Prompts &prompts() override { return m_context.prompts; }
     const variables::Catalogue &catalogue() const override { return m_context.catalogue; }
+    const platform::Folders &folders() const override { return m_context.folders; }
     recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
     std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
                                                        int usualSize) override;
     void Reposition(controls::OverlayControl &control, QPointF corner) override;
+    void restack(controls::OverlayControl &control, bool above) override;
     void Delete(controls::OverlayControl &control) override;
     void showProperties(controls::OverlayControl &control) override;
     void UserControlChanged() override { emit designChanged(); }

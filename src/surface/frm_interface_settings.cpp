@@ -90,8 +90,9 @@ void frmInterface::setVideoStandard(VideoStandard standard)
 {
     loadBackground(standard);
     m_context.settings.VideoType = standard;
-    if (standard == VideoStandard::Ntsc) {
-        for (OverlayControl *control : controls())
+    for (OverlayControl *control : controls()) {
+        control->standardChanged();
+        if (standard == VideoStandard::Ntsc)
             control->fitCanvasHeight(rules().height());
     }
     ShowGrid();

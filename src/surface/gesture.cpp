@@ -36,7 +36,7 @@ std::optional<Box> Gesture::boxAt(QPointF now, const CanvasRules &rules)
     if (!m_hasBegun)
         return std::nullopt;
     if (drags)
-        return movedBox(m_start, m_press, now, rules);
+        return movedBox(m_start, moving->overhang(), m_press, now, rules);
     const Box wanted = resizedBox(m_start, m_handle, now - QPointF(m_start.Left, m_start.Top), rules);
     return moving->resizedBox(wanted, m_handle);
 }

@@ -13,10 +13,35 @@ namespace {
 constexpr int PictureSide = 183; // pixels: 203 less the editing frame
 const QColor Plate(0x2f, 0x3b, 0x4a);
 
-// So that there is something to see, the icon shows two thirds of the scale, and black writing in white.
+// Hills under the sun.
+QImage samplePicture()
+{
+    QImage picture(104, 104, QImage::Format_RGB32);
+    picture.fill(QColor(0x8f, 0xc4, 0xe8));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xff, 0xd8, 0x4d));
+    painter.drawEllipse(68, 12, 24, 24);
+    painter.setBrush(QColor(0x3f, 0x8f, 0x5a));
+    painter.drawPolygon(QPolygon({{0, 104}, {0, 70}, {36, 34}, {104, 104}}));
+    painter.setBrush(QColor(0x2e, 0x6d, 0x45));
+    painter.drawPolygon(QPolygon({{30, 104}, {74, 56}, {104, 84}, {104, 104}}));
+    return picture;
+}
+
+// So that there is something to see, the icon shows two thirds of the scale, black writing in white, and a
+// picture.
 void showWell(controls::OverlayControl &control)
 {
     platform::skipFailures([&] { control.write("newForeColour", 0xFFFFFF); });
+    platform::skipFailures([&] {
+        const QImage picture = samplePicture();
+        QImage opaque(picture.size(), picture.format());
+        opaque.fill(Qt::white);
+        control.write("newSourceImg", picture);
+        control.write("newAlfaImg", opaque);
+    });
     platform::skipFailures([&] {
         const float low = std::get<float>(control.read("curMin"));
         const float high = std::get<float>(control.read("curMax"));

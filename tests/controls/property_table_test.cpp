@@ -1,7 +1,9 @@
 #include "controls/bar_graph/bar_graph.h"
+#include "controls/bitmap/bitmap.h"
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
+#include "controls/video_source/video_source.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +19,8 @@ const QString GaugeTexts = "1950.5|1965|6025|360|66|59|3|-2147483643|-90|45|-0.2
 const QString DisplayTexts =
     "1350.5|300|0|1|0|Block|14|1|0|255|4864815|1.50|2|360|66|255|2|-0.25|100|1.5|1|128|0|3|0.1|9";
 const QString TagTexts = "1350|300|1|0|1|Arial|9|0|1|16711680|7|Oil|2|-0.25|100|5|204|3|0.5|9";
+const QString BitmapTexts = "1830|960|200|a.bmp|b.bmp|6025|1|2|0.5|0|3|-1.5|100|0.25";
+const QString VideoTexts = "2700|2160|3|4|5|6|2|255|1|3|9|7|100|101|102|103|-1.5|100|0.5|6025";
 const QString BarTexts = "1950|450|2|20|16711680|100|-5.5|50|1|204|3|0.5|9";
 
 // What the rows of other families hold besides: text of a fixed width, elements without a name, a picture.
@@ -71,6 +75,11 @@ TEST(Serialise, eachFamilyHasItsElementsInItsOrderInTheLocalesNumbers)
     EXPECT_EQ(textsOf(digitalDisplayProperties(), display), DisplayTexts);
     const auto tag = valuesOf<TextTagValues>(textTagProperties(), TagTexts);
     EXPECT_EQ(textsOf(textTagProperties(), tag), TagTexts);
+    EXPECT_EQ(textsOf(bitmapProperties(), valuesOf<BitmapValues>(bitmapProperties(), BitmapTexts)),
+              BitmapTexts);
+    const auto video = valuesOf<VideoSourceValues>(videoSourceProperties(), VideoTexts);
+    EXPECT_EQ(textsOf(videoSourceProperties(), video), VideoTexts);
+    EXPECT_TRUE(video.curBottomBorderWidth == 4 && video.curMirror == 9 && video.curHue == 102);
 
     EXPECT_EQ(textsOf(sampleProperties(), SampleValues()), "0|0|SPEED |255|255");
     const auto sample = valuesOf<SampleValues>(sampleProperties(), "1|2|revolutions|3|4");

@@ -1,5 +1,9 @@
+#include "controls/bitmap/bitmap.h"
+#include "controls/video_source/video_source.h"
 #include "layoutfile/saved_design.h"
 #include "support/block_font.h"
+
+#include <QDir>
 
 #include <map>
 #include <set>
@@ -48,6 +52,11 @@ RecordGroups someLayout()
     groups.add(BarGraphRecord{365, 65, 365, 185, 255, 20, Grey, 100, 0, 30, 3, 0, 0, 0});
     groups.add(GaugeRecord{170, 170, 65, 4, Grey, -45, 225, 0, 160, 80.5F, 2, 30, -1, 1});
     groups.add(GaugeRecord{650, 410, 65, 0, Grey, 0, 90, -1, 1, 0, 0, 0, 0, 0});
+    groups.add(VideoSourceRecord{1, 405, 3, 0, 255, 5, 5, Grey, 0, 0, 0, 1, 1, 2, 255, 4, 2, -1, 1, 0.5F});
+    groups.add(VideoSourceRecord{3, -5, 480, 5, 5, 5, 5, Grey, 1, 9, 3, 0, 1, 2, 3, 4, 0, 0, 0, 0});
+    groups.add(BitmapRecord{8, 2, 41, -3, 200, -1, 1, 0.5F, 3, 0, 30, -1, 1, 0});
+    groups.add(BitmapRecord{3, 3, 470, 700, 255, 0, 0, 0, 0, 1, 0, 0, 0, 0});
+    groups.add(ImagePlanesRecord{Bulk{"YYYYYYYYyyyyyyyyUUUUVVVVaaaaaaaaAAAAAAAA123456789UV987654321"}});
     groups.add(VariableEntry{2, 1, 0.5F, 0, -1, 1});
     groups.add(VariableEntry{3, 1, 0, 250, -1, 1});
     groups.add(VariableEntry{10, 1, 0, 0, -1, 1}); // always in use
@@ -105,6 +114,23 @@ const Linked LinkedFamilies[] = {
       {"newColourVarMax", 2.0F}, {"newCenterX", 360}, {"newCenterY", 250}},
      "6801 FA00 80 525BF0 0000C0BF 0000C842 0000003F 'Oil pressur' 00 0B 00 'Block BISU 12.qlg' 00 '            '"
      "02000000 03000000 0000803F 00000040"},
+    // 104 wide as chosen, 8 more in the planes
+    {controls::ControlType::Bitmap, controls::bitmapProperties(),
+     {{"newAlfa", 200}, {"newFileName", "s.bmp"}, {"newAlfaFileName", "a.bmp"}, {"newVarID", 2},
+      {"newLowerLimit", 1.0F}, {"newUpperLimit", 2.0F}, {"newDefaultVal", 0.5F}, {"newZorder", 0},
+      {"newAlfaVariable", 3}, {"newAlfaVarMin", -1.5F}, {"newAlfaVarMax", 100.0F},
+      {"newAlfaDefaultVal", 0.25F}, {"newTopCoord", 100}, {"newLeftCoord", 200},
+      {"newSourceImg", QImage(104, 51, QImage::Format_RGB32)},
+      {"newAlfaImg", QImage(104, 51, QImage::Format_RGB32)}},
+     "7000 3400 6400 C800 C8 0000803F 00000040 0000003F 02000000 00 03000000 0000C0BF 0000C842 0000803E"},
+    {controls::ControlType::VideoSource, controls::videoSourceProperties(),
+     {{"newTopBorderWidth", 3}, {"newBottomBorderWidth", 4}, {"newLeftBorderWidth", 5},
+      {"newRightBorderWidth", 6}, {"NewDivisor", 2}, {"NewBordercolor", 255}, {"NewBorderVisible", 1},
+      {"NewCameraNo", 3}, {"NewMirror", 9}, {"newBorderWidth", 7}, {"newBrightness", 100},
+      {"newContrast", 101}, {"newHue", 102}, {"newSaturation", 103}, {"newLowerLimit", -1.5F},
+      {"newUpperLimit", 100.0F}, {"newDefaultVal", 0.5F}, {"newVarID", 2}, {"newTopCoord", 48},
+      {"newLeftCoord", 64}},
+     "02 3000 4000 03 04 05 06 525BF0 01 07 03 09 64 65 66 67 02000000 0000C0BF 0000C842 0000003F"},
     // upright, so it starts at its lower edge; 20 pixels long, the inner height of a new bar
     {controls::ControlType::BarGraph, controls::barGraphProperties(),
      {{"newVarID", 2}, {"newBarWidth", 30}, {"newColour", 255}, {"newMin", -1.5F}, {"newMax", 100.0F},
@@ -145,11 +171,18 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     groups.add(ThumbnailRecord{Bulk{extractThumbnail(file)}});
     EXPECT_EQ(file.toHex(), assembleLayout(groups, d.world.state.stamp).toHex());
 
-    const auto box = [&d](int control) { return d.design().controls().at(control)->box(); };
+    const auto box = [&d](int control) { return d.design().controls().at(control + 4)->box(); };
     EXPECT_EQ(box(0), (Box{480 * 15 - 75, 40 * 15 - 75, 220 * 15 + 150, 10 * 15 + 150}));
     EXPECT_EQ(box(4), (Box{55 * 15 - 75, 65 * 15 - 75, 120 * 15 + 150, 20 * 15 + 150}));
     EXPECT_EQ(box(7), (Box{365 * 15 - 75, 65 * 15 - 75, 20 * 15 + 150, 120 * 15 + 150}));
     EXPECT_EQ(box(8), (Box{105 * 15 - 75, 105 * 15 - 75, 130 * 15 + 150, 130 * 15 + 150}));
+    EXPECT_EQ(box(-4), (Box{3 * 15, 405 * 15, 90 * 15, 60 * 15}));
+    EXPECT_EQ(box(-3), (Box{480 * 15, -5 * 15, 240 * 15, 160 * 15}));
+    EXPECT_EQ(box(-2), (Box{-3 * 15 - 75, 41 * 15 - 75, 8 * 15 + 150, 2 * 15 + 150}));
+    const QDir copies(d.world.state.folders.pictureFolder());
+    EXPECT_EQ(copies.entryList(QDir::Files),
+              QStringList({"A2359001.bmp", "A2359003.bmp", "S2359000.bmp", "S2359002.bmp"}));
+    EXPECT_EQ(QImage(copies.filePath("A2359001.bmp")).pixel(0, 1), qRgb('A', 'A', 'A'));
     EXPECT_EQ(d.canvas().height(), 480);
     EXPECT_EQ(d.text("lblBitRate"), "Bit Rate 12 Mbps");
     EXPECT_TRUE(d.action("mnuIP").isChecked());
@@ -167,7 +200,7 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     std::set<std::pair<controls::ControlType, int>> elements;
     for (const controls::OverlayControl *control : d.design().controls())
         elements.insert({control->family().type, control->Index()});
-    EXPECT_EQ(elements.size(), 20U);
+    EXPECT_EQ(elements.size(), 28U);
 }
 
 TEST(Load, theNeedleOfADialIsNoControlOfItsOwn)
@@ -220,13 +253,21 @@ TEST(Load, extremeValuesLeaveADesignThatWorks)
             high, low, 255, {}, 127, 255, min, max, Infinite, -1, 9000, 0, 0, 9, {"../x B 0.qlg"}});
         groups.add(GaugeRecord{low, high, 255, 255, {}, low, high, min, max, Nan, -1, 9000, Nan, 0});
         groups.add(GaugeRecord{high, low, 0, 0, {}, high, low, min, max, Infinite, 9000, -1, 0, Nan});
+        groups.add(BitmapRecord{low, high, high, low, 0, min, max, Nan, -1, 255, 9000, Nan, Nan, Nan});
+        VideoSourceRecord video;
+        video.divisor = 0;
+        video.top = low;
+        video.left = high;
+        video.topBorderWidth = 255;
+        video.cameraNo = static_cast<quint8>(groups.of(RecordType::VideoSource).size());
+        groups.add(video);
     }
     groups.add(LongTextRecord{{"of a text that is not there"}, 27}, 9);
     groups.add(VariableEntry{2, 1, Nan, Infinite, -1, 1});
     groups.add(ChapterRecord{255, Nan, 255, -5, 255, Infinite});
     DesignWindow d;
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
-    EXPECT_EQ(d.design().controls().size(), 18);
+    EXPECT_EQ(d.design().controls().size(), 24);
     EXPECT_FALSE(d.canvas().grab().isNull());
     const variables::VariableRecord &speed = d.world.state.catalogue.live[2];
     EXPECT_TRUE(speed.SmoothingTime == 0 && speed.MaximumROC == 0);

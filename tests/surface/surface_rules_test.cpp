@@ -33,7 +33,7 @@ TEST(Moving, snapsOnlyOnRequestAndStaysOnTheCanvas)
         {Pal, {0, 0, 11000, 9000}, {500, 500}, "0 0 11000 9000"}, // larger than the canvas
     };
     for (const auto &[rules, box, shift, expected] : cases)
-        EXPECT_EQ(textOf(movedBox(box, {30, 30}, QPointF(30, 30) + shift, rules)), expected);
+        EXPECT_EQ(textOf(movedBox(box, {}, {30, 30}, QPointF(30, 30) + shift, rules)), expected);
 }
 
 TEST(Resizing, movesTheEdgesOfTheGripOnly)

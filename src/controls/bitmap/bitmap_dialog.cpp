@@ -1,0 +1,178 @@
+#include "controls/bitmap/bitmap_dialog.h"
+
+#include "controls/bitmap/picture_copies.h"
+#include "graphics/picture_choice.h"
+#include "platform/guards.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace controls {
+
+using graphics::PlanePicture;
+
+namespace {
+
+const QString AutomaticCorrection = QStringLiteral("\nPress OK to continue with automatic correction");
+constexpr double MostAlpha = 255; // deliberate, although a percentage is typed
+
+int even(int coordinate) { return coordinate / 2 * 2; }
+
+// One axis: pulled in at the far edge. A bitmap larger than the canvas begins at 0.
+int pulled(qint16 place, float outerSize, float frame, int canvas)
+{
+    const float kept = pulledInto(place, outerSize, frame, static_cast<float>(canvas));
+    return common::toInteger<int>(double{std::max(kept, std::min<float>(place, 0))});
+}
+
+void keepOnCanvas(BitmapValues &values, const ControlHost &host)
+{
+    const platform::Screen &screen = host.screen();
+    const Box box = placed(values, screen).box;
+    const int left = pulled(values.curLeftCoord, screen.toPixelsX(box.Width), screen.toPixelsX(FrameTwips),
+                            recorder::CanvasWidth);
+    const int top = pulled(values.curTopCoord, screen.toPixelsY(box.Height), screen.toPixelsY(FrameTwips),
+                           recorder::canvasHeight(host.VideoType()));
+    values.curLeftCoord = common::toInteger<qint16>(left);
+    values.curTopCoord = common::toInteger<qint16>(even(top));
+}
+
+} // namespace
+
+QSize correctedSize(QSize picture) { return {(picture.width() + 7) / 8 * 8, (picture.height() + 1) / 2 * 2}; }
+
+QStringList sizeQuestions(QSize picture)
+{
+    QStringList questions;
+    if (correctedSize(picture).width() != picture.width())
+        questions.append(QStringLiteral("Width of the bitmap control must be divisible by 8.") +
+                         AutomaticCorrection);
+    if (correctedSize(picture).height() != picture.height())
+        questions.append(QStringLiteral("Height of the bitmap control must be divisible by 2.") +
+                         AutomaticCorrection);
+    return questions;
+}
+
+std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
+{
+    const QString source = typed.text("cmdBrowseImage");
+    const QString alpha = typed.text("cmdBrowseAlfaImage");
+    if (source.isEmpty() || alpha.isEmpty())
+        return forms::refusal(QStringLiteral("Please Select Images for Sorce and Alfa images"));
+    const auto top = common::toInteger<qint16>(common::parseNumber(typed.text("txtTopCoordinates")));
+    if (top != even(top))
+        return forms::Verdict{forms::Verdict::Kind::OkCancel,
+                              platform::Icon::Critical,
+                              QStringLiteral("Top coordinate of the bitmap control must be an even number.") +
+                                  AutomaticCorrection,
+                              {{QStringLiteral("txtTopCoordinates"), QString::number(even(top))}}};
+    if (source != alpha)
+        return forms::refusal(
+            QStringLiteral(
+                "Selected images are in different sizes and please select same size images to continue"),
+            platform::Icon::Critical);
+    const double factor = typed.number("txtAlfa");
+    if (factor < 0 || factor > MostAlpha)
+        return forms::refusal(QStringLiteral("Invalid Alfa Value"));
+    return std::nullopt;
+}
+
+BitmapDialog::BitmapDialog(Bitmap &bitmap)
+    : PropertyDialog(
+          bitmap, QStringLiteral("Bitmap Properties"),
+          {bitmap.get(), {bitmap.get().picture.picture(), {}}, {bitmap.get().picture.alphaPicture(), {}}}),
+      m_bitmap(bitmap)
+{
+    using V = BitmapOfFiles;
+    addGroup("Pictures");
+    m_source =
+        &pictureRow(&V::source, "Source image", {"cmdBrowseImage", "imgPreview", "cmdBrowseFactoryImages"},
+                    [this](const QString &path) { return taken(path, false); });
+    pictureRow(&V::alphaSource, "Alpha image",
+               {"cmdBrowseAlfaImage", "imgAlfaPreview", "cmdBrowseFactoryAlphaImages"},
+               [this](const QString &path) { return taken(path, true); });
+    auto &width = shownText({"txtWidth", "Width", "pixels"});
+    auto &height = shownText({"txtHeight", "Height", "pixels"});
+    follow([this, &width, &height] {
+        const QSize size = correctedSize(m_source->picture().size());
+        width.setText(QString::number(size.width()));
+        height.setText(QString::number(size.height()));
+    });
+    addGroup("Position");
+    number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});
+    number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
+    choice(&V::curZorder, {"cmbZorder", "&Z-order"},
+           forms::numbered(std::array{QStringLiteral("Bottom"), QStringLiteral("Top")}), 1);
+    addGroup("Hide Bitmap Under Variable Control");
+    variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
+    number(&V::curLowerLimit, {"txtLowerLimit", "Display when &greater than"});
+    number(&V::curUpperLimit, {"txtUpperLimit", "and le&ss than"});
+    number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
+    addGroup("Alpha");
+    percent(&V::curAlfa, {"txtAlfa", "Global Alpha &Blending Factor", "%"});
+    variableOrNone(&V::curAlfaVariable, {"cmbAlfaVariable", "Alpha &variable"});
+    number(&V::curAlfaVarMin, {"txtAlfaVarMin", "Alpha minimum"});
+    number(&V::curAlfaVarMax, {"txtAlfaVarMax", "Alpha maximum"});
+    number(&V::curAlfaDefaultVal, {"txtAlfaDefaultVal", "Default value"});
+    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+}
+
+forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles::*member,
+                                              const char *caption, const char *const (&names)[3],
+                                              forms::PictureField::Taker taker)
+{
+    auto &field =
+        add<forms::PictureField>(names[0], names[1], graphics::pictureRequest(), prompts(), std::move(taker));
+    field.addButton(names[2], "Examples...",
+                    graphics::pictureRequest(m_bitmap.host().folders().exampleGraphics()));
+    addRow(field, caption);
+    return bind(field, member);
+}
+
+QImage BitmapDialog::taken(const QString &path, bool isAlpha)
+{
+    const QImage picture = graphics::chosenPicture(path, prompts());
+    if (picture.isNull())
+        return {};
+    for (const QString &question : sizeQuestions(picture.size())) {
+        if (!prompts().confirm(platform::Icon::Critical, platform::ProductTitle, question))
+            return {};
+    }
+    const QImage &source = m_source->picture();
+    if (isAlpha && !source.isNull() && correctedSize(picture.size()) != correctedSize(source.size())) {
+        prompts().message(platform::Icon::Information, platform::ProductTitle,
+                          QStringLiteral(" Invalid Picture"));
+        return {};
+    }
+    return picture;
+}
+
+void BitmapDialog::set(BitmapOfFiles &values)
+{
+    if (!values.source.path.isEmpty())
+        values.picture = PlanePicture::chosen(values.source.picture, values.alphaSource.picture);
+    else if (!values.alphaSource.path.isEmpty())
+        values.picture = values.picture.withAlpha(values.alphaSource.picture);
+    keepOnCanvas(values, m_bitmap.host());
+    values.curFileName = copied(values.source, values.curFileName);
+    values.curAlfaFileName = copied(values.alphaSource, values.curAlfaFileName);
+    m_bitmap.set(values);
+}
+
+// The name of the copy. A copy that cannot be written costs a message only: the bitmap has its picture.
+QString BitmapDialog::copied(const forms::ChosenPicture &chosen, const QString &before)
+{
+    if (chosen.path.isEmpty())
+        return before;
+    QString name = QFileInfo(chosen.path).fileName();
+    const QString folder = m_bitmap.host().folders().pictureFolder();
+    platform::reportFailures(prompts(), [&] {
+        const QByteArray bytes = platform::readFile(chosen.path);
+        name = copyName(folder, name, bytes);
+        keepCopy(folder, name, bytes, platform::Flush::ToDevice);
+    });
+    return name;
+}
+
+} // namespace controls

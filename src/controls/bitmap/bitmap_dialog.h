@@ -1,0 +1,51 @@
+#pragma once
+
+#include "controls/bitmap/bitmap.h"
+#include "controls/property_dialog.h"
+#include "forms/picture_field.h"
+
+namespace controls {
+
+// The size that a picture of this one gets in the dialog: up to a multiple of 8 and of 2. Its planes have
+// their own rule.
+QSize correctedSize(QSize picture);
+// The questions to ask before a picture of this size is taken, in order.
+QStringList sizeQuestions(QSize picture);
+
+// A bitmap with the two pictures it is made of.
+struct BitmapOfFiles : BitmapValues
+{
+    forms::ChosenPicture source;
+    forms::ChosenPicture alphaSource;
+};
+
+// `typed` holds the sizes of the pictures.
+std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed);
+
+// "Bitmap Properties".
+class BitmapDialog final : public PropertyDialog<BitmapOfFiles>
+{
+public:
+    explicit BitmapDialog(Bitmap &bitmap);
+
+protected:
+    std::optional<forms::Verdict> validate(const forms::Typed &typed) const override
+    {
+        return validateBitmap(typed);
+    }
+    void set(BitmapOfFiles &values) override;
+    void applied() override { m_bitmap.AssignProperties(); }
+
+private:
+    forms::PictureField &pictureRow(forms::ChosenPicture BitmapOfFiles::*member, const char *caption,
+                                    const char *const (&names)[3], forms::PictureField::Taker taker);
+    QImage taken(const QString &path, bool isAlpha);
+    QString copied(const forms::ChosenPicture &chosen, const QString &before);
+
+    Bitmap &m_bitmap;
+    forms::PictureField *m_source = nullptr;
+    QLineEdit *m_width;
+    QLineEdit *m_height;
+};
+
+} // namespace controls

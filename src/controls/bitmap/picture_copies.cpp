@@ -1,0 +1,77 @@
+#include "controls/bitmap/picture_copies.h"
+
+#include "graphics/picture_loader.h"
+#include "platform/guards.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+namespace controls {
+
+namespace {
+
+// Whether the name is free for these bytes.
+bool mayHold(const QString &path, const QByteArray &bytes)
+{
+    if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
+        return true;
+    QByteArray held;
+    return platform::skipFailures([&] { held = platform::readFile(path); }) && held == bytes;
+}
+
+// A name as it may stand in a layout or in the library: no path, not hidden.
+QString plainName(const QString &wanted)
+{
+    static const QRegularExpression Separators(QStringLiteral("^\\.+|[/\\\\:]"));
+    return QString(wanted).replace(Separators, QStringLiteral("_"));
+}
+
+} // namespace
+
+QString copyName(const QString &folder, const QString &wanted, const QByteArray &bytes)
+{
+    const QString plain = plainName(wanted);
+    QString name = plain;
+    for (int number = 2; !mayHold(folder + name, bytes); ++number) {
+        const QFileInfo parts(plain);
+        name = QStringLiteral("%1 %2.%3").arg(parts.completeBaseName()).arg(number).arg(parts.suffix());
+    }
+    return name;
+}
+
+void keepCopy(const QString &folder, const QString &name, const QByteArray &bytes, platform::Flush flush)
+{
+    QDir().mkpath(folder);
+    if (!QFileInfo::exists(folder + name))
+        platform::StagedFile(folder + name, bytes, flush).commit();
+}
+
+QImage keptPicture(const QString &folder, const QString &name)
+{
+    return graphics::loadPicture(platform::nameWithin(folder, name)).picture;
+}
+
+QString loadedName(char kind, const QTime &time, int number)
+{
+    return QStringLiteral("%1%2%3.bmp")
+        .arg(QLatin1Char(kind))
+        .arg(time.toString(QStringLiteral("hhmmss")))
+        .arg(number);
+}
+
+void removeUnusedCopies(const platform::Folders &folders)
+{
+    static const QRegularExpression Loaded(QStringLiteral("^[SA]\\d{7,}( \\d+)?\\.bmp$"));
+    QByteArray library;
+    const QString libraryFile = folders.ControlConfigFile();
+    if (QFileInfo::exists(libraryFile) &&
+        !platform::skipFailures([&] { library = platform::readFile(libraryFile); }))
+        return;
+    QDir copies(folders.pictureFolder());
+    for (const QString &name : copies.entryList(QDir::Files)) {
+        if (Loaded.match(name).hasMatch() && !library.contains(name.toLatin1()))
+            copies.remove(name);
+    }
+}
+
+} // namespace controls

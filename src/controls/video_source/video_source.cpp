@@ -1,0 +1,185 @@
+#include "controls/video_source/video_source.h"
+
+#include "controls/complexity.h"
+#include "platform/guards.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace controls {
+
+using common::toInteger;
+using platform::skipFailures;
+using recorder::VideoStandard;
+
+namespace {
+
+constexpr int MarkerDivisor = 8;
+constexpr int PlaceStep = 16; // pixels; a picture in the picture begins at a multiple of it
+
+using V = VideoSourceValues;
+constexpr std::array Rows{
+    property<&V::curTopBorderWidth>("curTopBorderWidth", "newTopBorderWidth"),
+    property<&V::curBottomBorderWidth>("curBottomBorderWidth", "newBottomBorderWidth"),
+    property<&V::curLeftBorderWidth>("curLeftBorderWidth", "newLeftBorderWidth"),
+    property<&V::curRightBorderWidth>("curRightBorderWidth", "newRightBorderWidth"),
+    property<&V::curDivisor>("curDivisor", "NewDivisor"),
+    property<&V::curBordercolor>("curBordercolor", "NewBordercolor"),
+    property<&V::curBorderVisible>("curBorderVisible", "NewBorderVisible"),
+    property<&V::curCameraNo>("curCameraNo", "NewCameraNo"),
+    property<&V::curMirror>("curMirror", "NewMirror"),
+    property<&V::curBorderWidth>("curBorderWidth", "newBorderWidth"),
+    property<&V::curBrightness>("curBrightness", "newBrightness"),
+    property<&V::curContrast>("curContrast", "newContrast"),
+    property<&V::curHue>("curHue", "newHue"),
+    property<&V::curSaturation>("curSaturation", "newSaturation"),
+    property<&V::curLowerLimit>("curLowerLimit", "newLowerLimit"),
+    property<&V::curUpperLimit>("curUpperLimit", "newUpperLimit"),
+    property<&V::curDefaultVal>("curDefaultVal", "newDefaultVal"),
+    property<&V::curVarID>("curVarID", "newVarID"),
+    property<&V::curTopCoord>("curTopCoord", "newTopCoord").notSerialised(),
+    property<&V::curLeftCoord>("curLeftCoord", "newLeftCoord").notSerialised(),
+};
+
+// The nearest multiple of the step at which all of `length` is still on the canvas; twips.
+float stepped(float place, float length, float canvas, float twipsPerPixel)
+{
+    const float step = PlaceStep * twipsPerPixel;
+    const float last = std::floor((canvas - length) / step);
+    return std::clamp(std::nearbyint(place / step), 0.0F, last) * step;
+}
+
+// Stands for a picture that only the recorder has.
+void paintCamera(QPainter &painter, const QRect &area, const QString &text)
+{
+    QLinearGradient light(area.topLeft(), area.bottomLeft());
+    light.setColorAt(0, QColor(0x6f, 0x83, 0x96));
+    light.setColorAt(1, QColor(0x2b, 0x35, 0x40));
+    painter.fillRect(area, light);
+    QFont font = painter.font();
+    font.setPixelSize(std::clamp(area.height() / 6, 8, 20));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
+}
+
+void paintBorder(QPainter &painter, const QRect &area, int width, const QColor &colour)
+{
+    const QRegion border = QRegion(area) - area.adjusted(width, width, -width, -width);
+    for (const QRect &edge : border)
+        painter.fillRect(edge, colour);
+}
+
+} // namespace
+
+const PropertyTable &videoSourceProperties()
+{
+    static constexpr PropertyTable Table{Rows};
+    return Table;
+}
+
+QSizeF sourceSize(quint8 divisor, VideoStandard standard)
+{
+    const QSizeF frame(recorder::CanvasWidth, recorder::canvasHeight(standard));
+    return frame / (divisor > 1 ? divisor : MarkerDivisor);
+}
+
+VideoSourceValues placed(VideoSourceValues values, VideoStandard standard, const platform::Screen &screen)
+{
+    const QSizeF size = sourceSize(values.curDivisor, standard);
+    values.box = {screen.toTwipsX(values.curLeftCoord), screen.toTwipsY(values.curTopCoord),
+                  screen.toTwipsX(static_cast<float>(size.width())),
+                  screen.toTwipsY(static_cast<float>(size.height()))};
+    return values;
+}
+
+void VideoSource::AssignProperties()
+{
+    setBox(placed(m_values, host().VideoType(), screen()).box);
+    raiseReposition();
+}
+
+void VideoSource::raiseReposition()
+{
+    host().Reposition(*this, QPointF(m_values.curLeftCoord, m_values.curTopCoord));
+}
+
+void VideoSource::updatePosition()
+{
+    skipFailures([&] { m_values.curLeftCoord = toInteger<qint16>(screen().toPixelsX(box().Left)); });
+    skipFailures([&] { m_values.curTopCoord = toInteger<qint16>(screen().toPixelsY(box().Top)); });
+}
+
+void VideoSource::standardChanged()
+{
+    Box sized = placed(m_values, host().VideoType(), screen()).box;
+    sized.Left = box().Left;
+    sized.Top = box().Top;
+    setBox(sized);
+    updatePosition();
+}
+
+void VideoSource::fitCanvasHeight(float height)
+{
+    const float visible = box().Height - screen().toTwipsY(m_values.curBottomBorderWidth);
+    if (box().Top + visible > height)
+        moveTo(box().Left, height - visible);
+    updatePosition();
+}
+
+QMarginsF VideoSource::overhang() const
+{
+    return {double{screen().toTwipsX(m_values.curLeftBorderWidth)},
+            double{screen().toTwipsY(m_values.curTopBorderWidth)},
+            double{screen().toTwipsX(m_values.curRightBorderWidth)},
+            double{screen().toTwipsY(m_values.curBottomBorderWidth)}};
+}
+
+void VideoSource::nudge(int dx, int dy)
+{
+    const auto left = toInteger<qint16>(m_values.curLeftCoord + dx);
+    m_values.curTopCoord = toInteger<qint16>(m_values.curTopCoord + dy);
+    m_values.curLeftCoord = left;
+    raiseReposition();
+}
+
+QSizeF VideoSource::startSize() const
+{
+    const Box box = placed({}, host().VideoType(), screen()).box;
+    return {double{box.Width}, double{box.Height}};
+}
+
+void VideoSource::applyInitialProperties()
+{
+    set(VideoSourceValues());
+    const auto canvasHeight = static_cast<float>(recorder::canvasHeight(host().VideoType()));
+    moveTo(stepped(box().Left, box().Width, screen().toTwipsX(recorder::CanvasWidth), screen().tx),
+           stepped(box().Top, box().Height, screen().toTwipsY(canvasHeight), screen().ty));
+    updatePosition();
+}
+
+// The recorder fills the frame with the background, so there is nothing to draw but its marker.
+void VideoSource::paint(Composition &onto) const
+{
+    const bool isDesigned = onto.drawing == Drawing::Designed;
+    const QString camera = QStringLiteral("Camera %1").arg(m_values.curCameraNo + 1);
+    CompositionPainter painter(onto);
+    if (m_values.isBackground()) {
+        if (isDesigned)
+            paintCamera(painter, outerRect(), QStringLiteral("Background\n") + camera);
+        return;
+    }
+    const QRect shown = outerRect().adjusted(m_values.curLeftBorderWidth, m_values.curTopBorderWidth,
+                                             -m_values.curRightBorderWidth, -m_values.curBottomBorderWidth);
+    if (isDesigned) // what is cropped off can be seen
+        painter.fillRect(outerRect(), QColor(0, 0, 0, 128));
+    if (!shown.isValid())
+        return;
+    paintCamera(painter, shown, camera);
+    if (m_values.curBorderVisible != 0)
+        paintBorder(painter, shown, m_values.curBorderWidth, toQColor(m_values.curBordercolor.packed()));
+}
+
+double VideoSource::complexity() const { return complexity::videoSource(m_values.curDivisor); }
+
+} // namespace controls

@@ -1,0 +1,175 @@
+#include "controls/video_source/video_source_dialog.h"
+
+#include <algorithm>
+
+namespace controls {
+
+using common::toInteger;
+using recorder::VideoStandard;
+using V = ShownVideoSource;
+
+namespace {
+
+constexpr int BackgroundRow = 0; // of the sizes
+constexpr int PlaceStep = 16;    // pixels, of all but the background
+constexpr double ThickestBorder = 255;
+
+struct Crops
+{
+    explicit Crops(const forms::Typed &typed)
+        : left(typed.number("txtLeftBorderWidth")), right(typed.number("txtRightBorderWidth")),
+          top(typed.number("txtTopBorderWidth")), bottom(typed.number("txtBottomBorderWidth"))
+    {
+    }
+
+    double left, right, top, bottom;
+};
+
+bool bordersFit(const forms::Typed &typed)
+{
+    const Crops crops(typed);
+    return crops.left < typed.number("txtWidth") - crops.right &&
+           crops.top < typed.number("txtHeight") - crops.bottom &&
+           std::min({crops.left, crops.right, crops.top, crops.bottom}) >= 0 &&
+           typed.number("txtBorderWidth") <= ThickestBorder;
+}
+
+// One axis: what is cropped off may stand outside the canvas.
+int pulledIn(int place, double size, double crop, int canvas)
+{
+    const double kept = place + size - crop >= canvas ? canvas - size + crop : place;
+    return std::max(toInteger<int>(kept), 0);
+}
+
+QPoint typedPlace(const forms::Typed &typed)
+{
+    const auto coordinate = [&typed](const char *field) {
+        return toInteger<qint16>(common::parseNumber(typed.text(field)));
+    };
+    return {coordinate("txtLeftCoordinates"), coordinate("txtTopCoordinates")};
+}
+
+ShownVideoSource shown(const VideoSourceValues &values)
+{
+    return {values, static_cast<qint8>(values.curHue),
+            values.curLowerLimit != 0 || values.curUpperLimit != 0};
+}
+
+} // namespace
+
+QPoint keptOnCanvas(QPoint place, const forms::Typed &typed, VideoStandard standard)
+{
+    const double share = typed.row("cmbSizeRatio") == BackgroundRow ? 1.0 / 8 : 1; // its marker
+    const Crops crops(typed);
+    return {pulledIn(place.x(), typed.number("txtWidth") * share, crops.right, recorder::CanvasWidth),
+            pulledIn(place.y(), typed.number("txtHeight") * share, crops.bottom,
+                     recorder::canvasHeight(standard))};
+}
+
+std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed, VideoStandard standard)
+{
+    if (!bordersFit(typed))
+        return forms::refusal(QStringLiteral("Invalid Border Width"), platform::Icon::Critical);
+    const QPoint place = keptOnCanvas(typedPlace(typed), typed, standard);
+    const bool isAligned = place.x() % PlaceStep == 0 && place.y() % PlaceStep == 0;
+    if (isAligned || typed.row("cmbSizeRatio") == BackgroundRow)
+        return std::nullopt;
+    const auto aligned = [](int coordinate) { return QString::number(coordinate / PlaceStep * PlaceStep); };
+    return forms::Verdict{
+        forms::Verdict::Kind::OkCancel,
+        platform::Icon::Critical,
+        QStringLiteral("Left and top coordinates of the video source control must be divisible by 16.\n"
+                       "Press OK to continue with automatic correction"),
+        {{QStringLiteral("txtLeftCoordinates"), aligned(place.x())},
+         {QStringLiteral("txtTopCoordinates"), aligned(place.y())}}};
+}
+
+VideoSourceDialog::VideoSourceDialog(VideoSource &source)
+    : PropertyDialog(source, QStringLiteral("Video Source Properties"), shown(source.get())), m_source(source)
+{
+    addSize();
+    addBorders();
+    addCamera();
+    addLimits();
+    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+}
+
+void VideoSourceDialog::addSize()
+{
+    addGroup("Video");
+    choice(&V::curCameraNo, {"cmbCameraNo", "Camera &number"},
+           forms::numbered(std::array{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
+                                      QStringLiteral("4")}));
+    auto &size = choice(&V::curDivisor, {"cmbSizeRatio", "&Size"},
+                        {{QStringLiteral("Background Video"), 1},
+                         {QStringLiteral("50%    (1/2)"), 2},
+                         {QStringLiteral("33%    (1/3)"), 3},
+                         {QStringLiteral("25%    (1/4)"), 4}});
+    auto &mirror = choice(&V::curMirror, {"cmbMirror", "&Mirror"},
+                          forms::numbered(std::array{QStringLiteral("Disable"), QStringLiteral("Enable")}));
+    auto &width = shownText({"txtWidth", "Width", "pixels"});
+    auto &height = shownText({"txtHeight", "Height", "pixels"});
+    number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});
+    number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
+    follow([this, &size, &mirror, &width, &height] {
+        const bool isBackground = size.row() == BackgroundRow;
+        const int divisor = size.row() < 0 ? kept().curDivisor : size.chosen();
+        width.setText(QString::number(recorder::CanvasWidth / std::max(divisor, 1)));
+        height.setText(
+            QString::number(recorder::canvasHeight(m_source.host().VideoType()) / std::max(divisor, 1)));
+        mirror.setEnabled(isBackground);
+        if (!isBackground)
+            mirror.box().setCurrentIndex(0);
+    });
+}
+
+void VideoSourceDialog::addBorders()
+{
+    addGroup("Crop and border");
+    number(&V::curTopBorderWidth, {"txtTopBorderWidth", "Crop at the top", "pixels"});
+    number(&V::curBottomBorderWidth, {"txtBottomBorderWidth", "Crop at the bottom", "pixels"});
+    number(&V::curLeftBorderWidth, {"txtLeftBorderWidth", "Crop at the left", "pixels"});
+    number(&V::curRightBorderWidth, {"txtRightBorderWidth", "Crop at the right", "pixels"});
+    const auto &border = check(&V::curBorderVisible, "chkBorderVisible", "Show a &border");
+    auto &width = number(&V::curBorderWidth, {"txtBorderWidth", "Border &width", "pixels"});
+    auto &colour = this->colour(&V::curBordercolor, {"picBorderColour", "Border c&olour"},
+                                "cmdResetBorderColour", StandardColour);
+    enableBy(border, {&width, &colour});
+}
+
+void VideoSourceDialog::addCamera()
+{
+    constexpr int MostOfByte = 255;
+    addGroup("Camera");
+    slider(&V::curBrightness, {"sldBrightness", "Brightness"}, 0, MostOfByte);
+    slider(&V::curContrast, {"sldContrast", "Contrast"}, 0, MostOfByte);
+    slider(&V::hue, {"sldHue", "&Hue"}, -128, 127);
+    slider(&V::curSaturation, {"sldSaturation", "Saturation"}, 0, MostOfByte);
+}
+
+void VideoSourceDialog::addLimits()
+{
+    addGroup("Hide Video Under Variable Control");
+    variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
+    const auto &limited = check(&V::isLimited, "chkApplyLimits", "&Display when");
+    auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "&greater than"});
+    auto &upper = number(&V::curUpperLimit, {"txtUpperLimit", "and l&ess than"});
+    enableBy(limited, {&lower, &upper});
+    number(&V::curDefaultVal, {"txtDefaultVal", "De&fault value"});
+}
+
+void VideoSourceDialog::set(ShownVideoSource &values)
+{
+    const QPoint place =
+        keptOnCanvas({values.curLeftCoord, values.curTopCoord}, typed(), m_source.host().VideoType());
+    values.curLeftCoord = toInteger<qint16>(place.x());
+    values.curTopCoord = toInteger<qint16>(place.y());
+    values.curHue = static_cast<quint8>(values.hue);
+    if (!values.isLimited) {
+        values.curLowerLimit = 0;
+        values.curUpperLimit = 0;
+    }
+    m_source.set(values);
+}
+
+} // namespace controls
