@@ -12,31 +12,19 @@ using recorder::VideoStandard;
 TEST(DisplayText, isANumberOrATimeWithTheMarkOfTheDisplay)
 {
     constexpr float Infinite = std::numeric_limits<float>::infinity();
-    const struct
-    {
-        float value;
-        int time, places, mark;
-        const char *text;
-    } cases[] = {
-        {3725.5F, 1, 1, 0, "01:02:05.5"},
-        {90000, 1, 0, 0, "25:00:00"},
-        {3600000, 1, 2, 1, "1000:00:00.00"},
-        {59.999F, 1, 2, 0, "00:00:59.99"},
-        {1e-5F, 1, 2, 0, "00:00:00.00"},
-        {1.5e7F, 1, 1, 0, "4166:40:00.0"},
-        {-61, 1, 0, 0, "00:-01:-01"},
-        {1.5F, 0, 2, 1, "1,50"},
-        {1.5F, 0, 0, 1, "1.5"},
-        {0.125F, 0, 2, 0, "0.13"},
-        {Infinite, 1, 1, 0, "INF"},
-    };
-    for (const auto &c : cases) {
+    const std::tuple<float, bool, quint8, quint8, const char *> cases[] = {
+        {3725.5F, true, 1, 0, "01:02:05.5"},  {90000, true, 0, 0, "25:00:00"},
+        {59.999F, true, 2, 0, "00:00:59.99"}, {1e-5F, true, 2, 0, "00:00:00.00"},
+        {1.5e7F, true, 1, 1, "4166:40:00.0"}, {-61, true, 0, 0, "00:-01:-01"},
+        {1.5F, false, 2, 1, "1,50"},          {1.5F, false, 0, 1, "1.5"},
+        {Infinite, true, 1, 0, "INF"}};
+    for (const auto &[value, isTime, places, mark, text] : cases) {
         DigitalDisplayValues values;
-        values.curDefaultVal = c.value;
-        values.curTimeFormat = static_cast<quint8>(c.time);
-        values.curDecPlaces = static_cast<quint8>(c.places);
-        values.curDecMark = static_cast<quint8>(c.mark);
-        EXPECT_EQ(displayText(values).toStdString(), c.text);
+        values.curDefaultVal = value;
+        values.curTimeFormat = isTime;
+        values.curDecPlaces = places;
+        values.curDecMark = mark;
+        EXPECT_EQ(displayText(values).toStdString(), text);
     }
 }
 
@@ -59,33 +47,25 @@ TEST(StoredText, isCutToThirtyCharactersOfTheCodePage)
 // A text of 100 x 10 pixels, with its frame 110 x 20.
 TEST(TextPlace, namesTheLeftEdgeOrTheRightOneAndStaysOnTheCanvas)
 {
-    const struct
-    {
-        const char *name;
-        TextAlign align;
-        int x, y;
-        VideoStandard standard;
-        int standsX, standsY;
-    } cases[] = {
-        {"left edge", TextAlign::Right, 300, 200, VideoStandard::Pal, 300, 200},
-        {"right edge", TextAlign::Left, -700, 200, VideoStandard::Pal, 600, 200},
-        {"pulled in", TextAlign::Right, 650, 570, VideoStandard::Pal, 615, 561},
-        {"pulled up", TextAlign::Right, -720, 470, VideoStandard::Ntsc, 615, 465},
-        {"over the left edge", TextAlign::Right, -40, -3, VideoStandard::Pal, -60, -3},
-        {"a left edge is never negative", TextAlign::Left, -40, 0, VideoStandard::Pal, 0, 0},
+    using enum TextAlign;
+    const std::tuple<TextAlign, QPoint, VideoStandard, QPoint> cases[] = {
+        {Right, {300, 200}, VideoStandard::Pal, {300, 200}},
+        {Left, {-700, 200}, VideoStandard::Pal, {600, 200}},
+        {Right, {650, 570}, VideoStandard::Pal, {615, 561}},
+        {Right, {-720, 470}, VideoStandard::Ntsc, {615, 465}},
+        {Right, {-40, -3}, VideoStandard::Pal, {-60, -3}},
+        {Left, {-40, 0}, VideoStandard::Pal, {0, 0}}, // a left edge is never negative
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto &[align, typed, standard, stands] : cases) {
         TextTagValues values;
-        values.align = static_cast<quint8>(c.align);
-        values.curCenterX = static_cast<qint16>(c.x);
-        values.curCenterY = static_cast<qint16>(c.y);
+        values.align = static_cast<quint8>(align);
+        values.curCenterX = static_cast<qint16>(typed.x());
+        values.curCenterY = static_cast<qint16>(typed.y());
         for (int apply = 0; apply < 2; ++apply) { // the second one moves nothing
-            place(values, {100, 10}, c.standard, {});
-            EXPECT_EQ(QPoint(values.curCenterX, values.curCenterY), QPoint(c.standsX, c.standsY));
+            place(values, {100, 10}, standard, {});
+            EXPECT_EQ(QPoint(values.curCenterX, values.curCenterY), stands) << typed.x();
         }
-        const auto twips = [](int pixels) { return 15 * static_cast<float>(pixels) - 75; };
-        EXPECT_EQ(values.box, (Box{twips(c.standsX), twips(c.standsY), 1650, 300}));
+        EXPECT_EQ(pixelRect(values.box, {}), QRect(stands - QPoint(5, 5), QSize(110, 20)));
     }
 }
 

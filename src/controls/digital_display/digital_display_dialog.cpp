@@ -73,7 +73,7 @@ void DigitalDisplayDialog::addFormat()
 {
     addGroup("Format");
     auto &value = number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
-    auto &places = number(&V::curDecPlaces, {"txtDecimalPlaces", "Decimal &places"});
+    auto &places = number(&V::curDecPlaces, {"txtDecimalPlaces", "Decimal place&s"});
     auto &mark = choice(&V::curDecMark, {"cmbDecMark", "Decimal &mark"},
                         {{QStringLiteral("Dot (.)"), 0}, {QStringLiteral("Comma (,)"), 1}}, 1);
     mark.caption()->setObjectName(QStringLiteral("lblDecSymbol"));
@@ -92,7 +92,7 @@ void DigitalDisplayDialog::addFormat()
 void DigitalDisplayDialog::addLimits()
 {
     addGroup("Limits");
-    auto &limited = check(&V::isLimited, "chkApplyLimits", "Limit the &value displayed");
+    auto &limited = check(&V::isLimited, "chkApplyLimits", "L&imit the value displayed");
     auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "Lo&wer limit"});
     auto &upper = number(&V::curUpperLimit, {"txtUpperLimit", "&Upper limit"});
     enableBy(limited, {&lower, &upper});
