@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/colour.h"
+#include "common/fixed_string.h"
 #include "common/rounding.h"
 #include "controls/geometry.h"
 #include "platform/screen.h"
@@ -20,18 +21,6 @@ struct ControlValues
 {
     Box box;
     common::Colour backColour; // of the canvas, as the host gave it
-};
-
-// Text of a fixed width: cut or padded with blanks to N characters whenever it is set.
-template <int N>
-class FixedString
-{
-public:
-    FixedString(const QString &text = {}) : m_text(text.leftJustified(N, QLatin1Char(' '), true)) {}
-    operator const QString &() const { return m_text; }
-
-private:
-    QString m_text;
 };
 
 // A property as it passes by name: whole numbers and colours, floats, text, pictures.
@@ -123,7 +112,7 @@ inline void fromProperty(const PropertyValue &value, common::Colour &member)
 void fromProperty(const PropertyValue &value, QString &member);
 void fromProperty(const PropertyValue &value, QImage &member);
 template <int N>
-void fromProperty(const PropertyValue &value, FixedString<N> &member)
+void fromProperty(const PropertyValue &value, common::FixedString<N> &member)
 {
     QString text;
     fromProperty(value, text);
@@ -145,11 +134,11 @@ constexpr PropertyKind kindOf()
 
 } // namespace detail
 
-// The row of a member: property<&GaugeValues::curMax>("curMax", "newMax"). Pictures are not serialised.
-template <auto M>
+// The row of a member: property<&GaugeValues::curMax>("curMax", "newMax"). Pictures are not serialised. The
+// owner is to be named where the member is that of another base.
+template <auto M, typename Owner = typename detail::Member<decltype(M)>::Owner>
 constexpr PropertyRow property(std::string_view reader, std::string_view writer)
 {
-    using Owner = typename detail::Member<decltype(M)>::Owner;
     constexpr PropertyKind Kind = detail::kindOf<typename detail::Member<decltype(M)>::Type>();
     return {reader,
             writer,

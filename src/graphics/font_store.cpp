@@ -12,6 +12,7 @@ namespace graphics {
 namespace {
 
 constexpr qsizetype LargestCache = 32LL * 1024 * 1024; // bytes of decoded glyphs and files
+constexpr qsizetype MostOutlines = 16;                 // faces
 
 std::shared_ptr<const ReadyFont> decoded(const FontRequest &request, const std::optional<FontPair> &files)
 {
@@ -31,7 +32,10 @@ bool ReadyFont::standsInFor(const FontRequest &wanted) const
     return fontFileName(request) != fontFileName(wanted);
 }
 
-FontStore::FontStore(const platform::Folders &folders) : m_folders(folders), m_cache(LargestCache) {}
+FontStore::FontStore(const platform::Folders &folders)
+    : m_folders(folders), m_cache(LargestCache), m_outlines(MostOutlines)
+{
+}
 
 FontFolders FontStore::folders() const { return {m_folders.FontFolder(), m_folders.shippedFaces()}; }
 
@@ -107,6 +111,16 @@ std::optional<FontPair> FontStore::makeFiles(const FontRequest &request, platfor
     if (files) // a folder that cannot be written to costs time, not the font
         platform::skipFailures([&] { writeFont(request, *files, m_folders.FontFolder()); });
     return files;
+}
+
+std::shared_ptr<const OutlineFont> FontStore::outlines(const QString &face, const FontStyle &style)
+{
+    const QString key = fontFileName({face, 0, style});
+    if (const auto *kept = m_outlines.object(key))
+        return *kept;
+    const auto made = std::make_shared<const OutlineFont>(storedFace(face), style, m_folders.shippedFaces());
+    m_outlines.insert(key, new std::shared_ptr(made));
+    return made;
 }
 
 } // namespace graphics

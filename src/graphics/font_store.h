@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics/font_generator.h"
+#include "graphics/outline_font.h"
 #include "graphics/text_font.h"
 #include "platform/folders.h"
 
@@ -37,6 +38,8 @@ public:
     // (points). Opens no window and says nothing. Throws RunTimeError when not even that can be made.
     std::shared_ptr<const ReadyFont> open(const FontRequest &request, int usualSize,
                                           platform::Progress &progress);
+    // The outlines of a face, never null; OutlineFont tells what stands in for one that is not there.
+    std::shared_ptr<const OutlineFont> outlines(const QString &face, const FontStyle &style);
     // Makes both files, also when they are there. Results as GenerateFont().
     bool generate(const FontRequest &request, platform::Progress &progress, platform::Prompts &prompts);
 
@@ -69,6 +72,7 @@ private:
 
     const platform::Folders &m_folders;
     QCache<QString, Entry> m_cache; // by the path of the standard file
+    QCache<QString, std::shared_ptr<const OutlineFont>> m_outlines;
 };
 
 } // namespace graphics

@@ -26,7 +26,7 @@ const QString BarTexts = "1950|450|2|20|16711680|100|-5.5|50|1|204|3|0.5|9";
 // What the rows of other families hold besides: text of a fixed width, elements without a name, a picture.
 struct SampleValues : ControlValues
 {
-    FixedString<6> caption{"SPEED"};
+    common::FixedString<6> caption{"SPEED"};
     common::Colour colour{255};
     quint8 hidden = 9;
     QImage picture;
