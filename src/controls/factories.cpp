@@ -5,6 +5,7 @@
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
+#include "controls/track_map/track_map.h"
 #include "controls/video_source/video_source.h"
 
 namespace controls {
@@ -24,9 +25,10 @@ struct FactoryRow
 };
 
 constexpr FactoryRow Factories[] = {
-    {ControlType::TextTag, make<TextTag>},   {ControlType::DigitalDisplay, make<DigitalDisplay>},
-    {ControlType::BarGraph, make<BarGraph>}, {ControlType::Bitmap, make<Bitmap>},
-    {ControlType::Gauge, make<Gauge>},       {ControlType::VideoSource, make<VideoSource>},
+    {ControlType::TextTag, make<TextTag>},       {ControlType::DigitalDisplay, make<DigitalDisplay>},
+    {ControlType::BarGraph, make<BarGraph>},     {ControlType::Bitmap, make<Bitmap>},
+    {ControlType::Gauge, make<Gauge>},
+    {ControlType::TrackMap, make<TrackMap>},     {ControlType::VideoSource, make<VideoSource>},
 };
 
 } // namespace

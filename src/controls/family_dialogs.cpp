@@ -5,6 +5,7 @@
 #include "controls/digital_display/digital_display_dialog.h"
 #include "controls/gauge/gauge_dialog.h"
 #include "controls/text_tag/text_tag_dialog.h"
+#include "controls/track_map/track_map_dialog.h"
 #include "controls/video_source/video_source_dialog.h"
 
 namespace controls {
@@ -30,6 +31,7 @@ constexpr DialogRow Dialogs[] = {
     {ControlType::BarGraph, show<BarGraph, BarGraphDialog>},
     {ControlType::Bitmap, show<Bitmap, BitmapDialog>},
     {ControlType::Gauge, show<Gauge, GaugeDialog>},
+    {ControlType::TrackMap, show<TrackMap, TrackMapDialog>},
     {ControlType::VideoSource, show<VideoSource, VideoSourceDialog>},
 };
 

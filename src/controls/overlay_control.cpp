@@ -55,6 +55,14 @@ void OverlayControl::fitCanvasHeight(float height)
     updatePosition();
 }
 
+void OverlayControl::pullUp(float height)
+{
+    if (box().bottom() <= height)
+        return;
+    moveTo(box().Left, height - box().Height);
+    updatePosition();
+}
+
 PropertyValue OverlayControl::read(std::string_view reader) const
 {
     return found(properties().reader(reader)).get(values(), screen());

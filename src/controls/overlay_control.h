@@ -109,6 +109,8 @@ protected:
     virtual const ControlValues &values() const = 0;
     virtual const PropertyTable &properties() const = 0;
     virtual GripSet grips() const { return GripSet::All; }
+    // Moves it up to end at this height, twips, if it ends below.
+    void pullUp(float height);
     // After the box has changed its size by other means than the dialog.
     virtual void sizeChanged() {}
     // The end of Deserialise(): what follows from the properties that were just read.

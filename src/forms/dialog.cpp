@@ -214,8 +214,8 @@ void Dialog::setTabs()
     };
     for (const auto &field : m_fields) {
         next(&field->widget());
-        for (auto *beside : field->cell()->findChildren<QPushButton *>()) {
-            if (beside != &field->widget())
+        for (auto *beside : field->cell()->findChildren<QAbstractButton *>()) {
+            if (beside != &field->widget() && beside->focusPolicy() != Qt::NoFocus)
                 next(beside);
         }
     }

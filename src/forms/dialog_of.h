@@ -3,6 +3,7 @@
 #include "forms/colour_field.h"
 #include "forms/dialog.h"
 #include "forms/list_field.h"
+#include "forms/option_field.h"
 #include "forms/slider_field.h"
 #include "forms/text_field.h"
 
@@ -87,6 +88,12 @@ protected:
         field.box().setFrame(false);
         addRow(field, row.caption, row.unit);
         return field;
+    }
+    // A row of radio buttons.
+    template <typename Member>
+    OptionField &options(Member member, const char *caption, const std::vector<Option> &options)
+    {
+        return inRow(add<OptionField>(options), member, {options.front().name, caption});
     }
     // A check box with its caption after it.
     template <typename Member>

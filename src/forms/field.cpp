@@ -36,7 +36,7 @@ void Field::changed()
         callback();
 }
 
-QWidget *sideBySide(std::initializer_list<QWidget *> widgets, bool stretched)
+QWidget *sideBySide(const QList<QWidget *> &widgets, bool stretched)
 {
     auto *cell = new QWidget;
     auto *layout = new QHBoxLayout(cell);

@@ -3,6 +3,7 @@
 #include "forms/verdict.h"
 
 #include <QLabel>
+#include <QList>
 #include <QWidget>
 
 #include <functional>
@@ -57,6 +58,6 @@ private:
 };
 
 // These widgets side by side; they belong to the returned one.
-QWidget *sideBySide(std::initializer_list<QWidget *> widgets, bool stretched = false);
+QWidget *sideBySide(const QList<QWidget *> &widgets, bool stretched = false);
 
 } // namespace forms

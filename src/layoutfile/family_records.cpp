@@ -15,9 +15,7 @@ std::span<const FamilyRecord> familyRecords()
         digitalDisplayRecord(),
         barGraphRecord(),
         gaugeRecord(),
-        FamilyRecord{.family = ControlType::TrackMap,
-                     .type = RecordType::TrackMap,
-                     .secondRefused = "System does not support more than one Track Map"},
+        trackMapRecord(),
         customDialRecord()};
     return Records;
 }

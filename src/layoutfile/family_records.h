@@ -48,5 +48,6 @@ FamilyRecord bitmapRecord();
 FamilyRecord gaugeRecord();
 FamilyRecord customDialRecord();
 FamilyRecord videoSourceRecord();
+FamilyRecord trackMapRecord();
 
 } // namespace layoutfile

@@ -1,0 +1,122 @@
+#include "controls/track_map/track_map.h"
+
+#include "controls/complexity.h"
+#include "platform/guards.h"
+
+namespace controls {
+
+using common::toInteger;
+using platform::skipFailures;
+
+namespace {
+
+using V = TrackMapValues;
+constexpr std::array Rows{
+    property<&V::curBorderWidth>("curBorderWidth", "newBorderWidth"),
+    property<&V::curBordercolor>("curBordercolor", "NewBordercolor"),
+    property<&V::curBorderVisible>("curBorderVisible", "NewBorderVisible"),
+    property<&V::curMarkerWidth>("curMarkerWidth", "newMarkerWidth"),
+    property<&V::curMarkercolor>("curMarkercolor", "NewMarkercolor"),
+    property<&V::curMarkerVisible>("curMarkerVisible", "NewMarkerVisible"),
+    property<&V::curLineWidth>("curLineWidth", "newLineWidth"),
+    property<&V::curLinecolor>("curLinecolor", "NewLinecolor"),
+    property<&V::curAlfa>("curAlfa", "newAlfa"),
+    property<&V::curFadingRate>("curFadingRate", "newFadingRate"),
+    property<&V::curIniWidth>("curIniWidth", "newIniWidth"),
+    property<&V::curIniHeight>("curIniHeight", "newIniHeight"),
+    property<&V::curAutoRescale>("curAutoRescale", "newAutoRescale"),
+    property<&V::curMapEnable>("curMapEnable", "newMapEnable"),
+    property<&V::curMapType>("curMapType", "newMapType"),
+    property<&V::curMapDetailLevel>("curMapDetailLevel", "newMapDetailLevel"),
+    property<&V::curMapAlpha>("curMapAlpha", "newMapAlpha"),
+    property<&V::curLeftCoord>("curLeftCoord", "newLeftCoord").notSerialised(),
+    property<&V::curTopCoord>("curTopCoord", "newTopCoord").notSerialised(),
+    property<&V::curWidth>("curWidth", "newWidth").notSerialised(),
+    property<&V::curHeight>("curHeight", "NewHeight").notSerialised(),
+};
+
+} // namespace
+
+const PropertyTable &trackMapProperties()
+{
+    static constexpr PropertyTable Table{Rows};
+    return Table;
+}
+
+TrackMapValues placed(TrackMapValues values, recorder::VideoStandard standard, const platform::Screen &screen)
+{
+    if (values.curWidth < 0 || values.curHeight < 0)
+        throw common::RunTimeError(QStringLiteral("Invalid property value"));
+    Box &box = values.box;
+    box.Width = screen.toTwipsX(values.curWidth) + BothFrames;
+    box.Height = screen.toTwipsY(values.curHeight) + BothFrames;
+    values.curLeftCoord = toInteger<qint16>(
+        pulledInto(values.curLeftCoord, screen.toPixelsX(box.Width), 0, recorder::CanvasWidth));
+    values.curTopCoord = toInteger<qint16>(pulledInto(values.curTopCoord, screen.toPixelsY(box.Height), 0,
+                                                      static_cast<float>(recorder::canvasHeight(standard))));
+    box.Left = screen.toTwipsX(values.curLeftCoord);
+    box.Top = screen.toTwipsY(values.curTopCoord);
+    return values;
+}
+
+void TrackMap::raiseReposition()
+{
+    host().Reposition(*this, QPointF(m_values.curLeftCoord, m_values.curTopCoord));
+}
+
+void TrackMap::AssignProperties()
+{
+    const TrackMapValues standing = placed(m_values, host().VideoType(), screen());
+    set(standing);
+    setBox(standing.box);
+    raiseReposition();
+}
+
+void TrackMap::updatePosition()
+{
+    skipFailures([&] { m_values.curLeftCoord = toInteger<qint16>(screen().toPixelsX(box().Left)); });
+    skipFailures([&] { m_values.curTopCoord = toInteger<qint16>(screen().toPixelsY(box().Top)); });
+}
+
+void TrackMap::sizeChanged()
+{
+    skipFailures([&] { m_values.curWidth = toInteger<qint16>(innerWidth(box(), screen())); });
+    skipFailures([&] { m_values.curHeight = toInteger<qint16>(innerHeight(box(), screen())); });
+}
+
+void TrackMap::applyInitialProperties()
+{
+    set(TrackMapValues());
+    sizeChanged();
+    updatePosition();
+}
+
+void TrackMap::nudge(int dx, int dy)
+{
+    m_values.curLeftCoord = toInteger<qint16>(m_values.curLeftCoord + dx);
+    m_values.curTopCoord = toInteger<qint16>(m_values.curTopCoord + dy);
+    raiseReposition();
+}
+
+// The recorder draws in the outer box. On the canvas the editing frame covers its edges, so the border stands
+// within the frame.
+void TrackMap::paint(Composition &onto) const
+{
+    const bool designed = onto.drawing == Drawing::Designed;
+    const QRect box = designed ? innerRect() : outerRect();
+    CompositionPainter painter(onto);
+    if (designed)
+        painter.fillRect(box, toQColor(m_values.backColour.packed()));
+    if (m_values.curBorderVisible == 0)
+        return;
+    const int width = m_values.curBorderWidth;
+    for (const QRect &side : QRegion(box) - box.adjusted(width, width, -width, -width))
+        painter.fillRect(side, toQColor(m_values.curBordercolor.packed()));
+}
+
+double TrackMap::complexity() const
+{
+    return complexity::trackMap(m_values.curWidth, m_values.curHeight, m_values.curMapEnable != 0);
+}
+
+} // namespace controls

@@ -1,0 +1,149 @@
+#include "controls/track_map/track_map_dialog.h"
+
+#include <cmath>
+
+namespace controls {
+
+using forms::Correction;
+using forms::Verdict;
+
+namespace {
+
+constexpr double WidestStroke = 255; // pixels
+constexpr double MapStep = 8;        // pixels between the places where a map can begin
+
+std::optional<Verdict> tooWide(const forms::Typed &typed)
+{
+    for (const auto &[field, stroke] :
+         {std::pair{"txtBorderWidth", "Border"}, {"txtMarkerWidth", "Marker"}, {"txtLineWidth", "Line"}}) {
+        if (typed.number(field) > WidestStroke)
+            return forms::refusal(
+                QStringLiteral("%1 width exceeds the maximum limit of 255,reduce and try again")
+                    .arg(QLatin1String(stroke)));
+    }
+    return std::nullopt;
+}
+
+// Sizes that no canvas holds are cut without a word.
+std::optional<Verdict> tooLarge(const forms::Typed &typed, recorder::VideoStandard standard)
+{
+    const int height = recorder::canvasHeight(standard);
+    for (const auto &[field, limit] : {std::pair{"txtWidth", recorder::CanvasWidth}, {"txtHeight", height}}) {
+        if (typed.number(field) > limit)
+            return Verdict{Verdict::Kind::Silent, {}, {}, {{QLatin1String(field), QString::number(limit)}}};
+    }
+    return std::nullopt;
+}
+
+std::optional<Verdict> offTheMapsSteps(const forms::Typed &typed)
+{
+    QList<Correction> corrections;
+    for (const char *field : {"txtLeftCoordinates", "txtTopCoordinates"}) {
+        const double place = typed.number(field);
+        const double step = std::trunc(place / MapStep) * MapStep;
+        if (place != step)
+            corrections.append({QLatin1String(field), QString::number(step, 'f', 0)});
+    }
+    if (corrections.isEmpty())
+        return std::nullopt;
+    const QString question =
+        QStringLiteral("Left and top coordinates of the track map control must be divisible by 8.\n"
+                       "Press OK to continue with automatic correction");
+    return Verdict{Verdict::Kind::OkCancel, platform::Icon::Critical, question, corrections};
+}
+
+} // namespace
+
+std::optional<Verdict> validateTrackMap(const forms::Typed &typed, recorder::VideoStandard standard)
+{
+    if (auto verdict = tooWide(typed))
+        return verdict;
+    const bool withMap = typed.isOn("chkEnableMap");
+    if (!withMap && !typed.isOn("chkRescale") &&
+        (typed.number("txtIniHeight") <= 0 || typed.number("txtIniWidth") <= 0))
+        return forms::refusal(QStringLiteral("Initial width & height can't be 0"));
+    if (auto verdict = tooLarge(typed, standard))
+        return verdict;
+    return withMap ? offTheMapsSteps(typed) : std::nullopt;
+}
+
+TrackMapDialog::TrackMapDialog(TrackMap &map)
+    : PropertyDialog(map, QStringLiteral("Track Map Properties"), map.get()), m_map(map)
+{
+    addBoxRows();
+    addTrackRows();
+    addScaleRows();
+    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+}
+
+void TrackMapDialog::addBoxRows()
+{
+    using V = TrackMapValues;
+    const V standard;
+    addGroup("Box");
+    number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});
+    number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
+    number(&V::curWidth, {"txtWidth", "&Width", "pixels"});
+    number(&V::curHeight, {"txtHeight", "&Height", "pixels"});
+    choice(&V::curBorderVisible, {"cmbBorderVisible", "&Border visible"},
+           {{QStringLiteral("No"), 0}, {QStringLiteral("Yes"), 1}}, 1);
+    number(&V::curBorderWidth, {"txtBorderWidth", "Border width", "pixels"});
+    colour(&V::curBordercolor, {"picBorderColour", "Border colour"}, "cmdResetBordedrColour",
+           standard.curBordercolor.packed());
+}
+
+void TrackMapDialog::addTrackRows()
+{
+    using V = TrackMapValues;
+    const V standard;
+    addGroup("Track");
+    number(&V::curLineWidth, {"txtLineWidth", "Line width", "pixels"});
+    colour(&V::curLinecolor, {"picLineColour", "Line colour"}, "cmdResetLineColour",
+           standard.curLinecolor.packed());
+    check(&V::curMarkerVisible, "chkMarkerVisible", "&Marker visible");
+    number(&V::curMarkerWidth, {"txtMarkerWidth", "Marker width", "pixels"});
+    colour(&V::curMarkercolor, {"picMarkerColour", "Marker colour"}, "cmdResetMarkerColour",
+           standard.curMarkercolor.packed());
+    percent(&V::curAlfa, {"txtAlfa", "Alpha Blending", "%"});
+    options(&V::curFadingRate, "&Fading rate",
+            {{"optLow", "Low"}, {"optMedium", "Medium"}, {"optHeight", "High"}});
+}
+
+void TrackMapDialog::addScaleRows()
+{
+    using V = TrackMapValues;
+    addGroup("Scale");
+    forms::CheckField &rescale = check(&V::curAutoRescale, "chkRescale", "&Rescale as the track grows");
+    forms::NumberField &width = number(&V::curIniWidth, {"txtIniWidth", "Initial width"});
+    forms::NumberField &height = number(&V::curIniHeight, {"txtIniHeight", "Initial height"});
+    addGroup("Map");
+    forms::CheckField &map = check(&V::curMapEnable, "chkEnableMap", "&Enable internet map overlay");
+    enableBy(map, {&options(&V::curMapType, "Map type",
+                            {{"optUseSatellite", "Use &Satellite Maps"}, {"optUseRoad", "Use R&oad Maps"}}),
+                   &options(&V::curMapDetailLevel, "Map &detail",
+                            {{"optMapHigh", "High"}, {"optMapMedium", "Medium"}, {"optMapLow", "Low"}}),
+                   &percent(&V::curMapAlpha, {"txtMapAlpha", "Ma&p alpha", "%"})});
+    follow([&map, &rescale, &width, &height] {
+        for (forms::Field *field : std::initializer_list<forms::Field *>{&rescale, &width, &height})
+            field->setEnabled(!map.isOn());
+    });
+    react(map, [this, &map, &rescale, &width, &height] {
+        if (!map.isOn())
+            return;
+        rescale.setText(QStringLiteral("0"));
+        width.setText(QStringLiteral("0"));
+        height.setText(QStringLiteral("0"));
+        prompts().message(
+            platform::Icon::Information, platform::ProductTitle,
+            QStringLiteral("To use this mode you must include a map file from the map generator "
+                           "program, please see the help file for more information"));
+    });
+}
+
+void TrackMapDialog::set(TrackMapValues &values)
+{
+    values = placed(values, m_map.host().VideoType(), m_map.host().screen());
+    m_map.set(values);
+}
+
+} // namespace controls
