@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics/font_name.h"
+#include "graphics/outline_font.h"
 #include "graphics/text_font.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
@@ -34,6 +35,9 @@ public:
     // `usualSize`, in points, is the family's and serves where the request's size does not.
     virtual std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
                                                                int usualSize) = 0;
+    // The outlines of a face, never null.
+    virtual std::shared_ptr<const graphics::OutlineFont> outlineFont(const QString &face,
+                                                                     const graphics::FontStyle &style) = 0;
 
     // Moves the control's outer corner there, canvas pixels.
     virtual void Reposition(OverlayControl &control, QPointF corner) = 0;

@@ -2,6 +2,7 @@
 
 #include "controls/bar_graph/bar_graph.h"
 #include "controls/bitmap/bitmap.h"
+#include "controls/custom_dial/custom_dial.h"
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
@@ -27,7 +28,7 @@ struct FactoryRow
 constexpr FactoryRow Factories[] = {
     {ControlType::TextTag, make<TextTag>},       {ControlType::DigitalDisplay, make<DigitalDisplay>},
     {ControlType::BarGraph, make<BarGraph>},     {ControlType::Bitmap, make<Bitmap>},
-    {ControlType::Gauge, make<Gauge>},
+    {ControlType::CustomDial, make<CustomDial>}, {ControlType::Gauge, make<Gauge>},
     {ControlType::TrackMap, make<TrackMap>},     {ControlType::VideoSource, make<VideoSource>},
 };
 

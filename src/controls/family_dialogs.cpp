@@ -2,6 +2,7 @@
 
 #include "controls/bar_graph/bar_graph_dialog.h"
 #include "controls/bitmap/bitmap_dialog.h"
+#include "controls/custom_dial/custom_dial_dialog.h"
 #include "controls/digital_display/digital_display_dialog.h"
 #include "controls/gauge/gauge_dialog.h"
 #include "controls/text_tag/text_tag_dialog.h"
@@ -30,6 +31,7 @@ constexpr DialogRow Dialogs[] = {
     {ControlType::DigitalDisplay, show<DigitalDisplay, DigitalDisplayDialog>},
     {ControlType::BarGraph, show<BarGraph, BarGraphDialog>},
     {ControlType::Bitmap, show<Bitmap, BitmapDialog>},
+    {ControlType::CustomDial, show<CustomDial, CustomDialDialog>},
     {ControlType::Gauge, show<Gauge, GaugeDialog>},
     {ControlType::TrackMap, show<TrackMap, TrackMapDialog>},
     {ControlType::VideoSource, show<VideoSource, VideoSourceDialog>},

@@ -12,10 +12,10 @@ namespace forms {
 QString fontCaption(const QFont &font);
 
 // A font that lies in six members of a struct of values; the size is points.
-template <typename Size, typename Flag>
+template <typename Size, typename Flag, typename Face = QString>
 struct FontParts
 {
-    QString &face;
+    Face &face;
     Size &size;
     Flag &bold;
     Flag &italic;
@@ -36,10 +36,10 @@ public:
 
     const QFont &font() const { return m_font; }
     void show(const QFont &font);
-    template <typename Size, typename Flag>
-    void show(const FontParts<Size, Flag> &parts)
+    template <typename Size, typename Flag, typename Face>
+    void show(const FontParts<Size, Flag, Face> &parts)
     {
-        QFont font(parts.face);
+        QFont font(static_cast<const QString &>(parts.face).trimmed());
         if (parts.size > 0)
             font.setPointSize(parts.size);
         font.setBold(parts.bold);
@@ -50,8 +50,8 @@ public:
         m_shown = font;
     }
     // Parts keep what they hold unless another font was chosen. Throws RunTimeError when a size does not fit.
-    template <typename Size, typename Flag>
-    void store(const FontParts<Size, Flag> &parts) const
+    template <typename Size, typename Flag, typename Face>
+    void store(const FontParts<Size, Flag, Face> &parts) const
     {
         if (m_font == m_shown)
             return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/fixed_string.h"
 #include "common/number_parser.h"
 #include "common/rounding.h"
 #include "forms/field.h"
@@ -21,6 +22,19 @@ public:
 
     void show(const QString &text);
     void store(QString &member) const;
+    // Shown without the blanks that fill it up.
+    template <int N>
+    void show(const common::FixedString<N> &text)
+    {
+        box().setMaxLength(N);
+        show(static_cast<const QString &>(text).trimmed());
+    }
+    template <int N>
+    void store(common::FixedString<N> &member) const
+    {
+        if (isTouched())
+            member = text();
+    }
 
 protected:
     bool isTouched() const { return text() != m_shown; }

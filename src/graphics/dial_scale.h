@@ -34,11 +34,10 @@ template <typename Takes>
 std::optional<double> largestSize(double stated, Takes takes)
 {
     constexpr double Smallest = 6;
-    for (double size = stated; size >= Smallest; size = std::ceil(size) - 1) {
-        if (takes(size))
-            return size;
-    }
-    return std::nullopt;
+    double size = stated;
+    while (size >= Smallest && !takes(size))
+        size = std::ceil(size) - 1;
+    return size >= Smallest ? std::optional(size) : std::nullopt;
 }
 
 } // namespace graphics

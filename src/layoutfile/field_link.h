@@ -1,11 +1,15 @@
 #pragma once
 
+#include "common/code_page.h"
 #include "common/colour.h"
+#include "common/fixed_string.h"
+#include "layoutfile/record_types.h"
 
 namespace layoutfile {
 
 // The two directions of a family's link(values, record, field), which names each property beside its record
-// field. Both sides are of one type, but that a colour is stored as Y, U, V.
+// field. Both sides are of one type, but that a colour is stored as Y, U, V or, where
+// no recorder draws it, packed, and a text of fixed width in the code page.
 
 struct ToRecord
 {
@@ -15,6 +19,15 @@ struct ToRecord
         stored = value;
     }
     void operator()(const common::Colour &value, common::Yuv &stored) const { stored = value.yuv(); }
+    void operator()(const common::Colour &value, qint32 &stored) const
+    {
+        stored = static_cast<qint32>(value.packed());
+    }
+    template <int N>
+    void operator()(const common::FixedString<N> &value, PaddedText<N> &stored) const
+    {
+        stored.text = common::toCodePage(value);
+    }
 };
 
 struct FromRecord
@@ -27,6 +40,15 @@ struct FromRecord
     void operator()(common::Colour &value, const common::Yuv &stored) const
     {
         value = common::Colour::fromFile(stored);
+    }
+    void operator()(common::Colour &value, const qint32 &stored) const
+    {
+        value.setPacked(static_cast<quint32>(stored));
+    }
+    template <int N>
+    void operator()(common::FixedString<N> &value, const PaddedText<N> &stored) const
+    {
+        value = common::fromCodePage(stored.text);
     }
 };
 

@@ -1,4 +1,5 @@
-#include "controls/gauge/gauge.h"
+#include "layoutfile/gauge_record.h"
+
 #include "layoutfile/family_records.h"
 #include "layoutfile/field_link.h"
 
@@ -23,9 +24,7 @@ void link(auto &values, auto &record, auto field)
 void gather(const controls::OverlayControl &control, Gathering &save)
 {
     const GaugeValues values = controls::placed(static_cast<const Gauge &>(control).get(), save.screen);
-    GaugeRecord record;
-    link(values, record, ToRecord());
-    save.groups.add(record);
+    save.groups.add(gaugeRecordOf(values));
     save.used.mark(values.curVarID);
 }
 
@@ -47,6 +46,13 @@ void build(const LayoutRecord &stored, controls::OverlayControl &control, const 
 }
 
 } // namespace
+
+GaugeRecord gaugeRecordOf(const GaugeValues &values)
+{
+    GaugeRecord record;
+    link(values, record, ToRecord());
+    return record;
+}
 
 FamilyRecord gaugeRecord()
 {

@@ -81,6 +81,11 @@ public:
     recorder::VideoStandard VideoType() const override { return m_context.settings.VideoType; }
     std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
                                                        int usualSize) override;
+    std::shared_ptr<const graphics::OutlineFont> outlineFont(const QString &face,
+                                                             const graphics::FontStyle &style) override
+    {
+        return m_context.fonts.outlines(face, style);
+    }
     void Reposition(controls::OverlayControl &control, QPointF corner) override;
     void restack(controls::OverlayControl &control, bool above) override;
     void Delete(controls::OverlayControl &control) override;

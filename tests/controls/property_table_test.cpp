@@ -1,8 +1,10 @@
 #include "controls/bar_graph/bar_graph.h"
 #include "controls/bitmap/bitmap.h"
+#include "controls/custom_dial/custom_dial.h"
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
+#include "controls/track_map/track_map.h"
 #include "controls/video_source/video_source.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +24,10 @@ const QString TagTexts = "1350|300|1|0|1|Arial|9|0|1|16711680|7|Oil|2|-0.25|100|
 const QString BitmapTexts = "1830|960|200|a.bmp|b.bmp|6025|1|2|0.5|0|3|-1.5|100|0.25";
 const QString VideoTexts = "2700|2160|3|4|5|6|2|255|1|3|9|7|100|101|102|103|-1.5|100|0.5|6025";
 const QString BarTexts = "1950|450|2|20|16711680|100|-5.5|50|1|204|3|0.5|9";
+const QString DialTexts = "3150|3000|2|65|3|255|-140|130|-1.5|240|7|153|3|20|0.7|0.85|0.02|1|16777215|"
+                          "Arial                         |2|4|18|5|6|8|0.1|0.34|16711680|SPEED               "
+                          "          |9|160|200|0.75|0.8|65535|65280|10";
+const QString TrackMapTexts = "1650|900|3|255|0|8|16711680|2|4|65280|128|2|300|150|1|5|6|7|100";
 
 // What the rows of other families hold besides: text of a fixed width, elements without a name, a picture.
 struct SampleValues : ControlValues
@@ -80,6 +86,11 @@ TEST(Serialise, eachFamilyHasItsElementsInItsOrderInTheLocalesNumbers)
     const auto video = valuesOf<VideoSourceValues>(videoSourceProperties(), VideoTexts);
     EXPECT_EQ(textsOf(videoSourceProperties(), video), VideoTexts);
     EXPECT_TRUE(video.curBottomBorderWidth == 4 && video.curMirror == 9 && video.curHue == 102);
+    const auto map = valuesOf<TrackMapValues>(trackMapProperties(), TrackMapTexts);
+    EXPECT_EQ(textsOf(trackMapProperties(), map), TrackMapTexts);
+
+    const auto dial = valuesOf<CustomDialValues>(customDialProperties(), DialTexts);
+    EXPECT_EQ(textsOf(customDialProperties(), dial), DialTexts);
 
     EXPECT_EQ(textsOf(sampleProperties(), SampleValues()), "0|0|SPEED |255|255");
     const auto sample = valuesOf<SampleValues>(sampleProperties(), "1|2|revolutions|3|4");

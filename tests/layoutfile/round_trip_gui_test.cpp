@@ -1,4 +1,6 @@
 #include "controls/bitmap/bitmap.h"
+#include "controls/custom_dial/custom_dial.h"
+#include "controls/track_map/track_map.h"
 #include "controls/video_source/video_source.h"
 #include "layoutfile/saved_design.h"
 #include "support/block_font.h"
@@ -34,11 +36,10 @@ void addBlockFonts(RecordGroups &groups, int count)
     groups.add(ExtendedFontRastersRecord{Bulk{extended.repeated(count)}});
 }
 
-// All that a design of the test world's variables and one more, 30, can hold, but for its thumbnail.
+// All that a design of the test world's variables and three more can hold, but for its thumbnail.
 RecordGroups someLayout()
 {
     RecordGroups groups;
-    // Vertical bars rise from their lower edge; exchanged limits turn a bar round.
     // Texts of 10 pixels a character; one that is longer than its record has one more.
     groups.add(TextTagRecord{-700, 40, 255, Grey, 1, 2, 3, {"Left, right"}, 11, 0, BlockFile, 3, 0, 0, 0});
     groups.add(TextTagRecord{0, 80, 9, Grey, 0, 0, 5, {"dd/mm/yy"}, 8, 0, BlockFile, 0, 2, -1, 1});
@@ -46,21 +47,33 @@ RecordGroups someLayout()
     groups.add(DigitalDisplayRecord{-400, 250, 128, Grey, 254, 0, 1, 2, 1.5F, 3, 0, 0, 0, 1, OtherFile});
     groups.add(DigitalDisplayRecord{10, 20, 255, Grey, 3, 1, 0, 0, 7, 0, 2, -1, 1, 0, BlockFile});
     addBlockFonts(groups, 2);
-    groups.add(BarGraphRecord{55, 65, 175, 65, 128, 20, Grey, 0, 100, 30, 3, 30, -1, 1});
+    // Vertical bars rise from their lower edge; exchanged limits turn a bar round.
+    groups.add(BarGraphRecord{55, 65, 175, 65, 128, 20, Grey, 0, 100, 30, 3, 22, -1, 1});
     groups.add(BarGraphRecord{175, 125, 55, 125, 255, 20, Grey, 100, 0, 30, 3, 0, 0, 0});
     groups.add(BarGraphRecord{305, 185, 305, 65, 255, 20, Grey, 0, 100, 30, 3, 0, 0, 0});
     groups.add(BarGraphRecord{365, 65, 365, 185, 255, 20, Grey, 100, 0, 30, 3, 0, 0, 0});
-    groups.add(GaugeRecord{170, 170, 65, 4, Grey, -45, 225, 0, 160, 80.5F, 2, 30, -1, 1});
+    groups.add(GaugeRecord{170, 170, 65, 4, Grey, -45, 225, 0, 160, 80.5F, 2, 22, -1, 1});
     groups.add(GaugeRecord{650, 410, 65, 0, Grey, 0, 90, -1, 1, 0, 0, 0, 0, 0});
     groups.add(VideoSourceRecord{1, 405, 3, 0, 255, 5, 5, Grey, 0, 0, 0, 1, 1, 2, 255, 4, 2, -1, 1, 0.5F});
     groups.add(VideoSourceRecord{3, -5, 480, 5, 5, 5, 5, Grey, 1, 9, 3, 0, 1, 2, 3, 4, 0, 0, 0, 0});
     groups.add(BitmapRecord{8, 2, 41, -3, 200, -1, 1, 0.5F, 3, 0, 30, -1, 1, 0});
     groups.add(BitmapRecord{3, 3, 470, 700, 255, 0, 0, 0, 0, 1, 0, 0, 0, 0});
-    groups.add(ImagePlanesRecord{Bulk{"YYYYYYYYyyyyyyyyUUUUVVVVaaaaaaaaAAAAAAAA123456789UV987654321"}});
+    // A dial of an odd size, whose planes came from somewhere else.
+    groups.add(BitmapRecord{5, 3, 20, 10, 128, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+    groups.add(GaugeRecord{12, 22, 65, 3, Grey, -90, 90, 0, 10, 5, 3, 0, 0, 0});
+    groups.add(CustomDialRecord{3,          3,           10, 20, 5,   3, 3, 65,   3, Grey,  -90,
+                                90,         0,           10, 5,  128, 9, 0, 0.5F, 1, 0.25F, 1,
+                                Grey,       {"Nowhere"}, 1,  0,  0,   0, 0, 1,    0, 0,     255,
+                                {" Volts"}, 0,           0,  0,  0,   0, 1, 2,    0});
+    groups.add(ImagePlanesRecord{Bulk{"YYYYYYYYyyyyyyyyUUUUVVVVaaaaaaaaAAAAAAAA123456789UV987654321"
+                                      "YYYYYYYYYYYYYYYUUVVAAAAAAAAAAAAAAA"}});
+    groups.add(TrackMapRecord{9, 17, 110, 60, 2, Grey, 1, 7, Grey, 3, Grey, 0, 204, 1, 0, 0, 0});
+    groups.add(TrackMapUnderlayRecord{1, 2, 100}, 1);
     groups.add(VariableEntry{2, 1, 0.5F, 0, -1, 1});
     groups.add(VariableEntry{3, 1, 0, 250, -1, 1});
     groups.add(VariableEntry{10, 1, 0, 0, -1, 1}); // always in use
-    groups.add(VariableEntry{30, 0, 0, 0, -1, 0}); // colours only
+    groups.add(VariableEntry{22, 0, 0, 0, -1, 0}); // colours only
+    groups.add(VariableEntry{30, 1, 0, 0, -1, 1}); // of the track
     groups.add(ChapterRecord{9, -1.5F, 1, 2, 0, 3});
     groups.add(ChapterRecord{0, 4, 0, 3, 1, 5});
     groups.add(LapChaptersRecord{7});
@@ -79,13 +92,13 @@ RecordGroups someLayout()
     return groups;
 }
 
-// One family: every property by the name of its writer, and the bytes of its record.
+// One family: every property by the name of its writer, and the bytes of its records.
 struct Linked
 {
     controls::ControlType family;
     const controls::PropertyTable &properties;
     std::map<std::string_view, controls::PropertyValue> written;
-    const char *payload;
+    std::map<RecordType, const char *> payloads;
 };
 
 // clang-format off
@@ -95,7 +108,7 @@ const Linked LinkedFamilies[] = {
       {"newPointerWidth", 5}, {"newColour", 255}, {"newMinAngle", -100}, {"newMaxAngle", 110},
       {"newMin", -1.5F}, {"newMax", 100.0F}, {"newDefaultVal", 0.5F}, {"newColourVariable", 3},
       {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F}},
-     "6801 FA00 C8 05 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"},
+     {{RecordType::Gauge, "6801 FA00 C8 05 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"}}},
     // "00:00:00.50" in blocks of 8 pixels and 2 between them: it ends at 470
     {controls::ControlType::DigitalDisplay, controls::digitalDisplayProperties(),
      {{"newDAlign", 1}, {"newBold", 1}, {"newItalic", 1}, {"newFontName", "Block"}, {"newFontSize", 12},
@@ -104,16 +117,18 @@ const Linked LinkedFamilies[] = {
       {"newUpperLimit", 100.0F}, {"newDefaultVal", 0.5F}, {"newDecMark", 1}, {"newAlfa", 128},
       {"newTimeFormat", 1}, {"newColourVariable", 3}, {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F},
       {"newBkColour", 7}},
-     "2AFE FA00 80 525BF0 FE 01 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"
-     "00 'Block BISU 12.qlg' 00 '            '"},
+     {{RecordType::DigitalDisplay,
+       "2AFE FA00 80 525BF0 FE 01 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"
+       "00 'Block BISU 12.qlg' 00 '            '"}}},
     {controls::ControlType::TextTag, controls::textTagProperties(),
      {{"newTAlign", 0}, {"newBold", 1}, {"newItalic", 1}, {"newFont", "Block"}, {"newFontSize", 12},
       {"newStrikethrough", 1}, {"newUnderline", 1}, {"newForeColour", 255}, {"newBkColour", 7},
       {"newTText", "Oil pressure"}, {"newVarID", 2}, {"newLowerLimit", -1.5F}, {"newUpperLimit", 100.0F},
       {"newDefaultVal", 0.5F}, {"newAlfa", 128}, {"newColourVariable", 3}, {"newColourVarMin", 1.0F},
       {"newColourVarMax", 2.0F}, {"newCenterX", 360}, {"newCenterY", 250}},
-     "6801 FA00 80 525BF0 0000C0BF 0000C842 0000003F 'Oil pressur' 00 0B 00 'Block BISU 12.qlg' 00 '            '"
-     "02000000 03000000 0000803F 00000040"},
+     {{RecordType::TextTag,
+       "6801 FA00 80 525BF0 0000C0BF 0000C842 0000003F 'Oil pressur' 00 0B 00 'Block BISU 12.qlg' 00 '            '"
+       "02000000 03000000 0000803F 00000040"}}},
     // 104 wide as chosen, 8 more in the planes
     {controls::ControlType::Bitmap, controls::bitmapProperties(),
      {{"newAlfa", 200}, {"newFileName", "s.bmp"}, {"newAlfaFileName", "a.bmp"}, {"newVarID", 2},
@@ -122,7 +137,8 @@ const Linked LinkedFamilies[] = {
       {"newAlfaDefaultVal", 0.25F}, {"newTopCoord", 100}, {"newLeftCoord", 200},
       {"newSourceImg", QImage(104, 51, QImage::Format_RGB32)},
       {"newAlfaImg", QImage(104, 51, QImage::Format_RGB32)}},
-     "7000 3400 6400 C800 C8 0000803F 00000040 0000003F 02000000 00 03000000 0000C0BF 0000C842 0000803E"},
+     {{RecordType::Bitmap,
+       "7000 3400 6400 C800 C8 0000803F 00000040 0000003F 02000000 00 03000000 0000C0BF 0000C842 0000803E"}}},
     {controls::ControlType::VideoSource, controls::videoSourceProperties(),
      {{"newTopBorderWidth", 3}, {"newBottomBorderWidth", 4}, {"newLeftBorderWidth", 5},
       {"newRightBorderWidth", 6}, {"NewDivisor", 2}, {"NewBordercolor", 255}, {"NewBorderVisible", 1},
@@ -130,13 +146,43 @@ const Linked LinkedFamilies[] = {
       {"newContrast", 101}, {"newHue", 102}, {"newSaturation", 103}, {"newLowerLimit", -1.5F},
       {"newUpperLimit", 100.0F}, {"newDefaultVal", 0.5F}, {"newVarID", 2}, {"newTopCoord", 48},
       {"newLeftCoord", 64}},
-     "02 3000 4000 03 04 05 06 525BF0 01 07 03 09 64 65 66 67 02000000 0000C0BF 0000C842 0000003F"},
+     {{RecordType::VideoSource,
+       "02 3000 4000 03 04 05 06 525BF0 01 07 03 09 64 65 66 67 02000000 0000C0BF 0000C842 0000003F"}}},
     // upright, so it starts at its lower edge; 20 pixels long, the inner height of a new bar
     {controls::ControlType::BarGraph, controls::barGraphProperties(),
      {{"newVarID", 2}, {"newBarWidth", 30}, {"newColour", 255}, {"newMin", -1.5F}, {"newMax", 100.0F},
       {"newDefaultVal", 0.5F}, {"newBarType", 1}, {"newLeft", 1500}, {"newTop", 3000}, {"newAlfa", 128},
       {"newColourVariable", 3}, {"newColourVarMin", 1.0F}, {"newColourVarMax", 2.0F}},
-     "6400 DC00 6400 C800 80 1E 525BF0 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"},
+     {{RecordType::BarGraph, "6400 DC00 6400 C800 80 1E 525BF0 0000C0BF 0000C842 0000003F 02000000 03000000 0000803F 00000040"}}},
+    {controls::ControlType::TrackMap, controls::trackMapProperties(),
+     {{"newLeftCoord", 10}, {"newTopCoord", 20}, {"newWidth", 100}, {"NewHeight", 50}, {"newBorderWidth", 4},
+      {"NewBorderVisible", 0}, {"NewBordercolor", 0}, {"newMarkerWidth", 8}, {"NewMarkerVisible", 3},
+      {"NewMarkercolor", 0xFFFFFF}, {"NewLinecolor", 255}, {"newLineWidth", 5}, {"newAlfa", 128},
+      {"newFadingRate", 2}, {"newIniWidth", 300}, {"newIniHeight", 150}, {"newAutoRescale", 1},
+      {"newMapEnable", 1}, {"newMapType", 6}, {"newMapDetailLevel", 7}, {"newMapAlpha", 100}},
+     {{RecordType::TrackMap, "0A00 1400 6E00 3C00 05 525BF0 03 08 EC8080 04 108080 00 80 02 2C01 9600 01"},
+      {RecordType::TrackMapUnderlay, "06 07 64"}}},
+    // The pointer is at most 255 pixels long and turns about the middle of the face.
+    {controls::ControlType::CustomDial, controls::customDialProperties(),
+     {{"newWidth", 40}, {"NewHeight", 21}, {"newVarID", 2}, {"newCenterX", 10}, {"newCenterY", 20},
+      {"newPointerLength", 300}, {"newPointerWidth", 5}, {"newPointerColour", 255}, {"newMinAngle", -100},
+      {"newMaxAngle", 110}, {"newMin", -1.5F}, {"newMax", 100.0F}, {"newDefaultVal", 0.5F},
+      {"newAlfa", 128}, {"newTicStyle", 2}, {"newTicDelta", 0.5F}, {"newTicInner", 0.25F},
+      {"newTicOuter", 0.75F}, {"newTicWidth", 0.125F}, {"newTicLabelsOnOff", 0}, {"newTicColour", 0xFFFFFF},
+      {"newFontName", "Arial"}, {"newFontSize", 12}, {"newFontBold", 0}, {"newFontUnderline", 1},
+      {"newFontStrikethrough", 3}, {"newFontItalic", 4}, {"newCaptions", 0}, {"newCaption", " Rev"},
+      {"newCaptionLeft", -0.5F}, {"newCaptionTop", 1.0F}, {"newCaptionColour", 0x563412}, {"newAnnulars", 5},
+      {"newAnnularStart", 1.0F}, {"newAnnularStop", 2.0F}, {"newAnnularInner", 0.5F},
+      {"newAnnularOuter", 0.25F}, {"newAnnularColour", 255}, {"newBkColour", 0xFF00}, {"newTransparent", 6}},
+     {{RecordType::CustomDial,
+       "0100 0100 0A00 1400 2800 1500 02000000 2C01 0500 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 80 02 "
+       "0000003F 0000803E 0000403F 0000003E 00 EC8080 'Arial                         ' 00 04 0C00 03 01 00 "
+       "000000BF 0000803F 12345600 ' Rev                          ' 05 0000803F 00000040 0000003F 0000803E "
+       "FF000000 00FF0000 06"},
+      {RecordType::Gauge, "1E00 1E00 FF 05 525BF0 9CFF 6E00 0000C0BF 0000C842 0000003F 02000000 00000000 "
+                          "00000000 00000000"},
+      {RecordType::Bitmap, "2800 1500 1400 0A00 80 00000000 00000000 00000000 00000000 00 00000000 00000000 "
+                           "00000000 00000000"}}},
 };
 // clang-format on
 
@@ -152,15 +198,22 @@ TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
                 control.write(row.writer, linked.written.at(row.writer));
         }
         control.AssignProperties();
-        EXPECT_EQ(encodePayload(parseLayout(test::savedDesign(d)).front().body).toHex(),
-                  test::bytes(linked.payload).toHex());
+        auto expected = linked.payloads;
+        for (const LayoutRecord &record : parseLayout(test::savedDesign(d))) {
+            if (const auto found = expected.find(record.type()); found != expected.end()) {
+                EXPECT_EQ(encodePayload(record.body).toHex(), test::bytes(found->second).toHex());
+                expected.erase(found);
+            }
+        }
+        EXPECT_TRUE(expected.empty());
     }
 }
 
 TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
 {
     DesignWindow d;
-    d.world.addVariable(30, "Oil temperature");
+    d.world.addVariable(22, "Oil temperature");
+    d.world.addVariable(30, "Latitude");
     d.world.addVariable(31, "Not in use");
     d.world.state.catalogue.live[31].Enabled = false;
     for (const graphics::FontRequest &font : {graphics::FontRequest{"Block", 12, {}}, {"Block", 14, {true}}})
@@ -200,10 +253,10 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     std::set<std::pair<controls::ControlType, int>> elements;
     for (const controls::OverlayControl *control : d.design().controls())
         elements.insert({control->family().type, control->Index()});
-    EXPECT_EQ(elements.size(), 28U);
+    EXPECT_EQ(elements.size(), 32U);
 }
 
-TEST(Load, theNeedleOfADialIsNoControlOfItsOwn)
+TEST(Load, thePartsOfADialAreNoControlsOfTheirOwn)
 {
     RecordGroups groups;
     for (const qint16 x : std::array<qint16, 3>{100, 200, 300})
@@ -214,9 +267,9 @@ TEST(Load, theNeedleOfADialIsNoControlOfItsOwn)
     groups.add(dial);
     DesignWindow d;
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
-    ASSERT_EQ(d.design().controls().size(), 2);
-    EXPECT_EQ(test::whole(*d.design().controls().first(), "curCenterX"), 100);
-    EXPECT_EQ(test::whole(*d.design().controls().last(), "curCenterX"), 300);
+    ASSERT_EQ(d.design().controls().size(), 3);
+    EXPECT_EQ(test::whole(*d.design().controls().at(0), "curCenterX"), 100);
+    EXPECT_EQ(test::whole(*d.design().controls().at(1), "curCenterX"), 300);
 }
 
 TEST(Load, aRefusedFileChangesNothing)
@@ -261,13 +314,19 @@ TEST(Load, extremeValuesLeaveADesignThatWorks)
         video.topBorderWidth = 255;
         video.cameraNo = static_cast<quint8>(groups.of(RecordType::VideoSource).size());
         groups.add(video);
+        CustomDialRecord dial;
+        std::tie(dial.width, dial.height, dial.minAngle, dial.maxAngle) = std::tuple(high, high, low, high);
+        std::tie(dial.ticDelta, dial.ticInner, dial.max, dial.captionTop) = std::tuple(1.0F, min, max, min);
+        dial.ticLabels = dial.annulars = dial.captions = 1;
+        groups.add(dial);
     }
     groups.add(LongTextRecord{{"of a text that is not there"}, 27}, 9);
+    groups.add(TrackMapRecord{Low, High, Low, High, 255, {}, 255, 255, {}, 255, {}, 9, 255, 9, Low, High, 9});
     groups.add(VariableEntry{2, 1, Nan, Infinite, -1, 1});
     groups.add(ChapterRecord{255, Nan, 255, -5, 255, Infinite});
     DesignWindow d;
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
-    EXPECT_EQ(d.design().controls().size(), 24);
+    EXPECT_EQ(d.design().controls().size(), 28);
     EXPECT_FALSE(d.canvas().grab().isNull());
     const variables::VariableRecord &speed = d.world.state.catalogue.live[2];
     EXPECT_TRUE(speed.SmoothingTime == 0 && speed.MaximumROC == 0);

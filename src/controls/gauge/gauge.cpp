@@ -124,6 +124,32 @@ std::optional<Needle> needleOf(const GaugeValues &values, VideoStandard standard
                                  std::sin(r) * values.curPointerLength * squeeze)};
 }
 
+void paintNeedle(const GaugeValues &values, VideoStandard standard, const platform::Screen &screen,
+                 Composition &onto)
+{
+    const auto needle = needleOf(values, standard, screen);
+    if (!needle)
+        return;
+    QPen pen(toQColor(values.curColour.packed()));
+    pen.setCapStyle(Qt::RoundCap);
+    if (values.curPointerWidth != 0)
+        pen.setWidth(values.curPointerWidth);
+    CompositionPainter painter(onto);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    painter.drawLine(onto.drawing == Drawing::Designed ? needle->tail : needle->pivot, needle->tip);
+}
+
+QRect needleArea(const GaugeValues &values, VideoStandard standard, const platform::Screen &screen)
+{
+    const auto needle = needleOf(values, standard, screen);
+    if (!needle)
+        return {};
+    const int margin = values.curPointerWidth / 2 + 2;
+    const QRectF line = QRectF(needle->tail, needle->tip).normalized();
+    return line.toAlignedRect().adjusted(-margin, -margin, margin, margin);
+}
+
 void Gauge::settle() { m_values = withPivot(m_values, screen()); }
 
 void Gauge::raiseReposition() { host().Reposition(*this, cornerOf(m_values, screen())); }
@@ -206,31 +232,10 @@ void Gauge::nudge(int dx, int dy)
     raiseReposition();
 }
 
-void Gauge::paint(Composition &onto) const
-{
-    const auto needle = needleOf(m_values, host().VideoType(), screen());
-    if (!needle)
-        return;
-    QPen pen(toQColor(m_values.curColour.packed()));
-    pen.setCapStyle(Qt::RoundCap);
-    if (m_values.curPointerWidth != 0)
-        pen.setWidth(m_values.curPointerWidth);
-    CompositionPainter painter(onto);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(pen);
-    painter.drawLine(onto.drawing == Drawing::Designed ? needle->tail : needle->pivot, needle->tip);
-}
+void Gauge::paint(Composition &onto) const { paintNeedle(m_values, host().VideoType(), screen(), onto); }
 
 // A needle fills little of its box, and may be wider.
-QRect Gauge::drawnArea() const
-{
-    const auto needle = needleOf(m_values, host().VideoType(), screen());
-    if (!needle)
-        return {};
-    const int margin = m_values.curPointerWidth / 2 + 2;
-    const QRectF line = QRectF(needle->tail, needle->tip).normalized();
-    return line.toAlignedRect().adjusted(-margin, -margin, margin, margin);
-}
+QRect Gauge::drawnArea() const { return needleArea(m_values, host().VideoType(), screen()); }
 
 double Gauge::complexity() const
 {

@@ -44,6 +44,11 @@ struct Needle
 std::optional<Needle> needleOf(const GaugeValues &values, recorder::VideoStandard standard,
                                const platform::Screen &screen);
 
+// Draws that needle, and all that it is drawn on (canvas pixels).
+void paintNeedle(const GaugeValues &values, recorder::VideoStandard standard, const platform::Screen &screen,
+                 Composition &onto);
+QRect needleArea(const GaugeValues &values, recorder::VideoStandard standard, const platform::Screen &screen);
+
 class Gauge final : public ControlOf<GaugeValues>
 {
 public:
