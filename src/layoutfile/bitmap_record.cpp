@@ -11,13 +11,10 @@ using controls::BitmapValues;
 
 void link(auto &values, auto &record, auto field)
 {
+    linkLimits(values, record, field);
     field(values.curTopCoord, record.top);
     field(values.curLeftCoord, record.left);
     field(values.curAlfa, record.alpha);
-    field(values.curLowerLimit, record.lowerLimit);
-    field(values.curUpperLimit, record.upperLimit);
-    field(values.curDefaultVal, record.defaultValue);
-    field(values.curVarID, record.variable);
     field(values.curZorder, record.zOrder);
     field(values.curAlfaVariable, record.alphaVariable);
     field(values.curAlfaVarMin, record.alphaVariableMin);

@@ -65,6 +65,15 @@ void linkScale(auto &values, auto &record, auto field)
     field(values.curColourVarMax, record.colourVariableMax);
 }
 
+// The variable that hides a control, and between which limits it shows.
+void linkLimits(auto &values, auto &record, auto field)
+{
+    field(values.curVarID, record.variable);
+    field(values.curLowerLimit, record.lowerLimit);
+    field(values.curUpperLimit, record.upperLimit);
+    field(values.curDefaultVal, record.defaultValue);
+}
+
 // Takes over what was read from a record. The box first: its resize rule must not touch the values; the
 // position properties follow from it.
 template <typename Control, typename Values>

@@ -2,6 +2,7 @@
 
 #include "common/code_page.h"
 #include "controls/text/text_control.h"
+#include "layoutfile/field_link.h"
 #include "layoutfile/font_list.h"
 
 namespace layoutfile {
@@ -10,12 +11,9 @@ namespace layoutfile {
 
 void linkText(auto &values, auto &record, auto field)
 {
-    field(values.curVarID, record.variable);
+    linkLimits(values, record, field);
     field(values.curAlfa, record.alpha);
     field(values.curColour, record.colour);
-    field(values.curLowerLimit, record.lowerLimit);
-    field(values.curUpperLimit, record.upperLimit);
-    field(values.curDefaultVal, record.defaultValue);
     field(values.curColourVariable, record.colourVariable);
     field(values.curColourVarMin, record.colourVariableMin);
     field(values.curColourVarMax, record.colourVariableMax);

@@ -11,6 +11,7 @@ using controls::VideoSourceValues;
 
 void link(auto &values, auto &record, auto field)
 {
+    linkLimits(values, record, field);
     field(values.curDivisor, record.divisor);
     field(values.curTopCoord, record.top);
     field(values.curLeftCoord, record.left);
@@ -27,10 +28,6 @@ void link(auto &values, auto &record, auto field)
     field(values.curContrast, record.contrast);
     field(values.curHue, record.hue);
     field(values.curSaturation, record.saturation);
-    field(values.curVarID, record.variable);
-    field(values.curLowerLimit, record.lowerLimit);
-    field(values.curUpperLimit, record.upperLimit);
-    field(values.curDefaultVal, record.defaultValue);
 }
 
 // Its variable is not marked as used: deliberate.
