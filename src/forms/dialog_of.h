@@ -84,8 +84,7 @@ protected:
     TextField &shownText(const RowText &row)
     {
         TextField &field = add<TextField>(row.name);
-        field.box().setReadOnly(true);
-        field.box().setFrame(false);
+        field.showOnly();
         addRow(field, row.caption, row.unit);
         return field;
     }

@@ -16,6 +16,15 @@ TextField::TextField(const char *name) : Field(new QLineEdit, name)
     QObject::connect(&box(), &QLineEdit::textChanged, &box(), [this] { changed(); });
 }
 
+void TextField::showOnly()
+{
+    box().setReadOnly(true);
+    box().setFrame(false);
+    QPalette palette = box().palette();
+    palette.setBrush(QPalette::Base, palette.window());
+    box().setPalette(palette);
+}
+
 void TextField::show(const QString &text)
 {
     m_shown = text;

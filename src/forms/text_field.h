@@ -20,6 +20,9 @@ public:
     QString text() const override { return box().text(); }
     void setText(const QString &text) override { box().setText(text); }
 
+    // Takes no typing from now on, and looks like it.
+    void showOnly();
+
     void show(const QString &text);
     void store(QString &member) const;
     // Shown without the blanks that fill it up.
