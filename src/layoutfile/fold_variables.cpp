@@ -48,7 +48,7 @@ public:
 
     void fold(const VariableEntry &entry, const QByteArray &program)
     {
-        VariableRecord &variable = m_catalogue.live[static_cast<std::size_t>(entry.variable)];
+        VariableRecord &variable = m_catalogue.live[entry.variable];
         variable.SmoothingTime = entry.smoothingTime;
         variable.MaximumROC = entry.maximumRoc;
         if (!program.isEmpty())
@@ -128,7 +128,6 @@ void foldVariables(const std::vector<LayoutRecord> &records, variables::Catalogu
             folding.fold(*entry, programOf(*entry, programs));
     }
     variables::SetupVariables(catalogue);
-    catalogue.staging = catalogue.live;
 }
 
 } // namespace layoutfile

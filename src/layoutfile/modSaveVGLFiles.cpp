@@ -80,7 +80,7 @@ void gatherVariables(Gathering &save, const SaveContext &context, ProgressScope 
         std::count_if(table.begin(), table.end(), [](const auto &record) { return record.Enabled; });
     ProgramPass pass(context.catalogue, save.used, context.locale);
     qsizetype done = 0;
-    for (std::size_t i = 1; i < table.size(); ++i) {
+    for (qsizetype i = 1; i < table.size(); ++i) {
         if (!table[i].Enabled)
             continue;
         save.groups.add(pass.entry(static_cast<int>(i)));

@@ -23,7 +23,7 @@ ProgramPass::ProgramPass(const variables::Catalogue &catalogue, const UsedVariab
 
 VariableEntry ProgramPass::entry(int variable)
 {
-    const variables::VariableRecord &record = m_catalogue.live[static_cast<std::size_t>(variable)];
+    const variables::VariableRecord &record = m_catalogue.live[variable];
     VariableEntry entry{variable, 0, record.SmoothingTime, record.MaximumROC, NoProgram, 0};
     if (!m_used.isUsed(variable))
         return entry;
@@ -41,7 +41,7 @@ VariableEntry ProgramPass::entry(int variable)
 // Empty when the variable needs none or gets none.
 QByteArray ProgramPass::programOf(int variable) const
 {
-    const variables::VariableRecord &record = m_catalogue.live[static_cast<std::size_t>(variable)];
+    const variables::VariableRecord &record = m_catalogue.live[variable];
     if (!record.UseCustomTrans)
         return variables::conversionProgram(variables::conversionInForce(record, m_catalogue.units), variable,
                                             m_locale);

@@ -36,7 +36,7 @@ void markSettings(UsedVariables &used, const recorder::RecorderSettings &setting
 void markReferences(UsedVariables &used, const variables::VariableTable &table)
 {
     for (int index = variables::FirstUserVariable; index <= variables::LastUserVariable; ++index) {
-        const variables::VariableRecord &record = table[static_cast<std::size_t>(index)];
+        const variables::VariableRecord &record = table[index];
         if (used.isUsed(index) && record.UseCustomTrans)
             markNamed(used, record.CustomTransformation);
     }

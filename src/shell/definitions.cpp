@@ -25,7 +25,6 @@ bool takeOverDefinitions(const QString &path, ProgramState &state, platform::Pro
         prompts.message(Icon::None, ProductTitle, variables::CorruptedDefinitions);
         return false;
     }
-    catalogue.staging = catalogue.live;
     platform::reportFailures(prompts,
                              [&] { variables::writeCatalogueFiles(catalogue, state.folders, state.locale); });
     return true;

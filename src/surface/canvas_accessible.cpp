@@ -74,8 +74,8 @@ QString ControlAccessible::text(QAccessible::Text kind) const
     QString name = QLatin1String(control->family().caption);
     const variables::VariableTable &table = control->host().catalogue().live;
     const qint32 variable = control->takesVariable() ? std::get<qint32>(control->read("curVarID")) : 0;
-    if (variable > 0 && static_cast<std::size_t>(variable) < table.size())
-        name += QStringLiteral(", ") + table[static_cast<std::size_t>(variable)].DisplayName;
+    if (variable > 0 && variable < table.size())
+        name += QStringLiteral(", ") + table[variable].DisplayName;
     return name;
 }
 

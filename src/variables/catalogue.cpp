@@ -80,9 +80,10 @@ bool isPermitted(int index)
 
 void SetupVariables(Catalogue &catalogue)
 {
+    catalogue.staging = {}; // so that the slots are changed where they are
     const UnitLabels labels(catalogue.units);
     const QString emptySlotName = bracketed({}, labels.of({}));
-    for (std::size_t i = 1; i < catalogue.live.size(); ++i) {
+    for (qsizetype i = 1; i < catalogue.live.size(); ++i) {
         VariableRecord &record = catalogue.live[i];
         normaliseFlags(record, static_cast<int>(i));
         const QString &label =
@@ -94,6 +95,7 @@ void SetupVariables(Catalogue &catalogue)
     }
     if (catalogue.live.size() > LastIndex)
         catalogue.live[LastIndex].Enabled = catalogue.live[LastIndex].Available = false;
+    catalogue.staging = catalogue.live;
 }
 
 QString displayName(const VariableRecord &record, const UnitTable &units)

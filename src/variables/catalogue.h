@@ -68,15 +68,15 @@ struct UnitRecord
     bool operator==(const UnitRecord &) const = default;
 };
 
-using VariableTable = std::vector<VariableRecord>; // LastIndex + 1 slots
-using UnitTable = std::vector<UnitRecord>;         // row 0 is blank
+using VariableTable = QList<VariableRecord>; // LastIndex + 1 slots; a copy is made when one of two is edited
+using UnitTable = std::vector<UnitRecord>;   // row 0 is blank
 
 // Everything the recorder can log or compute. Files are made from `live`; editors work on `staging`. The two
 // are the same whenever no edit is in progress.
 struct Catalogue
 {
     VariableTable live = VariableTable(LastIndex + 1);
-    VariableTable staging = VariableTable(LastIndex + 1);
+    VariableTable staging = live;
     UnitTable units = UnitTable(1);
     // The user's definitions could not be read at the start. Until others are loaded the definition files
     // stay as they are: what lies here is not what the user had.
@@ -87,7 +87,8 @@ struct Catalogue
 // Whether the recorder has a variable of this index at all.
 bool isPermitted(int index);
 
-// Normalises `live`: the flags, the never-smoothed variables, the display names, the sentinel.
+// Normalises `live`: the flags, the never-smoothed variables, the display names, the sentinel. `staging` is
+// the same afterwards.
 void SetupVariables(Catalogue &catalogue);
 
 // BaseName [unit]: the display name of one record.

@@ -223,8 +223,8 @@ void fillTable(std::vector<Run> runs, VariableTable &table)
 void writeVariables(common::ByteWriter &writer, FieldWriter &field, const VariableTable &table)
 {
     QByteArray row;
-    for (auto record = table.begin(); record != table.end(); ++record) {
-        if (record != table.begin() && *record == *std::prev(record)) {
+    for (auto record = table.cbegin(); record != table.cend(); ++record) {
+        if (record != table.cbegin() && *record == *std::prev(record)) {
             writer.put(QByteArrayView(row));
             continue;
         }
@@ -245,6 +245,7 @@ DefinitionStatus loadDefinitions(const QByteArray &bytes, Catalogue &catalogue)
     if (!readUnits(reader, field, units) || !readVariables(reader, field, runs) || !readTrailer(reader))
         return DefinitionStatus::Corrupted;
     catalogue.units = std::move(units);
+    catalogue.staging = {}; // so that the slots are filled where they are
     fillTable(std::move(runs), catalogue.live);
     SetupVariables(catalogue);
     catalogue.definitionsLost = false;

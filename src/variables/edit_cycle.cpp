@@ -28,7 +28,6 @@ void commitEdits(Catalogue &catalogue, const platform::Folders &folders, const p
 {
     catalogue.live = catalogue.staging;
     SetupVariables(catalogue);
-    catalogue.staging = catalogue.live;
     catalogue.hasUnwrittenEdits = true;
     writePendingEdits(catalogue, folders, locale, prompts);
 }

@@ -7,7 +7,7 @@ namespace variables {
 std::vector<VariableEntry> variableEntries(const VariableTable &table)
 {
     std::vector<VariableEntry> entries;
-    for (std::size_t i = 0; i < table.size(); ++i) {
+    for (qsizetype i = 0; i < table.size(); ++i) {
         if (table[i].Enabled)
             entries.push_back(
                 {expression::variableName(static_cast<int>(i)).toUpper(), table[i].DisplayName});

@@ -7,16 +7,15 @@ namespace variables {
 forms::Choices variableChoices(const VariableTable &table, bool VariableRecord::*offered, qint32 stored)
 {
     forms::Choices choices;
-    const auto add = [&](std::size_t index) {
+    const auto add = [&](qsizetype index) {
         choices.push_back({table[index].DisplayName, static_cast<int>(index)});
     };
-    for (std::size_t i = 0; i < table.size(); ++i) {
+    for (qsizetype i = 0; i < table.size(); ++i) {
         if (table[i].*offered)
             add(i);
     }
-    const auto slot = static_cast<std::size_t>(stored);
-    if (stored > 0 && slot < table.size() && !(table[slot].*offered))
-        add(slot);
+    if (stored > 0 && stored < table.size() && !(table[stored].*offered))
+        add(stored);
     return choices;
 }
 

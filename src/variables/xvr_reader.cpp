@@ -109,7 +109,7 @@ VariableTable readVariables(const QDomDocument &document, const QString &decimal
         const bool hasIndex = !texts["IndexNumber"].isEmpty();
         VariableRecord record = gathered();
         if (hasIndex && record.IndexNumber >= 0 && record.IndexNumber <= LastIndex)
-            table[static_cast<std::size_t>(record.IndexNumber)] = std::move(record);
+            table[record.IndexNumber] = std::move(record);
         texts.clear();
     });
     VariableRecord last = gathered();

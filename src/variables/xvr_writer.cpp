@@ -48,7 +48,7 @@ private:
 QByteArray writeXvr(const VariableTable &live, const QString &decimalSeparator)
 {
     QString out = QLatin1String("<VariableList>") + LineEnd;
-    for (std::size_t i = 1; i < live.size(); ++i) {
+    for (qsizetype i = 1; i < live.size(); ++i) {
         if (live[i].IndexNumber == 0)
             continue;
         out += QLatin1String("   <Data>") + LineEnd;

@@ -25,7 +25,7 @@ protected:
 private:
     static VariableRecord &recordOf(Catalogue &catalogue, int index)
     {
-        return catalogue.staging[static_cast<std::size_t>(index)];
+        return catalogue.staging[index];
     }
     VariableRecord &record() { return recordOf(m_catalogue, m_index); }
     forms::Context within() { return {prompts(), context().locale, this}; } // of the generators

@@ -8,8 +8,8 @@ namespace variables {
 
 VariableRecord *VariableEditors::recordAt(int index)
 {
-    const auto slot = static_cast<std::size_t>(index);
-    return index > 0 && slot < m_catalogue.staging.size() ? &m_catalogue.staging[slot] : nullptr;
+    VariableTable &staging = m_catalogue.staging;
+    return index > 0 && index < staging.size() ? &staging[index] : nullptr;
 }
 
 bool VariableEditors::editTransformation(int index, QWidget *parent)
