@@ -114,8 +114,10 @@ void OverlayControl::setGridColour(quint32 colour)
 void OverlayControl::redraw()
 {
     const QRect now = area();
-    if (now != m_shownArea)
-        m_host.redrawControl(*this, std::exchange(m_shownArea, now));
+    const QRect before = std::exchange(m_shownArea, now);
+    if (before.intersects(now)) // one rectangle is painted faster than a region
+        return m_host.redrawControl(*this, before.united(now));
+    m_host.redrawControl(*this, before);
     m_host.redrawControl(*this, now);
 }
 

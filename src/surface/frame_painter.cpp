@@ -9,27 +9,49 @@ namespace {
 // Diagonal bands 60 twips wide, 80 apart.
 constexpr double Step = 140;
 constexpr double Band = 60;
-constexpr int StepsInTile = 3; // 28 pixels, the least that are whole
+constexpr int StepsInPeriod = 3; // 28 pixels, the least that are whole
+constexpr int Periods = 8;       // in the cached picture, of which one is spare
 
-// A tile of the hatch: wherever it is repeated, its bands meet.
-QPixmap hatchTile(const platform::Screen &screen, const QColor &behind, const QColor &bands, double ratio)
+// After so many canvas pixels the hatch repeats itself.
+QSize hatchPeriod(const platform::Screen &screen)
 {
-    const QPoint far = screen.toPixels(QPointF(StepsInTile * Step, StepsInTile * Step)).toPoint();
-    const QSize size(far.x(), far.y());
-    QPixmap tile((QSizeF(size) * ratio).toSize());
-    tile.fill(behind);
-    QPainter painter(&tile);
+    const QPoint far = screen.toPixels(QPointF(StepsInPeriod * Step, StepsInPeriod * Step)).toPoint();
+    return {far.x(), far.y()};
+}
+
+QPixmap hatchPicture(QSize period, const QColor &behind, const QColor &bands, double ratio)
+{
+    constexpr int Steps = StepsInPeriod * Periods;
+    QPixmap picture((QSizeF(period) * Periods * ratio).toSize());
+    picture.fill(behind);
+    QPainter painter(&picture);
     painter.setPen(Qt::NoPen);
     painter.setBrush(bands);
-    painter.scale(tile.width() / (StepsInTile * Step), tile.height() / (StepsInTile * Step)); // to twips
-    for (int n = 0; n < 2 * StepsInTile; ++n) {
+    painter.scale(picture.width() / (Steps * Step), picture.height() / (Steps * Step)); // to twips
+    for (int n = 0; n < 2 * Steps; ++n) {
         const double i = n * Step;
         const QPointF band[] = {{0, i}, {0, i + Band}, {i + Band, 0}, {i, 0}};
         painter.drawConvexPolygon(band, 4);
     }
     painter.end();
-    tile.setDevicePixelRatio(ratio);
-    return tile;
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}
+
+// Fills `strip` with the hatch that begins at `origin`, in pieces that are copied: a brush or a tiled picture
+// would be shared out among threads, which takes longer than the frame of a control.
+void paintHatch(QPainter &painter, const QPixmap &hatch, QSize period, const QRect &strip, QPoint origin)
+{
+    const double ratio = hatch.devicePixelRatio();
+    const QSize step = period * (Periods - 1);
+    for (int y = strip.top(); y <= strip.bottom(); y += step.height()) {
+        for (int x = strip.left(); x <= strip.right(); x += step.width()) {
+            const QRect piece = QRect(QPoint(x, y), step) & strip;
+            const QPoint phase((x - origin.x()) % period.width(), (y - origin.y()) % period.height());
+            painter.drawPixmap(QRectF(piece), hatch,
+                               QRectF(QPointF(phase) * ratio, QSizeF(piece.size()) * ratio));
+        }
+    }
 }
 
 void paintGrips(QPainter &painter, const OverlayControl &control, const platform::Screen &screen)
@@ -49,23 +71,23 @@ void paintGrips(QPainter &painter, const OverlayControl &control, const platform
 
 const QPixmap &FramePainter::hatch(quint32 gridColour, double ratio)
 {
-    QPixmap &tile = m_hatches[gridColour];
-    if (tile.isNull() || tile.devicePixelRatio() != ratio) {
+    QPixmap &hatch = m_hatches[gridColour];
+    if (hatch.isNull() || hatch.devicePixelRatio() != ratio) {
         const QColor behind =
             gridColour == controls::FrameNormal ? QColor(Qt::white) : controls::toQColor(gridColour);
-        tile = hatchTile(m_screen, behind, m_bands, ratio);
+        hatch = hatchPicture(hatchPeriod(m_screen), behind, m_bands, ratio);
     }
-    return tile;
+    return hatch;
 }
 
 void FramePainter::paint(QPainter &painter, const OverlayControl &control)
 {
     if (control.mode() == OverlayControl::Mode::Play)
         return;
-    const QPixmap &tile = hatch(control.gridColour(), painter.device()->devicePixelRatioF());
+    const QPixmap &picture = hatch(control.gridColour(), painter.device()->devicePixelRatioF());
     const QRect outer = control.outerRect();
     for (const QRect &strip : QRegion(outer) - control.innerRect())
-        painter.drawTiledPixmap(strip, tile, strip.topLeft() - outer.topLeft());
+        paintHatch(painter, picture, hatchPeriod(m_screen), strip, outer.topLeft());
     paintGrips(painter, control, m_screen);
 }
 
