@@ -3,6 +3,7 @@
 #include "controls/factories.h"
 #include "platform/guards.h"
 #include "shell/version.h"
+#include "surface/canvas_rules.h"
 #include "surface/panel_area.h"
 #include "variables/edit_cycle.h"
 
@@ -42,7 +43,7 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
     for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
         connect(m_design, change, &m_recovery, &Recovery::noteChange);
-    connect(m_design, &surface::frmInterface::designChanged, this, &frmMain::refreshFromState);
+    connect(m_design, &surface::frmInterface::controlsChanged, this, &frmMain::refreshFromState);
     connect(&m_design->panels(), &surface::PanelArea::visibilityChanged, this, &frmMain::refreshFromState);
     refreshFromState();
 }
@@ -127,10 +128,13 @@ void frmMain::makeStatusBar()
     m_bitRate = new QLabel;
     m_position->setObjectName(QStringLiteral("lblPosition"));
     m_bitRate->setObjectName(QStringLiteral("lblBitRate"));
-    m_position->setMinimumWidth(180);
     for (QLabel *pane : {m_position, m_standard, m_bitRate})
         pane->setContentsMargins(8, 2, 8, 2);
-    statusBar()->addWidget(m_position, 1);
+    // Of a fixed size, so that a new text at each movement of the mouse does not lay out the window.
+    m_position->setText(surface::positionText({-99999, -99999}, m_state.screen));
+    m_position->setFixedSize(m_position->sizeHint());
+    m_position->clear();
+    statusBar()->addWidget(m_position);
     statusBar()->addPermanentWidget(m_standard);
     statusBar()->addPermanentWidget(m_bitRate);
 }

@@ -2,6 +2,7 @@
 
 #include "controls/bitmap/picture_copies.h"
 #include "platform/desktop/busy.h"
+#include "platform/desktop/first_paint.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
 #include "platform/settings_keys.h"
@@ -147,10 +148,10 @@ void StartUp::showWindows()
     m_window->resize(m_window->screen()->availableSize()); // boxes open in its middle before it is maximised
     m_window->showMaximized();
     platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
-    {
-        platform::Busy busy(m_window.get());
-        m_window->design().GenerateIcons(busy);
-    }
+    platform::afterFirstPaint(*m_window, [window = m_window.get()] {
+        platform::Busy busy(window);
+        window->design().GenerateIcons(busy);
+    });
     m_window->activateWindow();
     m_splash.reset();
 }

@@ -116,6 +116,7 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
     showControl(*control);
     m_canvas->setFocus();
     m_canvas->choose(*control);
+    emit controlsChanged();
     emit designChanged();
 }
 
@@ -156,6 +157,7 @@ void frmInterface::restack(OverlayControl &control, bool above)
 void frmInterface::Delete(OverlayControl &control)
 {
     m_canvas->unload(control);
+    emit controlsChanged();
     emit designChanged();
 }
 

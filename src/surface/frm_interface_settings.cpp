@@ -47,7 +47,6 @@ void frmInterface::load()
     m_canvas->setPlayMode(false);
     initGrid(m_grid);
     m_library->loadControlTree();
-    m_context.catalogue.staging = m_context.catalogue.live;
     m_variables->RegenerateVariableTree();
     m_context.settings.ChapterList.clear();
 }
@@ -108,7 +107,7 @@ void frmInterface::resetPanels()
 void frmInterface::GenerateIcons(platform::Progress &progress)
 {
     surface::GenerateIcons(*this, m_context.folders, progress);
-    m_library->loadControlList();
+    m_library->showFirstEntries();
 }
 
 void frmInterface::storeVisibility(PanelId id, bool visible)

@@ -73,10 +73,14 @@ void LibraryPanel::loadControlTree()
         root->setIcon(0, QIcon(QStringLiteral(":/families/%1.png").arg(QLatin1String(family.art))));
         root->setExpanded(true);
     }
-    // The first family that can be placed shows its entries.
-    for (int i = m_tree->topLevelItemCount() - 1; i >= 0; --i) {
-        if (!draggedKey(m_tree->topLevelItem(i)->data(0, KeyRole).toString()).isEmpty())
-            m_tree->setCurrentItem(m_tree->topLevelItem(i));
+}
+
+void LibraryPanel::showFirstEntries()
+{
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *root = m_tree->topLevelItem(i);
+        if (!draggedKey(root->data(0, KeyRole).toString()).isEmpty())
+            return m_tree->setCurrentItem(root);
     }
 }
 

@@ -20,8 +20,8 @@ public:
     explicit LibraryPanel(const platform::Folders &folders);
 
     void loadControlTree();
-    // Shows the entries of the selected node with their pictures.
-    void loadControlList();
+    // Selects the first family that can be placed.
+    void showFirstEntries();
     // The place of the bar between tree and list in the settings file; what is stored stays while the panel
     // is closed.
     void restoreBar(const platform::SettingsFile &file, const platform::Screen &screen);
@@ -35,6 +35,8 @@ signals:
     void used(); // a press that takes the surface's group marks away
 
 private:
+    // Shows the entries of the selected node with their pictures.
+    void loadControlList();
     const platform::Folders &m_folders;
     QTreeWidget *m_tree; // trvControl
     QListWidget *m_list; // lvControl

@@ -123,16 +123,21 @@ void VariableTree::makeSearchBox()
     m_search->setObjectName(QStringLiteral("txtSearch"));
     m_search->setPlaceholderText(QStringLiteral("Search variables"));
     m_search->setAccessibleName(m_search->placeholderText());
-    m_search->setClearButtonEnabled(true);
-    connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
+    // The line edit's own cross would be looked for in the themes of the desktop at each start.
+    QAction *clear = m_search->addAction(m_icons.of("clear"), QLineEdit::TrailingPosition);
+    clear->setToolTip(QStringLiteral("Clear the search"));
+    clear->setVisible(false);
+    connect(clear, &QAction::triggered, m_search, &QLineEdit::clear);
+    connect(m_search, &QLineEdit::textChanged, this, [this, clear](const QString &text) {
+        clear->setVisible(!text.isEmpty());
         m_edited = 0;
         filter(text);
     });
 }
 
-void VariableTree::addVariable(QTreeWidgetItem *group, std::size_t index)
+void VariableTree::addVariable(QTreeWidgetItem *group, qsizetype index)
 {
-    const variables::VariableRecord &record = m_context.catalogue.staging[index];
+    const variables::VariableRecord &record = std::as_const(m_context.catalogue).staging[index];
     const int number = static_cast<int>(index);
     QTreeWidgetItem *item =
         newItem(group, variableKey("AVAILABLETYPE", number), variableText(record), m_icons.of("variable"));
@@ -146,7 +151,7 @@ void VariableTree::fillDetails(QTreeWidgetItem *item)
     if (!isVariable(*item) || item->childCount() > 0)
         return;
     const int index = item->data(0, IndexRole).toInt();
-    const auto &record = m_context.catalogue.staging[static_cast<std::size_t>(index)];
+    const auto &record = std::as_const(m_context.catalogue).staging[index];
     addDetails(item,
                variableDetails(record, index, m_context.catalogue.units, m_context.locale.decimalSeparator),
                index, m_icons);
@@ -158,7 +163,7 @@ void VariableTree::RegenerateVariableTree()
     const QString current = m_tree->currentItem() ? keyOf(m_tree->currentItem()) : QString();
     const QList<QTreeWidgetItem *> groups = newGroups(m_icons);
     const variables::VariableTable &table = m_context.catalogue.staging;
-    for (std::size_t i = 1; i < table.size(); ++i) {
+    for (qsizetype i = 1; i < table.size(); ++i) {
         const qint32 group = table[i].VariableType;
         if (table[i].Available && group >= 1 && group <= groups.size())
             addVariable(groups[group - 1], i);
@@ -228,7 +233,7 @@ void VariableTree::edit(const QString &key)
 
 bool VariableTree::editRecord(const QString &role, int index)
 {
-    variables::VariableRecord &record = m_context.catalogue.staging[static_cast<std::size_t>(index)];
+    variables::VariableRecord &record = m_context.catalogue.staging[index];
     const QString &mark = m_context.locale.decimalSeparator;
     if (role == QLatin1String("MAXROC"))
         return editMaximumRoc(record, m_context.prompts, mark);

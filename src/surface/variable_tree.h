@@ -53,7 +53,7 @@ signals:
 
 private:
     void makeSearchBox();
-    void addVariable(QTreeWidgetItem *group, std::size_t index);
+    void addVariable(QTreeWidgetItem *group, qsizetype index);
     void fillDetails(QTreeWidgetItem *item);
     void edit(const QString &key);
     bool editRecord(const QString &role, int index);
