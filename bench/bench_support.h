@@ -62,15 +62,22 @@ private:
 class Times
 {
 public:
+    // Seconds that the task takes.
     template <typename Task>
-    double measure(Task task)
+    static double timed(Task task)
     {
         QElapsedTimer timer;
         timer.start();
         task();
-        m_seconds.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+    }
+    template <typename Task>
+    double measure(Task task)
+    {
+        add(timed(task));
         return m_seconds.back();
     }
+    void add(double value) { m_seconds.push_back(value); }
     // Seconds. The best one is what the task takes when the machine has nothing else to do.
     double median() const;
     double best() const;
