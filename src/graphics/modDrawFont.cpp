@@ -28,8 +28,10 @@ inline quint32 mixed(quint32 below, quint32 ink, quint32 share)
 
 inline quint32 mixedPixel(quint32 below, const Ink &ink, quint32 share)
 {
-    return qRgba(mixed(qRed(below), qRed(ink.pixel), share), mixed(qGreen(below), qGreen(ink.pixel), share),
-                 mixed(qBlue(below), qBlue(ink.pixel), share), qAlpha(below));
+    const auto channel = [&](quint32 shift) {
+        return mixed(below >> shift & Full, ink.pixel >> shift & Full, share) << shift;
+    };
+    return (below & ~RGB_MASK) | channel(16) | channel(8) | channel(0);
 }
 
 void mixRow(const quint8 *coverage, quint32 *pixels, int length, const Ink &ink)
