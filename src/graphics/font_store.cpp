@@ -118,7 +118,7 @@ std::shared_ptr<const OutlineFont> FontStore::outlines(const QString &face, cons
     const QString key = fontFileName({face, 0, style});
     if (const auto *kept = m_outlines.object(key))
         return *kept;
-    const auto made = std::make_shared<const OutlineFont>(storedFace(face), style, m_folders.shippedFaces());
+    auto made = std::make_shared<const OutlineFont>(storedFace(face), style, m_folders.shippedFaces());
     m_outlines.insert(key, new std::shared_ptr(made));
     return made;
 }

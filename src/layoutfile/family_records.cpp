@@ -8,15 +8,9 @@ using controls::ControlType;
 
 std::span<const FamilyRecord> familyRecords()
 {
-    static const std::array Records{
-        videoSourceRecord(),
-        bitmapRecord(),
-        textTagRecord(),
-        digitalDisplayRecord(),
-        barGraphRecord(),
-        gaugeRecord(),
-        trackMapRecord(),
-        customDialRecord()};
+    static const std::array Records{videoSourceRecord(),    bitmapRecord(),    textTagRecord(),
+                                    digitalDisplayRecord(), barGraphRecord(),  gaugeRecord(),
+                                    trackMapRecord(),       customDialRecord()};
     return Records;
 }
 

@@ -16,10 +16,11 @@ std::optional<Verdict> tooWide(const forms::Typed &typed)
 {
     for (const auto &[field, stroke] :
          {std::pair{"txtBorderWidth", "Border"}, {"txtMarkerWidth", "Marker"}, {"txtLineWidth", "Line"}}) {
-        if (typed.number(field) > WidestStroke)
+        if (typed.number(field) > WidestStroke) {
             return forms::refusal(
                 QStringLiteral("%1 width exceeds the maximum limit of 255,reduce and try again")
                     .arg(QLatin1String(stroke)));
+        }
     }
     return std::nullopt;
 }
