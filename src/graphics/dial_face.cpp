@@ -16,6 +16,7 @@ constexpr double PixelsPerPoint = 96.0 / 72; // on every screen
 constexpr int UsualFontSize = 18;            // points, where there is none
 constexpr double LargestShare = 4;           // of the radius; what lies beyond is out of sight
 constexpr double Gap = 1;                    // pixels between labels, and between them and the tics
+constexpr double SameAngle = 1e-3;           // degrees
 
 QColor rgb(const common::Colour &colour) { return QColor(common::toPixel(colour.packed())); }
 
@@ -127,7 +128,7 @@ void FacePainter::drawLabels()
     std::vector<double> angles;
     for (const Tic &tic : ticsOf(m_look)) {
         // A scale that goes round ends where it began.
-        if (!angles.empty() && std::fmod(tic.angle - angles.front(), 360) == 0)
+        if (!angles.empty() && std::fabs(std::remainder(tic.angle - angles.front(), 360)) < SameAngle)
             continue;
         angles.push_back(tic.angle);
         labels.push_back(m_font.outline(common::shortestText(static_cast<float>(tic.value))));

@@ -11,7 +11,8 @@ namespace graphics {
 namespace {
 
 constexpr double MostTics = 500;
-constexpr double Tolerance = 1e-6; // of an interval: the last tic may lie so far beyond the end
+// Of an interval: how far the last tic may lie beyond the end, and one beside 0 that is meant to be there.
+constexpr double Tolerance = 1e-6;
 
 // The number that the float was written as: steps of 0.1 shall meet 0.3.
 double asWritten(float value) { return common::leadingNumber(common::shortestText(value)); }
@@ -36,8 +37,10 @@ std::vector<Tic> ticsOf(const DialLook &look)
         return {{double(look.curMinAngle), min}, {double(look.curMaxAngle), max}};
     const double step = max > min ? interval : -interval;
     std::vector<Tic> tics;
-    for (int i = 0; i <= intervals + Tolerance; ++i)
-        tics.push_back({angleAt(look, min + i * step), min + i * step});
+    for (int i = 0; i <= intervals + Tolerance; ++i) {
+        const double value = min + i * step;
+        tics.push_back({angleAt(look, value), std::fabs(value) < Tolerance * interval ? 0 : value});
+    }
     return tics;
 }
 

@@ -80,6 +80,7 @@ TEST(DialScale, HasATicAtEachIntervalAndTheTwoEndsWithoutAUsableOne)
         {0, 100, 30, "0@-100 30@-40 60@20 90@80"},
         {100, -100, 100, "100@-100 0@0 -100@100"},
         {0, 0.3F, 0.1F, "0@-100 0.1@-33 0.2@33 0.3@100"},
+        {-0.3F, 0.3F, 0.1F, "-0.3@-100 -0.2@-67 -0.1@-33 0@0 0.1@33 0.2@67 0.3@100"},
         {0, 240, 0, "0@-100 240@100"},
         {0, 240, -20, "0@-100 240@100"},
         {0, 240, nan, "0@-100 240@100"},
@@ -112,6 +113,9 @@ TEST(DialFace, LabelsAndCaptionShrinkAndAreLeftOutWhereThereIsNoRoom)
     look.curCaptions = 0;
     EXPECT_TRUE(texts(100));
     EXPECT_FALSE(texts(30));
+    std::tie(look.curMinAngle, look.curMaxAngle) = std::tuple(-180, 180); // ends where it begins
+    std::tie(look.curMax, look.curTicDelta) = std::tuple(2.1F, 0.7F);
+    EXPECT_TRUE(texts(100));
     look.curTicLabelsOnOff = 0;
     look.curCaptions = 1;
     EXPECT_TRUE(texts(60));
