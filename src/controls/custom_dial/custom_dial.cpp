@@ -99,8 +99,7 @@ GaugeValues pointerOf(const CustomDialValues &values, const platform::Screen &sc
 {
     const Box &box = values.box;
     const auto middle = [](float start, float size) { return (size - BothFrames) / 2 + start + FrameTwips; };
-    GaugeValues pointer;
-    pointer.box = box;
+    GaugeValues pointer; // without a box: where its pivot is 0, it is 0
     pointer.curVarID = values.curVarID;
     pointer.curCenterX = toIntegerClamped<qint16>(screen.toPixelsX(middle(box.Left, box.Width)));
     pointer.curCenterY = toIntegerClamped<qint16>(screen.toPixelsY(middle(box.Top, box.Height)));
