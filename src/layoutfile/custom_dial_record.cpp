@@ -3,8 +3,6 @@
 #include "layoutfile/field_link.h"
 #include "layoutfile/gauge_record.h"
 
-#include <cmath>
-
 namespace layoutfile {
 
 namespace {
@@ -52,13 +50,6 @@ void link(auto &values, auto &record, auto field)
     field(values.curTransparent, record.transparent);
 }
 
-// A face is compared with the one before: numbers that are equal to nothing must not get in.
-struct FromDialRecord : FromRecord
-{
-    using FromRecord::operator();
-    void operator()(float &value, const float &stored) const { value = std::isfinite(stored) ? stored : 0; }
-};
-
 BitmapRecord faceRecord(const CustomDialRecord &dial)
 {
     return {
@@ -90,7 +81,7 @@ void build(const LayoutRecord &stored, controls::OverlayControl &control, const 
     const auto &record = std::get<CustomDialRecord>(stored.body);
     const platform::Screen &screen = load.screen;
     CustomDialValues values;
-    link(values, record, FromDialRecord());
+    link(values, record, FromRecord());
     auto &dial = static_cast<CustomDial &>(control);
     dial.set(values);
     dial.setBox({screen.toTwipsX(record.left) - controls::FrameTwips,
