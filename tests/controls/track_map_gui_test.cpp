@@ -87,7 +87,8 @@ TEST(TrackMapDialog, SpeaksOfTheMapFileOnlyWhenTheUserTicksTheMap)
     EXPECT_EQ(map.Serialise().join(' '), "1650 1650 2 0 1 7 4227327 1 2 11579568 204 2 0 0 0 1 1 0 204");
     EXPECT_EQ(map.box(), (Box{120, 360, 1650, 1650}));
 
-    TrackMapDialog second(map); // says nothing while it is filled
+    map.write("newIniWidth", 70); // of no use with a map
+    TrackMapDialog second(map);   // says nothing while it is filled
     second.show();
     EXPECT_FALSE(second.findChild<QWidget *>("chkRescale")->isEnabled());
     press(second, "chkEnableMap");

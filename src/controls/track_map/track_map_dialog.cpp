@@ -118,22 +118,22 @@ void TrackMapDialog::addScaleRows()
     forms::NumberField &width = number(&V::curIniWidth, {"txtIniWidth", "Initial width"});
     forms::NumberField &height = number(&V::curIniHeight, {"txtIniHeight", "Initial height"});
     addGroup("Map");
-    forms::CheckField &map = check(&V::curMapEnable, "chkEnableMap", "&Enable internet map overlay");
+    forms::CheckField &map = check(&V::curMapEnable, "chkEnableMap", "Enable &internet map overlay");
     enableBy(map, {&options(&V::curMapType, "Map type",
                             {{"optUseSatellite", "Use &Satellite Maps"}, {"optUseRoad", "Use R&oad Maps"}}),
                    &options(&V::curMapDetailLevel, "Map &detail",
                             {{"optMapHigh", "High"}, {"optMapMedium", "Medium"}, {"optMapLow", "Low"}}),
                    &percent(&V::curMapAlpha, {"txtMapAlpha", "Ma&p alpha", "%"})});
     follow([&map, &rescale, &width, &height] {
-        for (forms::Field *field : std::initializer_list<forms::Field *>{&rescale, &width, &height})
+        for (forms::Field *field : std::initializer_list<forms::Field *>{&rescale, &width, &height}) {
             field->setEnabled(!map.isOn());
+            if (map.isOn())
+                field->setText(QStringLiteral("0"));
+        }
     });
-    react(map, [this, &map, &rescale, &width, &height] {
+    react(map, [this, &map] {
         if (!map.isOn())
             return;
-        rescale.setText(QStringLiteral("0"));
-        width.setText(QStringLiteral("0"));
-        height.setText(QStringLiteral("0"));
         prompts().message(
             platform::Icon::Information, platform::ProductTitle,
             QStringLiteral("To use this mode you must include a map file from the map generator "
