@@ -57,7 +57,7 @@ void CustomDialDialog::addPlaceRows()
     addGroup("General");
     percent(&V::curAlfa, {"txtAlfa", "Alpha &Factor", "%"});
     colour(&V::curBkColour, {"picBackColour", "Back colour"}, "cmdResetBackColour", V().curBkColour.packed());
-    check(&V::curTransparent, "chkTransparent", "&Transparent background");
+    check(&V::curTransparent, "chkTransparent", "T&ransparent background");
     addGroup("Pointer Properties");
     number(&V::curPointerLength, {"txtPointerLength", "Pointer &length", "pixels"});
     number(&V::curPointerWidth, {"txtPointerWidth", "Pointer width", "pixels"});
@@ -69,7 +69,7 @@ void CustomDialDialog::addScaleRows()
 {
     addGroup("Scale Properties");
     number(&V::curMin, {"txtMin", "Mi&nimum"});
-    number(&V::curMax, {"txtMax", "Ma&ximum"});
+    number(&V::curMax, {"txtMax", "Maxi&mum"});
     number(&V::curMinAngle, {"txtMinAngle", "Angle at minimum", "degrees"});
     number(&V::curMaxAngle, {"txtMaxAngle", "Angle at maximum", "degrees"});
 }
@@ -87,7 +87,7 @@ void CustomDialDialog::addTicRows()
     check(&V::curTicLabelsOnOff, "chkTicLabels", "La&bels On/Off");
     colour(&V::curTicColour, {"picTicColour", "Tic colour"}, "cmdResetTicColour", V().curTicColour.packed());
     auto &font = add<forms::FontField>("cmdFont", "lblFont", prompts());
-    addRow(font, "F&ont");
+    addRow(font, "Fon&t");
     bind(font, [](V &values) {
         return forms::FontParts<qint16, quint8, common::FixedString<30>>{
             values.curFontName,   values.curFontSize,          values.curFontBold,
