@@ -53,6 +53,12 @@ QString takeLastPart(QString &text)
     return part;
 }
 
+// What a cut leaves of a size: nothing, or one digit, which says little about a size of two.
+bool isStartOfSize(const QString &text)
+{
+    return text.isEmpty() || (text.size() == 1 && text.front().isDigit());
+}
+
 } // namespace
 
 QString storedFace(const QString &face)
@@ -75,19 +81,18 @@ QString extendedFontFileName(const FontRequest &request)
 
 FontRequest splitFontFileName(const QString &name)
 {
-    FontRequest request;
-    const QString whole = withoutSuffix(name.section(QChar(0), 0, 0));
-    request.face = whole;
-    const int size = takeLastPart(request.face).toInt();
-    if (size < 1 || size > LargestSize) {
-        request.face = storedFace(whole.trimmed());
-        return request;
-    }
-    request.size = size;
-    QString face = request.face;
-    if (const QString style = takeLastPart(face); isStyleText(style)) {
+    const QString stored = name.section(QChar(0), 0, 0);
+    const QString whole = withoutSuffix(stored);
+    QString front = whole;
+    const QString last = takeLastPart(front);
+    const bool isSizeCut = whole == stored && isStartOfSize(last);
+    const int size = isSizeCut ? 0 : last.toInt();
+    if (!isSizeCut && (size < 1 || size > LargestSize))
+        return {storedFace(whole.trimmed()), 0, {}};
+    FontRequest request{front, size, {}};
+    if (const QString style = takeLastPart(front); isStyleText(style)) {
         request.style = styleOf(style);
-        request.face = face;
+        request.face = front;
     }
     request.face = storedFace(request.face.trimmed());
     return request;
