@@ -23,10 +23,8 @@ FontField::FontField(const char *name, const char *labelName, platform::Prompts 
     m_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     button().setAutoDefault(false);
     QObject::connect(&button(), &QPushButton::clicked, &button(), [this, &prompts] {
-        if (const auto chosen = prompts.font(m_font)) {
-            show(*chosen);
-            changed();
-        }
+        if (const auto chosen = prompts.font(m_font))
+            choose(*chosen);
     });
 }
 
@@ -36,13 +34,18 @@ void FontField::show(const QFont &font)
     m_label->setText(fontCaption(font));
 }
 
+void FontField::choose(const QFont &font)
+{
+    show(font);
+    m_isChosen = true;
+    changed();
+}
+
 void FontField::setText(const QString &text)
 {
     QFont font;
-    if (font.fromString(text)) {
-        show(font);
-        changed();
-    }
+    if (font.fromString(text))
+        choose(font);
 }
 
 } // namespace forms

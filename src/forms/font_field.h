@@ -2,6 +2,7 @@
 
 #include "common/rounding.h"
 #include "forms/field.h"
+#include "platform/faces.h"
 
 #include <QFont>
 #include <QPushButton>
@@ -35,7 +36,6 @@ public:
     void setText(const QString &text) override;
 
     const QFont &font() const { return m_font; }
-    void show(const QFont &font);
     template <typename Size, typename Flag, typename Face>
     void show(const FontParts<Size, Flag, Face> &parts)
     {
@@ -47,16 +47,16 @@ public:
         font.setStrikeOut(parts.strikethrough);
         font.setUnderline(parts.underline);
         show(font);
-        m_shown = font;
+        m_isChosen = false;
     }
-    // Parts keep what they hold unless another font was chosen. Throws RunTimeError when a size does not fit.
+    // Parts keep what they hold unless a font was chosen. Throws RunTimeError when a size does not fit.
     template <typename Size, typename Flag, typename Face>
     void store(const FontParts<Size, Flag, Face> &parts) const
     {
-        if (m_font == m_shown)
+        if (!m_isChosen)
             return;
         parts.size = common::toInteger<Size>(m_font.pointSize());
-        parts.face = m_font.family();
+        parts.face = platform::withoutFoundry(m_font.family());
         parts.bold = static_cast<Flag>(m_font.bold());
         parts.italic = static_cast<Flag>(m_font.italic());
         parts.strikethrough = static_cast<Flag>(m_font.strikeOut());
@@ -64,10 +64,13 @@ public:
     }
 
 private:
+    void show(const QFont &font);
+    void choose(const QFont &font);
+
     QLabel *m_label;
     QWidget *m_cell;
     QFont m_font;
-    QFont m_shown;
+    bool m_isChosen = false; // by the user, or a correction
 };
 
 } // namespace forms

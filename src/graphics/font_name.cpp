@@ -63,8 +63,7 @@ bool isStartOfSize(const QString &text)
 
 QString storedFace(const QString &face)
 {
-    const qsizetype bracket = face.endsWith(QLatin1Char(']')) ? face.lastIndexOf(QLatin1Char('[')) : -1;
-    const QString name = bracket < 0 ? face : face.first(bracket).trimmed();
+    const QString name = platform::withoutFoundry(face);
     return platform::nameWithin({}, name).isEmpty() ? DefaultFace : name;
 }
 

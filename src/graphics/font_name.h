@@ -28,8 +28,8 @@ struct FontRequest
 
 using platform::DefaultFace;
 
-// A face as files know it: without the foundry, which the desktop adds in brackets ("Name [Foundry]"), and
-// the default face in place of one that is empty or would lead out of the font folder.
+// A face as files know it: without the foundry ("Name [Foundry]"), and the default face in place of one that
+// is empty or would lead out of the font folder.
 QString storedFace(const QString &face);
 
 // The name of the standard font file: "Arial B 12.qlg", with two blanks where there is no style.

@@ -12,4 +12,11 @@ inline const QString ShippedFace = QStringLiteral("Liberation Sans");
 // there.
 inline const QStringList StoodInFor = {DefaultFace, QStringLiteral("MS Sans Serif"), QStringLiteral("Arial")};
 
+// A face without the foundry that the desktop adds in brackets to tell two of one name apart.
+inline QString withoutFoundry(const QString &face)
+{
+    const qsizetype bracket = face.endsWith(QLatin1Char(']')) ? face.lastIndexOf(QLatin1Char('[')) : -1;
+    return bracket < 0 ? face : face.first(bracket).trimmed();
+}
+
 } // namespace platform

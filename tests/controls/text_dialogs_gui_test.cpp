@@ -59,9 +59,8 @@ TEST_F(DisplayProperties, ArePreviewedAndAllWrittenByApply)
     chooseBlocks(w, dialog);
     type(dialog, "CenterX=-700 LowerLimit=-5 UpperLimit=10 Alfa=50");
     press(dialog, "cmdApply");
-    EXPECT_EQ(control.Serialise().join('|'),
-              "1050|300|1|1|0|Block [foundry]|14|0|0|255|4864815|3725,5|2|640|205|"
-              "255|1|-5|10|3725.5|1|128|0|0|0|0");
+    EXPECT_EQ(control.Serialise().join('|'), "1050|300|1|1|0|Block|14|0|0|255|4864815|3725,5|2|640|205|"
+                                             "255|1|-5|10|3725.5|1|128|0|0|0|0");
     press(*pressed("chkApplyLimits", {}), "cmdApply");
     EXPECT_EQ(control.Serialise().mid(17, 2).join('|'), "0|0");
 }
@@ -92,8 +91,7 @@ TEST_F(TagProperties, AFieldIsStoredAsItsRowAndItsPattern)
     EXPECT_EQ(box(dialog, "Text").text(), "Time(hh:mm:ss)");
     chooseBlocks(w, dialog);
     press(dialog, "cmdApply");
-    EXPECT_EQ(control.Serialise().join('|'),
-              "1350|300|0|1|0|Block [foundry]|14|0|0|0|0|hh:mm:ss|0|0|0|11|255|0|0|0");
+    EXPECT_EQ(control.Serialise().join('|'), "1350|300|0|1|0|Block|14|0|0|0|0|hh:mm:ss|0|0|0|11|255|0|0|0");
 
     TextTagDialog again(control);
     EXPECT_EQ(label(again, "lblText") + box(again, "Text").text(), "Fieldhh:mm:ss");

@@ -163,7 +163,7 @@ std::optional<QFont> QtPrompts::font(const QFont &initial)
 {
     const ArrowPointer pointer;
     bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, initial, parent());
+    const QFont chosen = QFontDialog::getFont(&accepted, initial, parent(), {}, QFontDialog::ScalableFonts);
     return accepted ? std::optional(chosen) : std::nullopt;
 }
 
