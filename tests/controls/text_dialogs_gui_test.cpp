@@ -63,6 +63,8 @@ TEST_F(DisplayProperties, ArePreviewedAndAllWrittenByApply)
                                              "255|1|-5|10|3725.5|1|128|0|0|0|0");
     press(*pressed("chkApplyLimits", {}), "cmdApply");
     EXPECT_EQ(control.Serialise().mid(17, 2).join('|'), "0|0");
+    pressed("cmdApply", "CenterX=-40"); // 60 pixels wide
+    EXPECT_EQ(control.get().curCenterX, -20);
 }
 
 TEST_F(DisplayProperties, ARefusedApplyWritesNothing)

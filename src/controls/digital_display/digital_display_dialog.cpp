@@ -104,8 +104,7 @@ void DigitalDisplayDialog::set(LimitedDisplay &values)
         values.curLowerLimit = 0;
         values.curUpperLimit = 0;
     }
-    m_display.arrange(values);
-    m_display.set(values);
+    setArranged(m_display, values);
 }
 
 } // namespace controls

@@ -40,6 +40,15 @@ protected:
         this->colourRows();
         this->percent(&Values::curAlfa, {"txtAlfa", "O&pacity", "%"});
     }
+
+    // The box goes with its place: next to another one, a place left of the canvas would be a right edge.
+    template <typename Control>
+    static void setArranged(Control &control, Values &values)
+    {
+        control.arrange(values);
+        control.set(values);
+        control.setBox(values.box);
+    }
 };
 
 } // namespace controls

@@ -77,6 +77,7 @@ forms::TextField &TextTagDialog::addContent()
         const bool isField = isFree && type.row() > 0;
         text.setEnabled(!isField);
         text.caption()->setText(isField ? QStringLiteral("Field") : QStringLiteral("Text"));
+        text.setCaption(text.caption());
     });
     react(type, [&type, &text] { text.setText(type.row() > 0 ? type.text() : TextTagValues::UsualText); });
     react(variable, [&variable, &type, &text] {
@@ -91,8 +92,7 @@ forms::TextField &TextTagDialog::addContent()
 void TextTagDialog::set(TypedText &values)
 {
     static_cast<TextTagValues &>(values) = storedValues(values, kept());
-    m_tag.arrange(values);
-    m_tag.set(values);
+    setArranged(m_tag, values);
 }
 
 } // namespace controls
