@@ -108,15 +108,6 @@ void TextControl::updatePosition()
     skipFailures([&] { values.curCenterY = toInteger<qint16>(contentTop(box(), screen())); });
 }
 
-// Moved only: the text decides the size.
-void TextControl::fitCanvasHeight(float height)
-{
-    if (box().bottom() <= height)
-        return;
-    moveTo(box().Left, height - box().Height);
-    updatePosition();
-}
-
 void TextControl::nudge(int dx, int dy)
 {
     TextValues &values = textValues();

@@ -56,7 +56,7 @@ public:
     void AssignProperties() override;
 
     void updatePosition() override;
-    void fitCanvasHeight(float height) override;
+    void fitCanvasHeight(float height) override { pullUp(height); } // the text decides the size
     void nudge(int dx, int dy) override;
     QSizeF startSize() const override { return {BothFrames, BothFrames}; } // until its text is known
     void paint(Composition &onto) const override;
