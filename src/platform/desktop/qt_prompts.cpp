@@ -1,11 +1,13 @@
 #include "platform/desktop/qt_prompts.h"
 
 #include "platform/desktop/file_dialog.h"
+#include "platform/faces.h"
 
 #include <QApplication>
 #include <QButtonGroup>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -159,11 +161,17 @@ std::optional<QRgb> QtPrompts::colour(QRgb initial)
     return chosen.isValid() ? std::optional(chosen.rgb()) : std::nullopt;
 }
 
+// A face that is not installed shows as the one that it is drawn with, and stays unless another is chosen.
 std::optional<QFont> QtPrompts::font(const QFont &initial)
 {
     const ArrowPointer pointer;
+    QFont shown = initial;
+    if (!QFontDatabase::hasFamily(initial.family()))
+        shown.setFamily(ShippedFace);
     bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, initial, parent(), {}, QFontDialog::ScalableFonts);
+    QFont chosen = QFontDialog::getFont(&accepted, shown, parent(), {}, QFontDialog::ScalableFonts);
+    if (withoutFoundry(chosen.family()) == withoutFoundry(shown.family()))
+        chosen.setFamily(initial.family());
     return accepted ? std::optional(chosen) : std::nullopt;
 }
 
