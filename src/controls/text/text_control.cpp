@@ -22,11 +22,6 @@ float contentTop(const Box &box, const platform::Screen &screen)
     return screen.toPixelsY(box.Top + FrameTwips);
 }
 
-float contentWidth(const Box &box, const platform::Screen &screen)
-{
-    return screen.toPixelsX(box.Width - BothFrames);
-}
-
 // A text without extent leaves the size as it is, but for a control that has none yet.
 float sized(float before, float content)
 {
@@ -62,7 +57,7 @@ void place(TextValues &values, QSize extent, recorder::VideoStandard standard, c
     Box box = values.box;
     box.Width = sized(box.Width, screen.toTwipsX(static_cast<float>(extent.width())));
     box.Height = sized(box.Height, screen.toTwipsY(static_cast<float>(extent.height())));
-    const float width = contentWidth(box, screen);
+    const float width = innerWidth(box, screen);
     const float left = isRightEdge(values, screen) ? -values.curCenterX - width : values.curCenterX;
     const float x =
         pulledInto(left, screen.toPixelsX(box.Width), screen.toPixelsX(FrameTwips), recorder::CanvasWidth);
@@ -112,7 +107,7 @@ void TextControl::nudge(int dx, int dy)
 {
     TextValues &values = textValues();
     const auto left = static_cast<float>(values.curCenterX + dx);
-    values.curCenterX = toInteger<qint16>(std::max(left, lowestLeft(values, contentWidth(box(), screen()))));
+    values.curCenterX = toInteger<qint16>(std::max(left, lowestLeft(values, innerWidth(box(), screen()))));
     values.curCenterY = toInteger<qint16>(values.curCenterY + dy);
     host().Reposition(*this, cornerOf(values, screen()));
 }
