@@ -1,13 +1,13 @@
-// Mouse, keys and drops of the canvas: the contract's order of events, in one place.
+// Mouse and keys of the canvas: the contract's order of events, in one place.
 
 #include "platform/guards.h"
 #include "surface/canvas.h"
 
-#include <QDragEnterEvent>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace surface {
@@ -271,40 +271,6 @@ void Canvas::contextMenuEvent(QContextMenuEvent *event)
         showMenu(*control, mapToGlobal(control->outerRect().center()));
     else
         showCanvasMenu(twips(rect().center()), mapToGlobal(rect().center()));
-}
-
-bool Canvas::takesDrop(const QDropEvent &event) const
-{
-    if (m_isPlayMode || !event.mimeData()->hasFormat(VariableMime))
-        return event.mimeData()->hasFormat(LibraryMime);
-    const OverlayControl *control = controlAt(event.position());
-    return control && control->takesVariable();
-}
-
-void Canvas::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasFormat(LibraryMime) || event->mimeData()->hasFormat(VariableMime))
-        event->acceptProposedAction(); // and be told of its movements
-}
-
-void Canvas::dragMoveEvent(QDragMoveEvent *event)
-{
-    if (takesDrop(*event))
-        event->acceptProposedAction();
-    else
-        event->ignore();
-}
-
-void Canvas::dropEvent(QDropEvent *event)
-{
-    if (!takesDrop(*event))
-        return;
-    event->acceptProposedAction();
-    const QMimeData &carried = *event->mimeData();
-    if (carried.hasFormat(LibraryMime))
-        emit dropped(QString::fromUtf8(carried.data(LibraryMime)), twips(event->position()));
-    else
-        skipFailures([&] { controlAt(event->position())->bindVariable(carried.data(VariableMime).toInt()); });
 }
 
 // A canvas without controls, or one that is being closed, lets the focus go.
