@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QSysInfo>
 
+#include <optional>
+
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <csignal>

@@ -3,6 +3,7 @@
 #include "controls/complexity.h"
 #include "platform/guards.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace controls {
