@@ -26,4 +26,12 @@ void ColourRows::chooseColour() const
         colour.swatch().setColour(0);
 }
 
+std::optional<forms::Verdict> refusedOpacity(const forms::Typed &typed, const QString &text, double most)
+{
+    const double opacity = typed.number("txtAlfa");
+    if (opacity < 0 || opacity > most)
+        return forms::refusal(text);
+    return std::nullopt;
+}
+
 } // namespace controls

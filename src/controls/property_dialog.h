@@ -24,19 +24,28 @@ struct ColourRows
     void chooseColour() const; // black for a variable
 };
 
-// What the property dialogs of the families share: rows that bind a variable of the host's catalogue.
-template <typename Values>
+// The refusal of an opacity in "txtAlfa" that is negative or above `most`.
+std::optional<forms::Verdict> refusedOpacity(const forms::Typed &typed, const QString &text,
+                                             double most = 100);
+
+// What the property dialogs of the families share: the control, the rows of its colour, and rows that bind a
+// variable of the host's catalogue.
+template <typename Control, typename Values>
 class PropertyDialog : public forms::DialogOf<Values>
 {
 protected:
     using Base = forms::DialogOf<Values>;
 
-    PropertyDialog(OverlayControl &control, const QString &title, const Values &values)
+    PropertyDialog(Control &control, const QString &title, const Values &values)
         : Base(title, values,
                {control.host().prompts(), control.host().locale(), QApplication::activeWindow()}),
-          m_host(control.host())
+          m_control(control)
     {
     }
+
+    Control &control() const { return m_control; }
+    ControlHost &host() const { return m_control.host(); }
+    void applied() override { m_control.AssignProperties(); }
 
     template <typename Member>
     forms::ListField &variable(Member member, const forms::RowText &row)
@@ -63,12 +72,17 @@ protected:
         this->react(rows.variable, [rows] { rows.chooseColour(); });
         this->follow([rows] { rows.showChoice(); });
     }
+    void colourAndOpacity()
+    {
+        colourRows();
+        Base::percent(&Values::curAlfa, {"txtAlfa", "O&pacity", "%"});
+    }
 
 private:
     template <typename Member>
     forms::ListField &variableList(Member member, const forms::RowText &row, forms::Choices choices)
     {
-        const variables::VariableTable &table = m_host.catalogue().live;
+        const variables::VariableTable &table = host().catalogue().live;
         const qint32 stored = std::invoke(member, Base::kept());
         for (forms::Choice &choice :
              variables::variableChoices(table, &variables::VariableRecord::Available, stored))
@@ -78,7 +92,7 @@ private:
         return list;
     }
 
-    ControlHost &m_host;
+    Control &m_control;
 };
 
 } // namespace controls

@@ -38,6 +38,11 @@ inline std::vector<Button> okAndCancel()
 {
     return {{"cmdOk", "&OK", Press::Accept}, {"cmdCancel", "&Cancel", Press::Cancel}};
 }
+// An Apply that closes.
+inline std::vector<Button> applyAndCancel()
+{
+    return {{"cmdApply", "&Apply", Press::Accept}, {"cmdCancel", "&Cancel", Press::Cancel}};
+}
 
 // A dialog of titled groups with rows of fields, and buttons below. A press of Apply or OK asks the rules,
 // then converts and sets the values; a text that does not fit its type ends it before anything is written.

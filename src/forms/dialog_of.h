@@ -2,6 +2,7 @@
 
 #include "forms/colour_field.h"
 #include "forms/dialog.h"
+#include "forms/font_field.h"
 #include "forms/list_field.h"
 #include "forms/option_field.h"
 #include "forms/slider_field.h"
@@ -79,6 +80,12 @@ protected:
     SliderField &slider(Member member, const RowText &row, int minimum, int maximum)
     {
         return inRow(add<SliderField>(row.name, minimum, maximum), member, row);
+    }
+    // `labelName` is the name of the chosen font's caption.
+    template <typename Member>
+    FontField &font(Member member, const RowText &row, const char *labelName)
+    {
+        return inRow(add<FontField>(row.name, labelName, prompts()), member, row);
     }
     // A row that the user cannot type in; a follow() fills it.
     TextField &shownText(const RowText &row)

@@ -9,15 +9,12 @@ std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed)
     const double min = typed.number("txtMin");
     const double max = typed.number("txtMax");
     const double value = typed.number("txtDefaultVal");
-    const double alpha = typed.number("txtAlfa");
     if (max == min)
         return forms::refusal(QStringLiteral("Can't use same value for minimum and maximum "));
     // The far end may be the lower one: a reversed bar.
     if (value < std::min(min, max) || value > std::max(min, max))
         return forms::refusal(QStringLiteral("Default value should be between Min and Max value"));
-    if (alpha < 0 || alpha > 100)
-        return forms::refusal(QStringLiteral("Invalid Alpha Value"));
-    return std::nullopt;
+    return refusedOpacity(typed, QStringLiteral("Invalid Alpha Value"));
 }
 
 BarLine barLine(const BarGraph &bar, bool isHorizontal)
@@ -31,8 +28,7 @@ BarLine barLine(const BarGraph &bar, bool isHorizontal)
 
 BarGraphDialog::BarGraphDialog(BarGraph &bar)
     : PropertyDialog(bar, QStringLiteral("Bar Graph Properties"),
-                     {bar.get(), barLine(bar, bar.get().isHorizontal())}),
-      m_bar(bar)
+                     {bar.get(), barLine(bar, bar.get().isHorizontal())})
 {
     using V = BarOnLine;
     addGroup("Variable");
@@ -50,18 +46,17 @@ BarGraphDialog::BarGraphDialog(BarGraph &bar)
     const auto &width = number(&V::barWidth, {"txtBarWidth", "Bar &width", "pixels"});
     react(type, [this, &type, &startX, &startY, &endX, &endY, &width] {
         V values = kept();
-        static_cast<BarLine &>(values) = barLine(m_bar, type.row() == 0);
+        static_cast<BarLine &>(values) = barLine(control(), type.row() == 0);
         showValues(values, {&startX, &startY, &endX, &endY, &width});
     });
     addGroup("Colour");
-    colourRows();
-    percent(&V::curAlfa, {"txtAlfa", "O&pacity", "%"});
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    colourAndOpacity();
+    finish(forms::applyAndCancel());
 }
 
 void BarGraphDialog::set(BarOnLine &values)
 {
-    const platform::Screen &screen = m_bar.host().screen();
+    const platform::Screen &screen = host().screen();
     values.curBarWidth = toInteger<quint8>(static_cast<double>(values.barWidth));
     const QPointF start = screen.toTwips(QPointF(values.startX, values.startY));
     values.curLeft = toInteger<qint16>(start.x());
@@ -69,11 +64,11 @@ void BarGraphDialog::set(BarOnLine &values)
     const auto length = toInteger<qint16>(static_cast<double>(
         values.isHorizontal() ? values.endX - values.startX : values.endY - values.startY));
     BarGraphValues &bar = values;
-    bar = placed(bar, length, m_bar.host().VideoType(), screen);
-    m_bar.set(bar);
+    bar = placed(bar, length, host().VideoType(), screen);
+    control().set(bar);
     m_length = length;
 }
 
-void BarGraphDialog::applied() { m_bar.AssignProperties(m_length); }
+void BarGraphDialog::applied() { control().AssignProperties(m_length); }
 
 } // namespace controls

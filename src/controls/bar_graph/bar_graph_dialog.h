@@ -21,7 +21,7 @@ struct BarOnLine : BarGraphValues, BarLine
 std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed);
 
 // "Bar Graph Properties".
-class BarGraphDialog final : public PropertyDialog<BarOnLine>
+class BarGraphDialog final : public PropertyDialog<BarGraph, BarOnLine>
 {
 public:
     explicit BarGraphDialog(BarGraph &bar);
@@ -35,7 +35,6 @@ protected:
     void applied() override;
 
 private:
-    BarGraph &m_bar;
     qint16 m_length = 0; // of the applied bar, pixels
 };
 

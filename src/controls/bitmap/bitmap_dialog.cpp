@@ -72,17 +72,13 @@ std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
             QStringLiteral(
                 "Selected images are in different sizes and please select same size images to continue"),
             platform::Icon::Critical);
-    const double factor = typed.number("txtAlfa");
-    if (factor < 0 || factor > MostAlpha)
-        return forms::refusal(QStringLiteral("Invalid Alfa Value"));
-    return std::nullopt;
+    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"), MostAlpha);
 }
 
 BitmapDialog::BitmapDialog(Bitmap &bitmap)
     : PropertyDialog(
           bitmap, QStringLiteral("Bitmap Properties"),
-          {bitmap.get(), {bitmap.get().picture.picture(), {}}, {bitmap.get().picture.alphaPicture(), {}}}),
-      m_bitmap(bitmap)
+          {bitmap.get(), {bitmap.get().picture.picture(), {}}, {bitmap.get().picture.alphaPicture(), {}}})
 {
     using V = BitmapOfFiles;
     addGroup("Pictures");
@@ -115,7 +111,7 @@ BitmapDialog::BitmapDialog(Bitmap &bitmap)
     number(&V::curAlfaVarMin, {"txtAlfaVarMin", "Alpha minimum"});
     number(&V::curAlfaVarMax, {"txtAlfaVarMax", "Alpha maximum"});
     number(&V::curAlfaDefaultVal, {"txtAlfaDefaultVal", "Default value"});
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    finish(forms::applyAndCancel());
 }
 
 forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles::*member,
@@ -124,8 +120,7 @@ forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles
 {
     auto &field =
         add<forms::PictureField>(names[0], names[1], graphics::pictureRequest(), prompts(), std::move(taker));
-    field.addButton(names[2], "Examples...",
-                    graphics::pictureRequest(m_bitmap.host().folders().exampleGraphics()));
+    field.addButton(names[2], "Examples...", graphics::pictureRequest(host().folders().exampleGraphics()));
     addRow(field, caption);
     return bind(field, member);
 }
@@ -154,10 +149,10 @@ void BitmapDialog::set(BitmapOfFiles &values)
         values.picture = PlanePicture::chosen(values.source.picture, values.alphaSource.picture);
     else if (!values.alphaSource.path.isEmpty())
         values.picture = values.picture.withAlpha(values.alphaSource.picture);
-    keepOnCanvas(values, m_bitmap.host());
+    keepOnCanvas(values, host());
     values.curFileName = copied(values.source, values.curFileName);
     values.curAlfaFileName = copied(values.alphaSource, values.curAlfaFileName);
-    m_bitmap.set(values);
+    control().set(values);
 }
 
 // The name of the copy. A copy that cannot be written costs a message only: the bitmap has its picture.
@@ -166,7 +161,7 @@ QString BitmapDialog::copied(const forms::ChosenPicture &chosen, const QString &
     if (chosen.path.isEmpty())
         return before;
     QString name = QFileInfo(chosen.path).fileName();
-    const QString folder = m_bitmap.host().folders().pictureFolder();
+    const QString folder = host().folders().pictureFolder();
     platform::reportFailures(prompts(), [&] {
         const QByteArray bytes = platform::readFile(chosen.path);
         name = copyName(folder, name, bytes);

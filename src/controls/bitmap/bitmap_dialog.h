@@ -23,7 +23,7 @@ struct BitmapOfFiles : BitmapValues
 std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed);
 
 // "Bitmap Properties".
-class BitmapDialog final : public PropertyDialog<BitmapOfFiles>
+class BitmapDialog final : public PropertyDialog<Bitmap, BitmapOfFiles>
 {
 public:
     explicit BitmapDialog(Bitmap &bitmap);
@@ -34,7 +34,6 @@ protected:
         return validateBitmap(typed);
     }
     void set(BitmapOfFiles &values) override;
-    void applied() override { m_bitmap.AssignProperties(); }
 
 private:
     forms::PictureField &pictureRow(forms::ChosenPicture BitmapOfFiles::*member, const char *caption,
@@ -42,10 +41,7 @@ private:
     QImage taken(const QString &path, bool isAlpha);
     QString copied(const forms::ChosenPicture &chosen, const QString &before);
 
-    Bitmap &m_bitmap;
     forms::PictureField *m_source = nullptr;
-    QLineEdit *m_width;
-    QLineEdit *m_height;
 };
 
 } // namespace controls

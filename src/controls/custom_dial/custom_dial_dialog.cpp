@@ -1,6 +1,5 @@
 #include "controls/custom_dial/custom_dial_dialog.h"
 
-#include "forms/font_field.h"
 #include "platform/guards.h"
 
 namespace controls {
@@ -17,15 +16,11 @@ qint16 evenSide(qint16 side) { return static_cast<qint16>(side & ~1); }
 
 std::optional<forms::Verdict> validateCustomDial(const forms::Typed &typed)
 {
-    const double alpha = typed.number("txtAlfa");
-    if (alpha < 0 || alpha > 100)
-        return forms::refusal(QStringLiteral("Invalid Alfa Value"));
-    return std::nullopt;
+    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"));
 }
 
 CustomDialDialog::CustomDialDialog(CustomDial &dial)
-    : PropertyDialog(dial, QStringLiteral("Custom Dial Properties"), dial.get()), m_dial(dial),
-      m_preview(new QLabel)
+    : PropertyDialog(dial, QStringLiteral("Custom Dial Properties"), dial.get()), m_preview(new QLabel)
 {
     addPlaceRows();
     addScaleRows();
@@ -86,13 +81,13 @@ void CustomDialDialog::addTicRows()
     number(&V::curTicWidth, {"txtTicWidth", "Tic width", "of radius"});
     check(&V::curTicLabelsOnOff, "chkTicLabels", "La&bels On/Off");
     colour(&V::curTicColour, {"picTicColour", "Tic colour"}, "cmdResetTicColour", V().curTicColour.packed());
-    auto &font = add<forms::FontField>("cmdFont", "lblFont", prompts());
-    addRow(font, "Fon&t");
-    bind(font, [](V &values) {
-        return forms::FontParts<qint16, quint8, common::FixedString<30>>{
-            values.curFontName,   values.curFontSize,          values.curFontBold,
-            values.curFontItalic, values.curFontStrikethrough, values.curFontUnderline};
-    });
+    font(
+        [](V &values) {
+            return forms::FontParts<qint16, quint8, common::FixedString<30>>{
+                values.curFontName,   values.curFontSize,          values.curFontBold,
+                values.curFontItalic, values.curFontStrikethrough, values.curFontUnderline};
+        },
+        {"cmdFont", "Fon&t"}, "lblFont");
 }
 
 void CustomDialDialog::addCaptionRows()
@@ -120,30 +115,29 @@ void CustomDialDialog::addAnnularRows()
 
 CustomDialValues CustomDialDialog::placedEvenly(CustomDialValues values) const
 {
-    const V &before = m_dial.get();
+    const V &before = control().get();
     if (values.curWidth != before.curWidth)
         values.curWidth = evenSide(values.curWidth);
     if (values.curHeight != before.curHeight)
         values.curHeight = evenSide(values.curHeight);
-    return placed(values, m_dial.host().VideoType(), m_dial.host().screen());
+    return placed(values, host().VideoType(), host().screen());
 }
 
 void CustomDialDialog::set(CustomDialValues &values)
 {
     values = placedEvenly(values);
-    m_dial.set(values);
+    control().set(values);
 }
 
 // What does not make a dial yet leaves the last one in place.
 void CustomDialDialog::showPreview()
 {
     platform::skipFailures([this] {
-        ControlHost &host = m_dial.host();
         const V typed = placedEvenly(converted());
-        const QRect area = faceRect(typed.box, host.screen());
+        const QRect area = faceRect(typed.box, host().screen());
         Composition ground{QImage(area.size(), QImage::Format_RGB32), area.topLeft()};
         ground.picture.fill(palette().color(QPalette::Mid));
-        paintDial(typed, renderedFace(typed, area.size(), host), host, ground);
+        paintDial(typed, renderedFace(typed, area.size(), host()), host(), ground);
         QPixmap picture = QPixmap::fromImage(ground.picture);
         if (area.width() > PreviewSize.width() || area.height() > PreviewSize.height())
             picture = picture.scaled(PreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -8,7 +8,7 @@ namespace controls {
 std::optional<forms::Verdict> validateCustomDial(const forms::Typed &typed);
 
 // "Custom Dial Properties", with a picture of the dial as it is typed.
-class CustomDialDialog final : public PropertyDialog<CustomDialValues>
+class CustomDialDialog final : public PropertyDialog<CustomDial, CustomDialValues>
 {
 public:
     explicit CustomDialDialog(CustomDial &dial);
@@ -19,7 +19,6 @@ protected:
         return validateCustomDial(typed);
     }
     void set(CustomDialValues &values) override;
-    void applied() override { m_dial.AssignProperties(); }
 
 private:
     void addPlaceRows();
@@ -31,7 +30,6 @@ private:
     CustomDialValues placedEvenly(CustomDialValues values) const;
     void showPreview();
 
-    CustomDial &m_dial;
     QLabel *m_preview;
 };
 

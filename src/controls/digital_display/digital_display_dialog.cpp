@@ -42,20 +42,17 @@ QString patternOf(DigitalDisplayValues format)
 
 std::optional<forms::Verdict> validateDigitalDisplay(const forms::Typed &typed)
 {
-    const double alpha = typed.number("txtAlfa");
     if (typed.number("txtDecimalPlaces") > MostPlaces)
         return forms::refusal(QStringLiteral("Invalid number of Decimal Places"), platform::Icon::Critical);
     if (typed.isOn("chkApplyLimits") && typed.number("txtLowerLimit") == 0 &&
         typed.number("txtUpperLimit") == 0)
         return forms::refusal(QStringLiteral("Upper and lower limit can't be 0"));
-    if (alpha < 0 || alpha > 255) // although it is a percentage: deliberate
-        return forms::refusal(QStringLiteral("Invalid Alpha Value"));
-    return std::nullopt;
+    constexpr double Most = 255; // deliberate, although a percentage is typed
+    return refusedOpacity(typed, QStringLiteral("Invalid Alpha Value"), Most);
 }
 
 DigitalDisplayDialog::DigitalDisplayDialog(DigitalDisplay &display)
-    : TextDialog(display, QStringLiteral("Digital Display Properties"), shownValues(display)),
-      m_display(display)
+    : TextDialog(display, QStringLiteral("Digital Display Properties"), shownValues(display))
 {
     addGroup("Variable");
     variable(&V::curVarID, {"cmbVariable", "Va&riable"});
@@ -66,7 +63,7 @@ DigitalDisplayDialog::DigitalDisplayDialog(DigitalDisplay &display)
     fontRow();
     addGroup("Colour");
     colourAndOpacity();
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    finish(forms::applyAndCancel());
 }
 
 void DigitalDisplayDialog::addFormat()
@@ -104,7 +101,7 @@ void DigitalDisplayDialog::set(LimitedDisplay &values)
         values.curLowerLimit = 0;
         values.curUpperLimit = 0;
     }
-    setArranged(m_display, values);
+    setArranged(values);
 }
 
 } // namespace controls

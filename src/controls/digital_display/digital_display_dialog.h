@@ -14,7 +14,7 @@ struct LimitedDisplay : DigitalDisplayValues
 std::optional<forms::Verdict> validateDigitalDisplay(const forms::Typed &typed);
 
 // "Digital Display Properties".
-class DigitalDisplayDialog final : public TextDialog<LimitedDisplay>
+class DigitalDisplayDialog final : public TextDialog<DigitalDisplay, LimitedDisplay>
 {
 public:
     explicit DigitalDisplayDialog(DigitalDisplay &display);
@@ -25,13 +25,10 @@ protected:
         return validateDigitalDisplay(typed);
     }
     void set(LimitedDisplay &values) override;
-    void applied() override { m_display.AssignProperties(); }
 
 private:
     void addFormat();
     void addLimits();
-
-    DigitalDisplay &m_display;
 };
 
 } // namespace controls

@@ -15,8 +15,7 @@ std::optional<forms::Verdict> validateGauge(const forms::Typed &typed)
 
 GaugeDialog::GaugeDialog(Gauge &gauge)
     : PropertyDialog(gauge, QStringLiteral("Analogue Dial Properties"),
-                     withPivot(gauge.get(), gauge.host().screen())),
-      m_gauge(gauge)
+                     withPivot(gauge.get(), gauge.host().screen()))
 {
     using V = GaugeValues;
     addGroup("Variable");
@@ -38,10 +37,8 @@ GaugeDialog::GaugeDialog(Gauge &gauge)
 
 void GaugeDialog::set(GaugeValues &values)
 {
-    values = placed(values, m_gauge.host().screen());
-    m_gauge.set(values);
+    values = placed(values, host().screen());
+    control().set(values);
 }
-
-void GaugeDialog::applied() { m_gauge.AssignProperties(); }
 
 } // namespace controls

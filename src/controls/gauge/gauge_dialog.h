@@ -8,7 +8,7 @@ namespace controls {
 std::optional<forms::Verdict> validateGauge(const forms::Typed &typed);
 
 // "Analogue Dial Properties".
-class GaugeDialog final : public PropertyDialog<GaugeValues>
+class GaugeDialog final : public PropertyDialog<Gauge, GaugeValues>
 {
 public:
     explicit GaugeDialog(Gauge &gauge);
@@ -19,10 +19,6 @@ protected:
         return validateGauge(typed);
     }
     void set(GaugeValues &values) override;
-    void applied() override;
-
-private:
-    Gauge &m_gauge;
 };
 
 } // namespace controls

@@ -2,16 +2,15 @@
 
 #include "controls/property_dialog.h"
 #include "controls/text/text_control.h"
-#include "forms/font_field.h"
 
 namespace controls {
 
 // What the dialogs of the families that show a text share.
-template <typename Values>
-class TextDialog : public PropertyDialog<Values>
+template <typename Control, typename Values>
+class TextDialog : public PropertyDialog<Control, Values>
 {
 protected:
-    using PropertyDialog<Values>::PropertyDialog;
+    using PropertyDialog<Control, Values>::PropertyDialog;
 
     // Answers the alignment.
     forms::ListField &placeRows()
@@ -26,25 +25,19 @@ protected:
 
     void fontRow()
     {
-        auto &field = this->template add<forms::FontField>("cmdFont", "lblFont", this->prompts());
-        this->addRow(field, "&Font");
-        this->bind(field, [](Values &values) {
-            return forms::FontParts<qint16, quint8>{
-                values.face,      values.curFontSize,      values.curBold,
-                values.curItalic, values.curStrikethrough, values.curUnderline};
-        });
-    }
-
-    void colourAndOpacity()
-    {
-        this->colourRows();
-        this->percent(&Values::curAlfa, {"txtAlfa", "O&pacity", "%"});
+        this->font(
+            [](Values &values) {
+                return forms::FontParts<qint16, quint8>{
+                    values.face,      values.curFontSize,      values.curBold,
+                    values.curItalic, values.curStrikethrough, values.curUnderline};
+            },
+            {"cmdFont", "&Font"}, "lblFont");
     }
 
     // The box goes with its place: next to another one, a place left of the canvas would be a right edge.
-    template <typename Control>
-    static void setArranged(Control &control, Values &values)
+    void setArranged(Values &values)
     {
+        Control &control = this->control();
         control.arrange(values);
         control.set(values);
         control.setBox(values.box);

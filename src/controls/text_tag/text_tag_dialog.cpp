@@ -33,16 +33,13 @@ TextTagValues storedValues(const TypedText &typed, const TypedText &kept)
 
 std::optional<forms::Verdict> validateTextTag(const forms::Typed &typed)
 {
-    const double alpha = typed.number("txtAlfa");
     if (typed.text("txtText").isEmpty())
         return forms::refusal(QStringLiteral("Please enter text to display"));
-    if (alpha < 0 || alpha > 100)
-        return forms::refusal(QStringLiteral("Invalid Alfa Value"));
-    return std::nullopt;
+    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"));
 }
 
 TextTagDialog::TextTagDialog(TextTag &tag)
-    : TextDialog(tag, QStringLiteral("Simple Text Properties"), typedText(tag.get())), m_tag(tag)
+    : TextDialog(tag, QStringLiteral("Simple Text Properties"), typedText(tag.get()))
 {
     forms::TextField &text = addContent();
     addGroup("Place and font");
@@ -51,7 +48,7 @@ TextTagDialog::TextTagDialog(TextTag &tag)
     fontRow();
     addGroup("Colour");
     colourAndOpacity();
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    finish(forms::applyAndCancel());
 }
 
 forms::TextField &TextTagDialog::addContent()
@@ -92,7 +89,7 @@ forms::TextField &TextTagDialog::addContent()
 void TextTagDialog::set(TypedText &values)
 {
     static_cast<TextTagValues &>(values) = storedValues(values, kept());
-    setArranged(m_tag, values);
+    setArranged(values);
 }
 
 } // namespace controls

@@ -19,7 +19,7 @@ TextTagValues storedValues(const TypedText &typed, const TypedText &kept);
 std::optional<forms::Verdict> validateTextTag(const forms::Typed &typed);
 
 // "Simple Text Properties".
-class TextTagDialog final : public TextDialog<TypedText>
+class TextTagDialog final : public TextDialog<TextTag, TypedText>
 {
 public:
     explicit TextTagDialog(TextTag &tag);
@@ -30,12 +30,9 @@ protected:
         return validateTextTag(typed);
     }
     void set(TypedText &values) override;
-    void applied() override { m_tag.AssignProperties(); }
 
 private:
     forms::TextField &addContent(); // answers the text
-
-    TextTag &m_tag;
 };
 
 } // namespace controls

@@ -69,12 +69,12 @@ std::optional<Verdict> validateTrackMap(const forms::Typed &typed, recorder::Vid
 }
 
 TrackMapDialog::TrackMapDialog(TrackMap &map)
-    : PropertyDialog(map, QStringLiteral("Track Map Properties"), map.get()), m_map(map)
+    : PropertyDialog(map, QStringLiteral("Track Map Properties"), map.get())
 {
     addBoxRows();
     addTrackRows();
     addScaleRows();
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    finish(forms::applyAndCancel());
 }
 
 void TrackMapDialog::addBoxRows()
@@ -143,8 +143,8 @@ void TrackMapDialog::addScaleRows()
 
 void TrackMapDialog::set(TrackMapValues &values)
 {
-    values = placed(values, m_map.host().VideoType(), m_map.host().screen());
-    m_map.set(values);
+    values = placed(values, host().VideoType(), host().screen());
+    control().set(values);
 }
 
 } // namespace controls

@@ -8,7 +8,7 @@ namespace controls {
 std::optional<forms::Verdict> validateTrackMap(const forms::Typed &typed, recorder::VideoStandard standard);
 
 // "Track Map Properties".
-class TrackMapDialog final : public PropertyDialog<TrackMapValues>
+class TrackMapDialog final : public PropertyDialog<TrackMap, TrackMapValues>
 {
 public:
     explicit TrackMapDialog(TrackMap &map);
@@ -16,17 +16,14 @@ public:
 protected:
     std::optional<forms::Verdict> validate(const forms::Typed &typed) const override
     {
-        return validateTrackMap(typed, m_map.host().VideoType());
+        return validateTrackMap(typed, host().VideoType());
     }
     void set(TrackMapValues &values) override;
-    void applied() override { m_map.AssignProperties(); }
 
 private:
     void addBoxRows();
     void addTrackRows();
     void addScaleRows();
-
-    TrackMap &m_map;
 };
 
 } // namespace controls

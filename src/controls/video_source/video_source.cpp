@@ -14,9 +14,6 @@ using recorder::VideoStandard;
 
 namespace {
 
-constexpr int MarkerDivisor = 8;
-constexpr int PlaceStep = 16; // pixels; a picture in the picture begins at a multiple of it
-
 using V = VideoSourceValues;
 constexpr std::array Rows{
     property<&V::curTopBorderWidth>("curTopBorderWidth", "newTopBorderWidth"),

@@ -34,8 +34,11 @@ struct VideoSourceValues : ControlValues
 
 const PropertyTable &videoSourceProperties();
 
+inline constexpr int MarkerDivisor = 8; // of the whole frame: the background's marker
+inline constexpr int PlaceStep = 16;    // pixels; a picture in the picture begins at a multiple of it
+
 // The size on a canvas of this standard, pixels: a share of the whole frame. The background, and what no
-// divisor can be, has a marker of an eighth.
+// divisor can be, has its marker's.
 QSizeF sourceSize(quint8 divisor, recorder::VideoStandard standard);
 
 // The source as it stands on a canvas of this standard: its box sized by the divisor at its coordinates.

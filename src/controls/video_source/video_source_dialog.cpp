@@ -11,7 +11,6 @@ using V = ShownVideoSource;
 namespace {
 
 constexpr int BackgroundRow = 0; // of the sizes
-constexpr int PlaceStep = 16;    // pixels, of all but the background
 constexpr double ThickestBorder = 255;
 
 struct Crops
@@ -59,7 +58,7 @@ ShownVideoSource shown(const VideoSourceValues &values)
 
 QPoint keptOnCanvas(QPoint place, const forms::Typed &typed, VideoStandard standard)
 {
-    const double share = typed.row("cmbSizeRatio") == BackgroundRow ? 1.0 / 8 : 1; // its marker
+    const double share = typed.row("cmbSizeRatio") == BackgroundRow ? 1.0 / MarkerDivisor : 1;
     const Crops crops(typed);
     return {pulledIn(place.x(), typed.number("txtWidth") * share, crops.right, recorder::CanvasWidth),
             pulledIn(place.y(), typed.number("txtHeight") * share, crops.bottom,
@@ -85,13 +84,13 @@ std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed, Vid
 }
 
 VideoSourceDialog::VideoSourceDialog(VideoSource &source)
-    : PropertyDialog(source, QStringLiteral("Video Source Properties"), shown(source.get())), m_source(source)
+    : PropertyDialog(source, QStringLiteral("Video Source Properties"), shown(source.get()))
 {
     addSize();
     addBorders();
     addCamera();
     addLimits();
-    finish({{"cmdApply", "&Apply", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    finish(forms::applyAndCancel());
 }
 
 void VideoSourceDialog::addSize()
@@ -115,8 +114,7 @@ void VideoSourceDialog::addSize()
         const bool isBackground = size.row() == BackgroundRow;
         const int divisor = size.row() < 0 ? kept().curDivisor : size.chosen();
         width.setText(QString::number(recorder::CanvasWidth / std::max(divisor, 1)));
-        height.setText(
-            QString::number(recorder::canvasHeight(m_source.host().VideoType()) / std::max(divisor, 1)));
+        height.setText(QString::number(recorder::canvasHeight(host().VideoType()) / std::max(divisor, 1)));
         mirror.setEnabled(isBackground);
         if (!isBackground)
             mirror.box().setCurrentIndex(0);
@@ -160,8 +158,7 @@ void VideoSourceDialog::addLimits()
 
 void VideoSourceDialog::set(ShownVideoSource &values)
 {
-    const QPoint place =
-        keptOnCanvas({values.curLeftCoord, values.curTopCoord}, typed(), m_source.host().VideoType());
+    const QPoint place = keptOnCanvas({values.curLeftCoord, values.curTopCoord}, typed(), host().VideoType());
     values.curLeftCoord = toInteger<qint16>(place.x());
     values.curTopCoord = toInteger<qint16>(place.y());
     values.curHue = static_cast<quint8>(values.hue);
@@ -169,7 +166,7 @@ void VideoSourceDialog::set(ShownVideoSource &values)
         values.curLowerLimit = 0;
         values.curUpperLimit = 0;
     }
-    m_source.set(values);
+    control().set(values);
 }
 
 } // namespace controls

@@ -19,7 +19,7 @@ std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed,
                                                   recorder::VideoStandard standard);
 
 // "Video Source Properties".
-class VideoSourceDialog final : public PropertyDialog<ShownVideoSource>
+class VideoSourceDialog final : public PropertyDialog<VideoSource, ShownVideoSource>
 {
 public:
     explicit VideoSourceDialog(VideoSource &source);
@@ -27,18 +27,15 @@ public:
 protected:
     std::optional<forms::Verdict> validate(const forms::Typed &typed) const override
     {
-        return validateVideoSource(typed, m_source.host().VideoType());
+        return validateVideoSource(typed, host().VideoType());
     }
     void set(ShownVideoSource &values) override;
-    void applied() override { m_source.AssignProperties(); }
 
 private:
     void addSize();
     void addBorders();
     void addCamera();
     void addLimits();
-
-    VideoSource &m_source;
 };
 
 } // namespace controls
