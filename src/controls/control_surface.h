@@ -18,8 +18,8 @@ public:
 
     // All controls of the layout, in the order in which they were created.
     virtual QList<OverlayControl *> controls() const = 0;
-    // A fresh control at the family's next free index, not shown yet; null for a family that cannot be made.
-    virtual OverlayControl *loadControl(ControlType family) = 0;
+    // A fresh control at the family's next free index, not shown yet.
+    virtual OverlayControl &loadControl(ControlType family) = 0;
     // Shows a control that was loaded, above all others.
     virtual void showControl(OverlayControl &control) = 0;
     // The overlay as the recorder would draw it, without frames and grid.

@@ -9,6 +9,8 @@
 #include "controls/track_map/track_map.h"
 #include "controls/video_source/video_source.h"
 
+#include <algorithm>
+
 namespace controls {
 
 namespace {
@@ -36,11 +38,8 @@ constexpr FactoryRow Factories[] = {
 
 ControlFactory factoryOf(ControlType type)
 {
-    for (const FactoryRow &row : Factories) {
-        if (row.type == type)
-            return row.create;
-    }
-    return nullptr;
+    // Every family has its row.
+    return std::ranges::find(Factories, type, &FactoryRow::type)->create;
 }
 
 } // namespace controls

@@ -11,7 +11,7 @@ class OverlayControl;
 
 using ControlFactory = std::shared_ptr<OverlayControl> (*)(const Family &, ControlHost &);
 
-// What makes the controls of a family; null for a family that the tool cannot place.
+// What makes the controls of a family.
 ControlFactory factoryOf(ControlType type);
 
 } // namespace controls

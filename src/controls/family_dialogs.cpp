@@ -9,6 +9,8 @@
 #include "controls/track_map/track_map_dialog.h"
 #include "controls/video_source/video_source_dialog.h"
 
+#include <algorithm>
+
 namespace controls {
 
 namespace {
@@ -41,10 +43,8 @@ constexpr DialogRow Dialogs[] = {
 
 void showPropertyDialog(OverlayControl &control)
 {
-    for (const DialogRow &row : Dialogs) {
-        if (row.type == control.family().type)
-            row.show(control);
-    }
+    // Every family has its row.
+    std::ranges::find(Dialogs, control.family().type, &DialogRow::type)->show(control);
 }
 
 } // namespace controls

@@ -21,16 +21,16 @@ struct Gathering
     platform::Screen screen;
 };
 
-// How the controls of one family become records and come back. Without the two functions, a family's controls
-// are not stored and its records build none.
+// How the controls of one family become records and come back.
 struct FamilyRecord
 {
     controls::ControlType family;
     RecordType type;
-    void (*gather)(const controls::OverlayControl &, Gathering &) = nullptr;
+    void (*gather)(const controls::OverlayControl &, Gathering &);
     // Sets place, size and properties of a fresh control.
-    void (*build)(const LayoutRecord &, controls::OverlayControl &, const Loading &) = nullptr;
+    void (*build)(const LayoutRecord &, controls::OverlayControl &, const Loading &);
     // Names the records that were made from this one for the recorder: they come back with its control.
+    // Null for none.
     void (*claimParts)(const RecordBody &, ObjectNames &) = nullptr;
     int progressSteps = 1;               // that one control counts on the progress bar
     const char *secondRefused = nullptr; // the Save command's complaint where a file holds only one

@@ -39,12 +39,10 @@ qsizetype controlCount(const Records &records)
 void buildControl(const FamilyRecord &family, const LayoutRecord &record, const Loading &load,
                   controls::ControlSurface &surface)
 {
-    OverlayControl *control = surface.loadControl(family.family);
-    if (!control)
-        return;
-    platform::skipFailures([&] { family.build(record, *control, load); });
-    surface.showControl(*control);
-    platform::skipFailures([&] { control->AssignProperties(); });
+    OverlayControl &control = surface.loadControl(family.family);
+    platform::skipFailures([&] { family.build(record, control, load); });
+    surface.showControl(control);
+    platform::skipFailures([&] { control.AssignProperties(); });
 }
 
 ObjectNames claimedParts(const Records &records)
@@ -70,7 +68,7 @@ void buildControls(const Records &records, const LoadContext &context, platform:
         for (const LayoutRecord &record : records) {
             if (record.type() != family.type)
                 continue;
-            if (family.build && !parts.contains({record.type(), record.object}))
+            if (!parts.contains({record.type(), record.object}))
                 buildControl(family, record, load, context.surface);
             progress.advance(50, 40, ++done, total);
         }

@@ -47,10 +47,7 @@ void gatherControls(Gathering &save, SaveKind kind, const ControlList &controls,
     int done = 0;
     for (const OverlayControl *control : controls) {
         const FamilyRecord &family = recordOf(control->family().type);
-        const auto gather = [&] {
-            if (family.gather)
-                family.gather(*control, save);
-        };
+        const auto gather = [&] { family.gather(*control, save); };
         if (kind == SaveKind::Command)
             gather();
         else

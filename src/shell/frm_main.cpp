@@ -1,6 +1,6 @@
 #include "shell/frm_main.h"
 
-#include "controls/factories.h"
+#include "controls/families.h"
 #include "platform/guards.h"
 #include "shell/version.h"
 #include "surface/canvas_rules.h"
@@ -81,7 +81,6 @@ void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
         QAction *add = menu.addAction(resourceIcon(QStringLiteral("families/") + QLatin1String(family.art)),
                                       QLatin1String(family.menuCaption));
         add->setObjectName(prefix + QLatin1String(family.menuItem).mid(3));
-        add->setEnabled(controls::factoryOf(family.type) != nullptr);
         const controls::ControlType type = family.type;
         connect(add, &QAction::triggered, this, [this, type] {
             platform::reportFailures(m_prompts, [&] { m_design->addControlAtLastPosition(type); });

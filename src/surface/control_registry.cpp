@@ -23,18 +23,15 @@ struct Departure final : QObject
 
 } // namespace
 
-OverlayControl *ControlRegistry::loadControl(ControlType type, controls::ControlHost &host)
+OverlayControl &ControlRegistry::loadControl(ControlType type, controls::ControlHost &host)
 {
-    const controls::ControlFactory create = controls::factoryOf(type);
-    if (!create)
-        return nullptr;
     int index = count(type);
     while (m_indices[type].contains(index))
         ++index;
-    const auto control = create(*controls::familyOf(type), host);
+    const auto control = controls::factoryOf(type)(*controls::familyOf(type), host);
     control->setIndex(index);
     add(control);
-    return control.get();
+    return *control;
 }
 
 void ControlRegistry::add(const std::shared_ptr<OverlayControl> &control)

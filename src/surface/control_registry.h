@@ -22,9 +22,8 @@ public:
     // From the bottom to the top.
     const QList<controls::OverlayControl *> &stack() const { return m_stack; }
 
-    // Creates a control of the family at the next free index; it is not shown yet. Null for a family that
-    // cannot be made.
-    controls::OverlayControl *loadControl(controls::ControlType family, controls::ControlHost &host);
+    // Creates a control of the family at the next free index; it is not shown yet.
+    controls::OverlayControl &loadControl(controls::ControlType family, controls::ControlHost &host);
     void add(const std::shared_ptr<controls::OverlayControl> &control);
     // How many elements the family has, its template counted.
     int count(controls::ControlType family) const;

@@ -83,7 +83,7 @@ void frmInterface::setCaption(const QString &name)
 
 QList<OverlayControl *> frmInterface::controls() const { return m_canvas->registry().controls(); }
 
-OverlayControl *frmInterface::loadControl(controls::ControlType family)
+OverlayControl &frmInterface::loadControl(controls::ControlType family)
 {
     return m_canvas->registry().loadControl(family, *this);
 }
@@ -97,25 +97,23 @@ void frmInterface::showControl(OverlayControl &control)
 
 void frmInterface::addControl(controls::ControlType family, QPointF twips)
 {
-    OverlayControl *control = loadControl(family);
-    if (!control)
-        return;
-    const QSizeF size = control->startSize();
+    OverlayControl &control = loadControl(family);
+    const QSizeF size = control.startSize();
     const auto place = [&](float left, float top) {
-        Box box = control->box();
+        Box box = control.box();
         box.Left = left;
         box.Top = top;
-        const Box clamped = clampedToCanvas(box, control->overhang(), rules());
-        control->moveTo(clamped.Left, clamped.Top);
+        const Box clamped = clampedToCanvas(box, control.overhang(), rules());
+        control.moveTo(clamped.Left, clamped.Top);
     };
-    control->setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
+    control.setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
     place(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
-    skipFailures([&] { control->applyInitialProperties(); });
-    place(control->box().Left, control->box().Top); // the initial properties may have sized it
-    control->updatePosition();
-    showControl(*control);
+    skipFailures([&] { control.applyInitialProperties(); });
+    place(control.box().Left, control.box().Top); // the initial properties may have sized it
+    control.updatePosition();
+    showControl(control);
     m_canvas->setFocus();
-    m_canvas->choose(*control);
+    m_canvas->choose(control);
     emit controlsChanged();
     emit designChanged();
 }

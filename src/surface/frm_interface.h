@@ -66,7 +66,7 @@ public:
 
     // ControlSurface
     QList<controls::OverlayControl *> controls() const override;
-    controls::OverlayControl *loadControl(controls::ControlType family) override;
+    controls::OverlayControl &loadControl(controls::ControlType family) override;
     void showControl(controls::OverlayControl &control) override;
     QImage renderPreview() const override;
     void setVideoStandard(recorder::VideoStandard standard) override;

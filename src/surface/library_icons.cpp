@@ -58,10 +58,9 @@ QRect withMargin(const QRect &control)
     return square;
 }
 
-QImage standardPicture(const controls::Family &family, controls::ControlFactory create,
-                       controls::ControlHost &host)
+QImage standardPicture(const controls::Family &family, controls::ControlHost &host)
 {
-    const auto control = create(family, host);
+    const auto control = controls::factoryOf(family.type)(family, host);
     const float side = host.screen().toTwipsX(PictureSide);
     const QSizeF start = control->startSize();
     const auto width = static_cast<float>(start.width());
@@ -90,12 +89,9 @@ void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders
     const std::span<const controls::Family> families = controls::families();
     for (std::size_t i = 0; i < families.size(); ++i) {
         const controls::Family &family = families[i];
-        if (const controls::ControlFactory create = controls::factoryOf(family.type)) {
-            platform::skipFailures([&] {
-                standardPicture(family, create, host)
-                    .save(folders.cache + QLatin1String(family.iconFile), "BMP");
-            });
-        }
+        platform::skipFailures([&] {
+            standardPicture(family, host).save(folders.cache + QLatin1String(family.iconFile), "BMP");
+        });
         scope.advance(0, 100, static_cast<qsizetype>(i) + 1, static_cast<qsizetype>(families.size()));
     }
 }

@@ -1,6 +1,6 @@
 #include "surface/library_panel.h"
 
-#include "controls/factories.h"
+#include "controls/families.h"
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
@@ -19,22 +19,13 @@ constexpr int ListShare = 2;
 using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
 using List = DragSource<QListWidget, QListWidgetItem>;
 
-// Families that cannot be placed are shown but not dragged.
-QString draggedKey(const QString &key)
-{
-    const controls::Family *family = controls::familyOfKey(key);
-    return family && controls::factoryOf(family->type) ? key : QString();
-}
-
 } // namespace
 
 LibraryPanel::LibraryPanel(const platform::Folders &folders)
     : QSplitter(Qt::Horizontal), m_folders(folders),
-      m_tree(
-          new Tree(LibraryMime,
-                   [](const QTreeWidgetItem &item) { return draggedKey(item.data(0, KeyRole).toString()); })),
-      m_list(new List(LibraryMime,
-                      [](const QListWidgetItem &item) { return draggedKey(item.data(KeyRole).toString()); }))
+      m_tree(new Tree(LibraryMime,
+                      [](const QTreeWidgetItem &item) { return item.data(0, KeyRole).toString(); })),
+      m_list(new List(LibraryMime, [](const QListWidgetItem &item) { return item.data(KeyRole).toString(); }))
 {
     setChildrenCollapsible(false);
     m_tree->setObjectName(QStringLiteral("trvControl"));
@@ -75,14 +66,7 @@ void LibraryPanel::loadControlTree()
     }
 }
 
-void LibraryPanel::showFirstEntries()
-{
-    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *root = m_tree->topLevelItem(i);
-        if (!draggedKey(root->data(0, KeyRole).toString()).isEmpty())
-            return m_tree->setCurrentItem(root);
-    }
-}
+void LibraryPanel::showFirstEntries() { m_tree->setCurrentItem(m_tree->topLevelItem(0)); }
 
 void LibraryPanel::restoreBar(const platform::SettingsFile &file, const platform::Screen &screen)
 {
@@ -122,7 +106,7 @@ void LibraryPanel::loadControlList()
     m_list->clear();
     const QString key = selectedKey();
     const controls::Family *family = controls::familyOfKey(key);
-    if (!family)
+    if (!family) // nothing is chosen
         return;
     // A picture that is missing leaves the entry without one.
     const QPixmap picture(m_folders.cache + QLatin1String(family->iconFile));

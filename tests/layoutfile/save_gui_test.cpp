@@ -16,7 +16,10 @@ struct BlindSurface final : controls::ControlSurface
     explicit BlindSurface(surface::frmInterface &shown) : design(shown) {}
 
     QList<controls::OverlayControl *> controls() const override { return design.controls(); }
-    controls::OverlayControl *loadControl(controls::ControlType) override { return nullptr; }
+    controls::OverlayControl &loadControl(controls::ControlType family) override
+    {
+        return design.loadControl(family);
+    }
     void showControl(controls::OverlayControl &) override {}
     QImage renderPreview() const override { return {}; }
     void setVideoStandard(VideoStandard) override {}
