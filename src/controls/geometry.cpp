@@ -38,6 +38,23 @@ float innerHeight(const Box &box, const platform::Screen &screen)
     return screen.toPixelsY(box.Height - BothFrames);
 }
 
+Box framed(const QRectF &content, const platform::Screen &screen)
+{
+    return {screen.toTwipsX(static_cast<float>(content.x())) - FrameTwips,
+            screen.toTwipsY(static_cast<float>(content.y())) - FrameTwips,
+            screen.toTwipsX(static_cast<float>(content.width())) + BothFrames,
+            screen.toTwipsY(static_cast<float>(content.height())) + BothFrames};
+}
+
+QPointF pulledInto(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
+                   const platform::Screen &screen)
+{
+    return {pulledInto(static_cast<float>(place.x()), screen.toPixelsX(box.Width), screen.toPixelsX(frame),
+                       recorder::CanvasWidth),
+            pulledInto(static_cast<float>(place.y()), screen.toPixelsY(box.Height), screen.toPixelsY(frame),
+                       static_cast<float>(recorder::canvasHeight(standard)))};
+}
+
 Box withSize(const Box &box, Handle handle, float width, float height)
 {
     return {movesLeft(handle) ? box.right() - width : box.Left,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/screen.h"
+#include "recorder/recorder_settings.h"
 
 #include <QPointF>
 #include <QRect>
@@ -33,6 +34,8 @@ QRect pixelRect(const Box &box, const platform::Screen &screen);
 // The extent of what lies within the frame, canvas pixels.
 float innerWidth(const Box &box, const platform::Screen &screen);
 float innerHeight(const Box &box, const platform::Screen &screen);
+// The box of a control whose content stands here, canvas pixels.
+Box framed(const QRectF &content, const platform::Screen &screen);
 
 // Grips in slot order.
 enum class Handle : quint8 {
@@ -63,12 +66,17 @@ constexpr bool movesBottom(Handle h)
     return h == Handle::BottomLeft || h == Handle::BottomMiddle || h == Handle::BottomRight;
 }
 
-// One axis of the rule that keeps a control on the canvas: where its content begins once the box does not end
-// beyond it. All in pixels, `frame` being the editing frame.
+// One axis of the rule that keeps a control on the canvas: where it begins, `frame` within its box, once it
+// does not end beyond it. All in pixels.
 constexpr float pulledInto(float position, float outerSize, float frame, float canvas)
 {
     return position + outerSize - frame > canvas ? canvas - outerSize + frame : position;
 }
+
+// The same for both axes of a box that begins `frame` twips before `place`, on a canvas of this standard.
+// Canvas pixels.
+QPointF pulledInto(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
+                   const platform::Screen &screen);
 
 // The box at another size: the edges that the grip moves give way, the others stand.
 Box withSize(const Box &box, Handle handle, float width, float height);

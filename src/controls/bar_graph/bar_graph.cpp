@@ -71,13 +71,10 @@ BarGraphValues placed(BarGraphValues values, qint16 length, recorder::VideoStand
         if (length > 0)
             box.Height = screen.toTwipsY(length) + BothFrames;
     }
-    const float x = pulledInto(screen.toPixelsX(values.curLeft), screen.toPixelsX(box.Width),
-                               screen.toPixelsX(FrameTwips), recorder::CanvasWidth);
-    const float y =
-        pulledInto(screen.toPixelsY(values.curTop), screen.toPixelsY(box.Height),
-                   screen.toPixelsY(FrameTwips), static_cast<float>(recorder::canvasHeight(standard)));
-    values.curLeft = toInteger<qint16>(screen.toTwipsX(x));
-    values.curTop = toInteger<qint16>(screen.toTwipsY(y));
+    const QPointF corner = pulledInto({screen.toPixelsX(values.curLeft), screen.toPixelsY(values.curTop)},
+                                      box, FrameTwips, standard, screen);
+    values.curLeft = toInteger<qint16>(screen.toTwipsX(static_cast<float>(corner.x())));
+    values.curTop = toInteger<qint16>(screen.toTwipsY(static_cast<float>(corner.y())));
     box.Left = values.curLeft - FrameTwips;
     box.Top = values.curTop - FrameTwips;
     return values;

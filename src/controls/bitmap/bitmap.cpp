@@ -3,13 +3,10 @@
 #include "controls/bitmap/picture_copies.h"
 #include "controls/complexity.h"
 #include "graphics/composer.h"
-#include "platform/guards.h"
 
 namespace controls {
 
-using common::toInteger;
 using graphics::PlanePicture;
-using platform::skipFailures;
 
 namespace {
 
@@ -83,13 +80,6 @@ QSize planeSize(const Box &box, const platform::Screen &screen)
             common::toIntegerClamped<qint16>(double{innerHeight(box, screen)})};
 }
 
-// The outer corner, in canvas pixels, of a bitmap that stands at its coordinates.
-QPointF cornerOf(const BitmapValues &values, const platform::Screen &screen)
-{
-    return QPointF(values.curLeftCoord, values.curTopCoord) -
-           screen.toPixels(QPointF(double{FrameTwips}, double{FrameTwips}));
-}
-
 } // namespace
 
 const PropertyTable &bitmapProperties()
@@ -100,38 +90,17 @@ const PropertyTable &bitmapProperties()
 
 BitmapValues placed(BitmapValues values, const platform::Screen &screen)
 {
-    Box &box = values.box;
     const QSize size = values.picture.planes().size();
-    if (!size.isEmpty()) {
-        box.Width = screen.toTwipsX(static_cast<float>(size.width())) + BothFrames;
-        box.Height = screen.toTwipsY(static_cast<float>(size.height())) + BothFrames;
-    }
-    box.Left = screen.toTwipsX(values.curLeftCoord) - FrameTwips;
-    box.Top = screen.toTwipsY(values.curTopCoord) - FrameTwips;
+    const Box box = framed(QRect({values.curLeftCoord, values.curTopCoord}, size), screen);
+    values.box = size.isEmpty() ? Box{box.Left, box.Top, values.box.Width, values.box.Height} : box;
     return values;
 }
 
 void Bitmap::AssignProperties()
 {
     setBox(placed(m_values, screen()).box);
-    host().Reposition(*this, cornerOf(m_values, screen()));
+    raiseReposition();
     host().restack(*this, m_values.curZorder != 0);
-}
-
-void Bitmap::updatePosition()
-{
-    skipFailures(
-        [&] { m_values.curLeftCoord = toInteger<qint16>(screen().toPixelsX(box().Left + FrameTwips)); });
-    skipFailures(
-        [&] { m_values.curTopCoord = toInteger<qint16>(screen().toPixelsY(box().Top + FrameTwips)); });
-}
-
-void Bitmap::nudge(int dx, int dy)
-{
-    const auto left = toInteger<qint16>(m_values.curLeftCoord + dx);
-    m_values.curTopCoord = toInteger<qint16>(m_values.curTopCoord + dy);
-    m_values.curLeftCoord = left;
-    host().Reposition(*this, cornerOf(m_values, screen()));
 }
 
 void Bitmap::applyInitialProperties()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/overlay_control.h"
+#include "controls/placed_control.h"
 #include "graphics/plane_picture.h"
 
 namespace controls {
@@ -30,15 +30,13 @@ const PropertyTable &bitmapProperties();
 // The bitmap as it stands on the canvas: its box sized by its planes, if it has any, at its coordinates.
 BitmapValues placed(BitmapValues values, const platform::Screen &screen);
 
-class Bitmap final : public ControlOf<BitmapValues>
+class Bitmap final : public ControlOf<BitmapValues, PlacedControl>
 {
 public:
     using ControlOf::ControlOf;
 
     void AssignProperties() override;
 
-    void updatePosition() override;
-    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1650, 1650}; }
     void paint(Composition &onto) const override;
@@ -48,6 +46,7 @@ public:
 protected:
     const PropertyTable &properties() const override { return bitmapProperties(); }
     GripSet grips() const override { return GripSet::None; } // the picture decides the size
+    Corner corner() override { return {m_values.curLeftCoord, m_values.curTopCoord}; }
     void settle() override;
 };
 

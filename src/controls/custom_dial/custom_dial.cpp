@@ -3,6 +3,8 @@
 #include "graphics/composer.h"
 #include "platform/guards.h"
 
+#include <algorithm>
+
 namespace controls {
 
 using common::toInteger;
@@ -122,15 +124,12 @@ CustomDialValues placed(CustomDialValues values, recorder::VideoStandard standar
     const int height = sideOf(values.curHeight, innerHeight(box, screen), LargestFace.height());
     values.curWidth = toInteger<qint16>(width);
     values.curHeight = toInteger<qint16>(height);
-    box.Width = screen.toTwipsX(values.curWidth) + BothFrames;
-    box.Height = screen.toTwipsY(values.curHeight) + BothFrames;
-    values.curCenterX = toInteger<qint16>(pulledInto(values.curCenterX, screen.toPixelsX(box.Width),
-                                                     screen.toPixelsX(FrameTwips), recorder::CanvasWidth));
-    values.curCenterY = toInteger<qint16>(pulledInto(values.curCenterY, screen.toPixelsY(box.Height),
-                                                     screen.toPixelsY(FrameTwips),
-                                                     static_cast<float>(recorder::canvasHeight(standard))));
-    box.Left = screen.toTwipsX(values.curCenterX) - FrameTwips;
-    box.Top = screen.toTwipsY(values.curCenterY) - FrameTwips;
+    const QPoint wanted(values.curCenterX, values.curCenterY);
+    box = framed(QRect(wanted, QSize(width, height)), screen);
+    const QPointF corner = pulledInto(wanted, box, FrameTwips, standard, screen);
+    values.curCenterX = toInteger<qint16>(corner.x());
+    values.curCenterY = toInteger<qint16>(corner.y());
+    box = framed(QRect(values.curCenterX, values.curCenterY, width, height), screen);
     return values;
 }
 
@@ -165,26 +164,12 @@ void CustomDial::keepFace(const graphics::PlanePicture &face)
     m_face = {m_values, faceRect(box(), screen()).size(), face};
 }
 
-void CustomDial::raiseReposition()
-{
-    host().Reposition(*this, QPointF(m_values.curCenterX, m_values.curCenterY) -
-                                 screen().toPixels(QPointF(FrameTwips, FrameTwips)));
-}
-
 void CustomDial::AssignProperties()
 {
     const CustomDialValues standing = placed(m_values, host().VideoType(), screen());
     set(standing);
     setBox(standing.box);
     raiseReposition();
-}
-
-void CustomDial::updatePosition()
-{
-    skipFailures(
-        [&] { m_values.curCenterX = toInteger<qint16>(screen().toPixelsX(box().Left + FrameTwips)); });
-    skipFailures(
-        [&] { m_values.curCenterY = toInteger<qint16>(screen().toPixelsY(box().Top + FrameTwips)); });
 }
 
 void CustomDial::sizeChanged()
@@ -214,13 +199,6 @@ void CustomDial::applyInitialProperties()
     set(CustomDialValues());
     sizeChanged();
     updatePosition();
-}
-
-void CustomDial::nudge(int dx, int dy)
-{
-    m_values.curCenterX = toInteger<qint16>(m_values.curCenterX + dx);
-    m_values.curCenterY = toInteger<qint16>(m_values.curCenterY + dy);
-    raiseReposition();
 }
 
 void CustomDial::paint(Composition &onto) const { paintDial(m_values, face(), host(), onto); }

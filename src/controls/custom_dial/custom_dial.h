@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/gauge/gauge.h"
+#include "controls/placed_control.h"
 #include "graphics/dial_face.h"
 #include "graphics/plane_picture.h"
 
@@ -38,7 +39,7 @@ graphics::PlanePicture renderedFace(const graphics::DialLook &look, QSize size, 
 void paintDial(const CustomDialValues &values, const graphics::PlanePicture &face, const ControlHost &host,
                Composition &onto);
 
-class CustomDial final : public ControlOf<CustomDialValues>
+class CustomDial final : public ControlOf<CustomDialValues, PlacedControl>
 {
 public:
     using ControlOf::ControlOf;
@@ -50,12 +51,10 @@ public:
 
     void AssignProperties() override;
 
-    void updatePosition() override;
     void applyResize() override { updatePosition(); }
     Box resizedBox(const Box &wanted, Handle handle) const override;
     void standardChanged() override;
     void fitCanvasHeight(float height) override { pullUp(height); }
-    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {3150, 3150}; }
     void paint(Composition &onto) const override;
@@ -66,6 +65,7 @@ protected:
     const PropertyTable &properties() const override { return customDialProperties(); }
     void sizeChanged() override;
     void settle() override { sizeChanged(); }
+    Corner corner() override { return {m_values.curCenterX, m_values.curCenterY}; }
 
 private:
     // A face, and what it was made for.
@@ -75,8 +75,6 @@ private:
         QSize size;
         graphics::PlanePicture picture;
     };
-
-    void raiseReposition();
 
     mutable Face m_face;
 };

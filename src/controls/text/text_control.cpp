@@ -1,25 +1,18 @@
 #include "controls/text/text_control.h"
 
 #include "graphics/modDrawFont.h"
-#include "platform/guards.h"
 
 #include <algorithm>
 
 namespace controls {
 
 using common::toInteger;
-using platform::skipFailures;
 
 namespace {
 
 float contentLeft(const Box &box, const platform::Screen &screen)
 {
     return screen.toPixelsX(box.Left + FrameTwips);
-}
-
-float contentTop(const Box &box, const platform::Screen &screen)
-{
-    return screen.toPixelsY(box.Top + FrameTwips);
 }
 
 // A text without extent leaves the size as it is, but for a control that has none yet.
@@ -39,12 +32,6 @@ bool isRightEdge(const TextValues &values, const platform::Screen &screen)
            values.curCenterX != common::toIntegerClamped<qint16>(contentLeft(values.box, screen));
 }
 
-// The outer corner, in canvas pixels, of a text at its place.
-QPointF cornerOf(const TextValues &values, const platform::Screen &screen)
-{
-    return QPointF(values.curCenterX, values.curCenterY) - screen.toPixels({FrameTwips, FrameTwips});
-}
-
 } // namespace
 
 graphics::FontRequest TextValues::font() const
@@ -59,12 +46,10 @@ void place(TextValues &values, QSize extent, recorder::VideoStandard standard, c
     box.Height = sized(box.Height, screen.toTwipsY(static_cast<float>(extent.height())));
     const float width = innerWidth(box, screen);
     const float left = isRightEdge(values, screen) ? -values.curCenterX - width : values.curCenterX;
-    const float x =
-        pulledInto(left, screen.toPixelsX(box.Width), screen.toPixelsX(FrameTwips), recorder::CanvasWidth);
-    const float y = pulledInto(values.curCenterY, screen.toPixelsY(box.Height), screen.toPixelsY(FrameTwips),
-                               static_cast<float>(recorder::canvasHeight(standard)));
-    const auto centreX = toInteger<qint16>(std::max(x, lowestLeft(values, width)));
-    const auto centreY = toInteger<qint16>(y);
+    const QPointF corner =
+        pulledInto({left, static_cast<double>(values.curCenterY)}, box, FrameTwips, standard, screen);
+    const auto centreX = toInteger<qint16>(std::max(corner.x(), double{lowestLeft(values, width)}));
+    const auto centreY = toInteger<qint16>(corner.y());
     box.Left = screen.toTwipsX(centreX) - FrameTwips;
     box.Top = screen.toTwipsY(centreY) - FrameTwips;
     values.curCenterX = centreX;
@@ -93,14 +78,7 @@ void TextControl::takeBox()
 void TextControl::AssignProperties()
 {
     takeBox();
-    host().Reposition(*this, cornerOf(textValues(), screen()));
-}
-
-void TextControl::updatePosition()
-{
-    TextValues &values = textValues();
-    skipFailures([&] { values.curCenterX = toInteger<qint16>(contentLeft(box(), screen())); });
-    skipFailures([&] { values.curCenterY = toInteger<qint16>(contentTop(box(), screen())); });
+    raiseReposition();
 }
 
 void TextControl::nudge(int dx, int dy)
@@ -109,7 +87,7 @@ void TextControl::nudge(int dx, int dy)
     const auto left = static_cast<float>(values.curCenterX + dx);
     values.curCenterX = toInteger<qint16>(std::max(left, lowestLeft(values, innerWidth(box(), screen()))));
     values.curCenterY = toInteger<qint16>(values.curCenterY + dy);
-    host().Reposition(*this, cornerOf(values, screen()));
+    raiseReposition();
 }
 
 void TextControl::paint(Composition &onto) const

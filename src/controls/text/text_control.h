@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/overlay_control.h"
+#include "controls/placed_control.h"
 
 namespace controls {
 
@@ -45,17 +45,16 @@ void place(TextValues &values, QSize extent, recorder::VideoStandard standard,
            const platform::Screen &screen);
 
 // A control that shows a line of text. The text decides its size, so it has no grips.
-class TextControl : public OverlayControl
+class TextControl : public PlacedControl
 {
 public:
-    using OverlayControl::OverlayControl;
+    using PlacedControl::PlacedControl;
 
     // Works out what follows from the values: the text that is shown, its size and its place. Throws
     // RunTimeError when a place does not fit.
     void arrange(TextValues &values) const;
     void AssignProperties() override;
 
-    void updatePosition() override;
     void fitCanvasHeight(float height) override { pullUp(height); } // the text decides the size
     void nudge(int dx, int dy) override;
     QSizeF startSize() const override { return {BothFrames, BothFrames}; } // until its text is known
@@ -67,6 +66,7 @@ protected:
     // Points; serves where the values' font size does not.
     virtual int usualSize() const = 0;
     GripSet grips() const override { return GripSet::None; }
+    Corner corner() override { return {textValues().curCenterX, textValues().curCenterY}; }
     void settle() override { AssignProperties(); }
     // Takes the box that arrange() works out.
     void takeBox();

@@ -50,18 +50,13 @@ TrackMapValues placed(TrackMapValues values, recorder::VideoStandard standard, c
     Box &box = values.box;
     box.Width = screen.toTwipsX(values.curWidth) + BothFrames;
     box.Height = screen.toTwipsY(values.curHeight) + BothFrames;
-    values.curLeftCoord = toInteger<qint16>(
-        pulledInto(values.curLeftCoord, screen.toPixelsX(box.Width), 0, recorder::CanvasWidth));
-    values.curTopCoord = toInteger<qint16>(pulledInto(values.curTopCoord, screen.toPixelsY(box.Height), 0,
-                                                      static_cast<float>(recorder::canvasHeight(standard))));
+    const QPointF corner =
+        pulledInto(QPoint(values.curLeftCoord, values.curTopCoord), box, 0, standard, screen);
+    values.curLeftCoord = toInteger<qint16>(corner.x());
+    values.curTopCoord = toInteger<qint16>(corner.y());
     box.Left = screen.toTwipsX(values.curLeftCoord);
     box.Top = screen.toTwipsY(values.curTopCoord);
     return values;
-}
-
-void TrackMap::raiseReposition()
-{
-    host().Reposition(*this, QPointF(m_values.curLeftCoord, m_values.curTopCoord));
 }
 
 void TrackMap::AssignProperties()
@@ -70,12 +65,6 @@ void TrackMap::AssignProperties()
     set(standing);
     setBox(standing.box);
     raiseReposition();
-}
-
-void TrackMap::updatePosition()
-{
-    skipFailures([&] { m_values.curLeftCoord = toInteger<qint16>(screen().toPixelsX(box().Left)); });
-    skipFailures([&] { m_values.curTopCoord = toInteger<qint16>(screen().toPixelsY(box().Top)); });
 }
 
 void TrackMap::sizeChanged()
@@ -89,13 +78,6 @@ void TrackMap::applyInitialProperties()
     set(TrackMapValues());
     sizeChanged();
     updatePosition();
-}
-
-void TrackMap::nudge(int dx, int dy)
-{
-    m_values.curLeftCoord = toInteger<qint16>(m_values.curLeftCoord + dx);
-    m_values.curTopCoord = toInteger<qint16>(m_values.curTopCoord + dy);
-    raiseReposition();
 }
 
 // The recorder draws in the outer box. On the canvas the editing frame covers its edges, so the border stands

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/overlay_control.h"
+#include "controls/placed_control.h"
 
 namespace controls {
 
@@ -38,17 +38,15 @@ const PropertyTable &trackMapProperties();
 TrackMapValues placed(TrackMapValues values, recorder::VideoStandard standard,
                       const platform::Screen &screen);
 
-class TrackMap final : public ControlOf<TrackMapValues>
+class TrackMap final : public ControlOf<TrackMapValues, PlacedControl>
 {
 public:
     using ControlOf::ControlOf;
 
     void AssignProperties() override;
 
-    void updatePosition() override;
     void applyResize() override { updatePosition(); }
     void fitCanvasHeight(float height) override { pullUp(height); }
-    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1650, 1650}; }
     void paint(Composition &onto) const override;
@@ -59,9 +57,8 @@ protected:
     const PropertyTable &properties() const override { return trackMapProperties(); }
     void sizeChanged() override;
     void settle() override { sizeChanged(); }
-
-private:
-    void raiseReposition();
+    Corner corner() override { return {m_values.curLeftCoord, m_values.curTopCoord}; }
+    float inset() const override { return 0; }
 };
 
 } // namespace controls

@@ -1,15 +1,12 @@
 #include "controls/video_source/video_source.h"
 
 #include "controls/complexity.h"
-#include "platform/guards.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace controls {
 
-using common::toInteger;
-using platform::skipFailures;
 using recorder::VideoStandard;
 
 namespace {
@@ -96,17 +93,6 @@ void VideoSource::AssignProperties()
     raiseReposition();
 }
 
-void VideoSource::raiseReposition()
-{
-    host().Reposition(*this, QPointF(m_values.curLeftCoord, m_values.curTopCoord));
-}
-
-void VideoSource::updatePosition()
-{
-    skipFailures([&] { m_values.curLeftCoord = toInteger<qint16>(screen().toPixelsX(box().Left)); });
-    skipFailures([&] { m_values.curTopCoord = toInteger<qint16>(screen().toPixelsY(box().Top)); });
-}
-
 void VideoSource::standardChanged()
 {
     Box sized = placed(m_values, host().VideoType(), screen()).box;
@@ -130,14 +116,6 @@ QMarginsF VideoSource::overhang() const
             double{screen().toTwipsY(m_values.curTopBorderWidth)},
             double{screen().toTwipsX(m_values.curRightBorderWidth)},
             double{screen().toTwipsY(m_values.curBottomBorderWidth)}};
-}
-
-void VideoSource::nudge(int dx, int dy)
-{
-    const auto left = toInteger<qint16>(m_values.curLeftCoord + dx);
-    m_values.curTopCoord = toInteger<qint16>(m_values.curTopCoord + dy);
-    m_values.curLeftCoord = left;
-    raiseReposition();
 }
 
 QSizeF VideoSource::startSize() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/overlay_control.h"
+#include "controls/placed_control.h"
 
 namespace controls {
 
@@ -45,18 +45,16 @@ QSizeF sourceSize(quint8 divisor, recorder::VideoStandard standard);
 VideoSourceValues placed(VideoSourceValues values, recorder::VideoStandard standard,
                          const platform::Screen &screen);
 
-class VideoSource final : public ControlOf<VideoSourceValues>
+class VideoSource final : public ControlOf<VideoSourceValues, PlacedControl>
 {
 public:
     using ControlOf::ControlOf;
 
     void AssignProperties() override;
 
-    void updatePosition() override;
     void standardChanged() override;
     void fitCanvasHeight(float height) override;
     QMarginsF overhang() const override;
-    void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override;
     void paint(Composition &onto) const override;
@@ -67,9 +65,8 @@ public:
 protected:
     const PropertyTable &properties() const override { return videoSourceProperties(); }
     GripSet grips() const override { return GripSet::None; } // the divisor decides the size
-
-private:
-    void raiseReposition();
+    Corner corner() override { return {m_values.curLeftCoord, m_values.curTopCoord}; }
+    float inset() const override { return 0; }
 };
 
 } // namespace controls
