@@ -2,6 +2,7 @@
 #include "layoutfile/family_records.h"
 #include "layoutfile/field_link.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace layoutfile {
@@ -17,6 +18,7 @@ using controls::FrameTwips;
 void link(auto &values, auto &record, auto field)
 {
     linkScale(values, record, field);
+    linkColour(values, record, field);
     field(values.curAlfa, record.alpha);
     field(values.curBarWidth, record.barWidth);
 }
@@ -58,13 +60,11 @@ controls::BarType typeOf(const BarGraphRecord &record)
 Box boxOf(const BarGraphRecord &record, const platform::Screen &screen)
 {
     const bool isHorizontal = typeOf(record) == controls::BarType::Horizontal;
-    const auto width =
-        static_cast<float>(isHorizontal ? std::abs(record.endX - record.startX) : record.barWidth);
-    const auto height =
-        static_cast<float>(isHorizontal ? record.barWidth : std::abs(record.endY - record.startY));
-    return {screen.toTwipsX(std::min(record.startX, record.endX)) - FrameTwips,
-            screen.toTwipsY(std::min(record.startY, record.endY)) - FrameTwips,
-            screen.toTwipsX(width) + controls::BothFrames, screen.toTwipsY(height) + controls::BothFrames};
+    const int width = isHorizontal ? std::abs(record.endX - record.startX) : record.barWidth;
+    const int height = isHorizontal ? record.barWidth : std::abs(record.endY - record.startY);
+    return controls::framed(
+        QRect(std::min(record.startX, record.endX), std::min(record.startY, record.endY), width, height),
+        screen);
 }
 
 void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)

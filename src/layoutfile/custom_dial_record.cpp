@@ -12,15 +12,12 @@ using controls::CustomDialValues;
 
 void link(auto &values, auto &record, auto field)
 {
-    field(values.curVarID, record.variable);
+    linkScale(values, record, field);
     field(values.curPointerLength, record.pointerLength);
     field(values.curPointerWidth, record.pointerWidth);
     field(values.curPointerColour, record.pointerColour);
     field(values.curMinAngle, record.minAngle);
     field(values.curMaxAngle, record.maxAngle);
-    field(values.curMin, record.min);
-    field(values.curMax, record.max);
-    field(values.curDefaultVal, record.defaultValue);
     field(values.curAlfa, record.alpha);
     field(values.curTicStyle, record.ticStyle);
     field(values.curTicDelta, record.ticDelta);
@@ -79,18 +76,14 @@ void gather(const controls::OverlayControl &control, Gathering &save)
 void build(const LayoutRecord &stored, controls::OverlayControl &control, const Loading &load)
 {
     const auto &record = std::get<CustomDialRecord>(stored.body);
-    const platform::Screen &screen = load.screen;
     CustomDialValues values;
     link(values, record, FromRecord());
     auto &dial = static_cast<CustomDial &>(control);
     dial.set(values);
-    dial.setBox({screen.toTwipsX(record.left) - controls::FrameTwips,
-                 screen.toTwipsY(record.top) - controls::FrameTwips,
-                 screen.toTwipsX(record.width) + controls::BothFrames,
-                 screen.toTwipsY(record.height) + controls::BothFrames});
+    dial.setBox(controls::framed(QRect(record.left, record.top, record.width, record.height), load.screen));
     dial.updatePosition();
     const StoredImage *face = load.imageOf(record.bitmapObject);
-    if (face && face->picture.planes().size() == controls::faceRect(dial.box(), screen).size())
+    if (face && face->picture.planes().size() == controls::faceRect(dial.box(), load.screen).size())
         dial.keepFace(face->picture);
 }
 

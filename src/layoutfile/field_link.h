@@ -52,13 +52,18 @@ struct FromRecord
     }
 };
 
-// The scale of a shown variable, and the colour that may follow another one.
+// The scale of a shown variable.
 void linkScale(auto &values, auto &record, auto field)
 {
     field(values.curVarID, record.variable);
     field(values.curMin, record.min);
     field(values.curMax, record.max);
     field(values.curDefaultVal, record.defaultValue);
+}
+
+// A colour, and the variable that may change it.
+void linkColour(auto &values, auto &record, auto field)
+{
     field(values.curColour, record.colour);
     field(values.curColourVariable, record.colourVariable);
     field(values.curColourVarMin, record.colourVariableMin);

@@ -13,6 +13,7 @@ using controls::GaugeValues;
 void link(auto &values, auto &record, auto field)
 {
     linkScale(values, record, field);
+    linkColour(values, record, field);
     field(values.curCenterX, record.centreX);
     field(values.curCenterY, record.centreY);
     field(values.curPointerLength, record.pointerLength);

@@ -12,11 +12,8 @@ namespace layoutfile {
 void linkText(auto &values, auto &record, auto field)
 {
     linkLimits(values, record, field);
+    linkColour(values, record, field);
     field(values.curAlfa, record.alpha);
-    field(values.curColour, record.colour);
-    field(values.curColourVariable, record.colourVariable);
-    field(values.curColourVarMin, record.colourVariableMin);
-    field(values.curColourVarMax, record.colourVariableMax);
 }
 
 // `usualSize`, in points, is the family's.
