@@ -58,8 +58,8 @@ bool insideDeadZone(QPointF start, QPointF now, const platform::Screen &screen)
 
 Box clampedToCanvas(const Box &box, const QMarginsF &overhang, const CanvasRules &rules)
 {
-    const auto pulled = [](float place, float size, float canvas, double before, double behind) {
-        const float last = canvas + static_cast<float>(behind) - size;
+    const auto pulled = [](float place, float size, float canvas, double before, double after) {
+        const float last = canvas + static_cast<float>(after) - size;
         return std::max(std::min(place, last), static_cast<float>(0 - before));
     };
     Box clamped = box;

@@ -40,7 +40,7 @@ struct VariableDetail
     const char *art;
     std::vector<VariableDetail> children = {};
 
-    const char *field = ""; // stands behind the key where another node has the same role and index
+    const char *field = ""; // stands after the key where another node has the same role and index
 
     QString key(int index) const;
 };

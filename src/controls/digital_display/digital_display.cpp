@@ -48,7 +48,7 @@ QString timePart(double number)
     return number < 0 ? QLatin1Char('-') + digits : digits;
 }
 
-// The digits behind the mark of the plain number; a number with an exponent has none that a time could show.
+// The digits after the mark of the plain number; a number with an exponent has none that a time could show.
 QString fractionDigits(float number)
 {
     const QString plain = common::shortestText(number);

@@ -11,7 +11,7 @@ struct DigitalDisplayValues : TextValues
 
     DigitalDisplayValues() : TextValues(TextAlign::Right, UsualSize, 255) {}
 
-    quint8 curDecPlaces = 2;  // digits behind the decimal mark; 0 for the plain number
+    quint8 curDecPlaces = 2;  // digits after the decimal mark; 0 for the plain number
     quint8 curDecMark = 0;    // 0 dot, otherwise comma
     quint8 curTimeFormat = 0; // 0 a number, otherwise a time of seconds
 };
