@@ -23,10 +23,7 @@ protected:
     void set(TransformationForm &typed) override;
 
 private:
-    static VariableRecord &recordOf(Catalogue &catalogue, int index)
-    {
-        return catalogue.staging[index];
-    }
+    static VariableRecord &recordOf(Catalogue &catalogue, int index) { return catalogue.staging[index]; }
     VariableRecord &record() { return recordOf(m_catalogue, m_index); }
     forms::Context within() { return {prompts(), context().locale, this}; } // of the generators
 
