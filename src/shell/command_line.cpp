@@ -63,6 +63,7 @@ QStringList argumentsForProgram(const QStringList &arguments)
         if (const QFileInfo file(argument); file.isFile())
             argument = QStringLiteral("/F") + file.absoluteFilePath();
     }
+    passed.prepend(LaunchedMark);
     return passed;
 }
 

@@ -19,7 +19,7 @@ struct CommandLine
 // else.
 inline const QString LaunchedMark = QStringLiteral("--launched");
 
-// What the launcher passes on: a plain file, as a file manager names it, as /F and its path.
+// What the launcher passes on: its mark, and a plain file, as a file manager names it, as /F and its path.
 QStringList argumentsForProgram(const QStringList &arguments);
 
 // The raw line of the arguments after the program's name. Where "/" separates folders, the slashes after

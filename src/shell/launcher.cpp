@@ -1,74 +1,23 @@
-// What the desktop starts: gives a new user the shipped definition files, then becomes the program. A plain
-// file argument, as a file manager passes it, opens that layout.
+// What the desktop starts. It becomes the program, or its set-up where something has to be done or said
+// before. A plain file argument, as a file manager passes it, opens that layout. It needs no more than Qt's
+// core, so that nobody waits for it.
 
 #include "platform/become_program.h"
-#include "platform/desktop/appearance.h"
-#include "platform/desktop/qt_prompts.h"
-#include "platform/guards.h"
 #include "shell/command_line.h"
 #include "shell/seed_user_data.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 
-#include <functional>
-
-namespace {
-
-using Saying = std::function<bool(platform::Prompts &)>;
-
-// Most starts have nothing to say and need no window for it.
-bool say(int argc, char **argv, const Saying &saying)
-{
-    const QApplication desktop(argc, argv);
-    platform::applyAppearance(*qApp);
-    platform::QtPrompts prompts;
-    return saying(prompts);
-}
-
-// What has to be said before the program can start; empty for nothing.
-Saying completeUserData(const platform::Folders &folders)
-{
-    if (shell::isNewUser(folders)) {
-        const auto failure =
-            platform::failureOf([&] { shell::seedUserData(folders, shell::shippedFiles(folders)); });
-        if (!failure)
-            return {};
-        return [reason = *failure](platform::Prompts &prompts) {
-            platform::reportFailure(prompts, reason);
-            return false;
-        };
-    }
-    const QStringList missing = shell::missingDefinitions(folders);
-    if (missing.isEmpty())
-        return {};
-    return [folders, missing](platform::Prompts &prompts) {
-        return !prompts.ask(platform::Icon::Question, platform::ProductTitle,
-                            shell::missingFilesQuestion(folders, missing)) ||
-               platform::reportFailures(prompts, [&] { shell::seedUserData(folders, missing); });
-    };
-}
-
-} // namespace
+#include <cstdlib>
 
 int main(int argc, char **argv)
 {
-    QString program;
-    QStringList passed;
-    Saying first;
-    {
-        const QCoreApplication self(argc, argv);
-        const QString folder = QCoreApplication::applicationDirPath();
-        program = folder + QStringLiteral("/morvel-config");
-        passed = shell::argumentsForProgram(QCoreApplication::arguments().sliced(1));
-        passed.prepend(shell::LaunchedMark);
-        first = completeUserData(platform::desktopFolders(folder));
-    }
-    if (first && !say(argc, argv, first))
-        return EXIT_FAILURE;
-    const QString reason = platform::becomeProgram(program, passed);
-    say(argc, argv, [&](platform::Prompts &prompts) {
-        platform::reportFailure(prompts, QStringLiteral("%1: %2").arg(program, reason));
-        return false;
-    });
+    const QCoreApplication self(argc, argv);
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QStringList arguments = QCoreApplication::arguments().sliced(1);
+    if (shell::isComplete(platform::desktopFolders(folder)))
+        platform::becomeProgram(folder + QStringLiteral("/morvel-config"),
+                                shell::argumentsForProgram(arguments));
+    platform::becomeProgram(folder + QStringLiteral("/morvel-setup"), arguments);
     return EXIT_FAILURE;
 }

@@ -24,6 +24,11 @@ QStringList missingDefinitions(const platform::Folders &folders)
     return missing;
 }
 
+bool isComplete(const platform::Folders &folders)
+{
+    return !isNewUser(folders) && missingDefinitions(folders).isEmpty();
+}
+
 QString missingFilesQuestion(const platform::Folders &folders, const QStringList &missing)
 {
     return QStringLiteral("The folder\n%1\nlacks\n%2\n\nDo you want to put the shipped definitions there?")

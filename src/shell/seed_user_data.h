@@ -15,6 +15,9 @@ QStringList shippedFiles(const platform::Folders &folders);
 // The shipped definition files that the data folder has lost, or never got when a first start was cut short.
 QStringList missingDefinitions(const platform::Folders &folders);
 
+// Whether the program finds all that it needs there.
+bool isComplete(const platform::Folders &folders);
+
 // The question whether to put these files there.
 QString missingFilesQuestion(const platform::Folders &folders, const QStringList &missing);
 

@@ -58,7 +58,7 @@ TEST(CommandLine, passesAPlainFileOnByItsLetter)
     ASSERT_TRUE(file.open());
     const QString path = QFileInfo(file).absoluteFilePath();
     EXPECT_EQ(argumentsForProgram({path, "/F", path, "/x", "/t", "pal"}),
-              (QStringList{"/F" + path, "/F" + path, "/x", "/tpal"}));
+              (QStringList{LaunchedMark, "/F" + path, "/F" + path, "/x", "/tpal"}));
 }
 
 // The words are seen at the Save command; here is which names need which question.
