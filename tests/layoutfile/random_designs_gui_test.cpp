@@ -1,0 +1,288 @@
+#include "controls/bitmap/bitmap.h"
+#include "controls/custom_dial/custom_dial.h"
+#include "controls/track_map/track_map.h"
+#include "controls/video_source/video_source.h"
+#include "layoutfile/saved_design.h"
+#include "support/block_font.h"
+#include "surface/gesture.h"
+
+#include <QDir>
+
+#include <map>
+#include <random>
+
+namespace {
+
+using namespace layoutfile;
+using controls::ControlType;
+using controls::PropertyKind;
+using test::DesignWindow;
+
+constexpr qint32 Variables[] = {0, 2, 3, 10, 22, 30, 6001, 6002};
+
+class Chance
+{
+public:
+    explicit Chance(unsigned seed) : m_engine(seed) {}
+
+    int between(int low, int high) { return std::uniform_int_distribution(low, high)(m_engine); }
+    template <typename T>
+    T upTo(T last)
+    {
+        return static_cast<T>(between(0, static_cast<int>(last)));
+    }
+    qint32 variable() { return Variables[between(0, std::size(Variables) - 1)]; }
+    // Of any size, often one that a user types.
+    float number()
+    {
+        const auto typed = static_cast<float>(between(-9999, 9999)) / 100;
+        return between(0, 3) > 0 ? typed : std::ldexp(typed, between(-120, 100));
+    }
+    // Without blanks at its ends, which a layout does not keep.
+    QString text(int longest)
+    {
+        const QString characters = QStringLiteral("abcXYZ0189 .,-+%°é€ ");
+        QString made;
+        for (int i = between(1, longest); i > 0; --i)
+            made += characters[between(0, static_cast<int>(characters.size()) - 1)];
+        return made.trimmed().isEmpty() ? QStringLiteral("x") : made.trimmed();
+    }
+    QImage picture(QSize size)
+    {
+        QImage made(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                made.setPixel(x, y, qRgb(between(0, 255), between(0, 255), between(0, 255)));
+        }
+        return made;
+    }
+
+private:
+    std::mt19937 m_engine;
+};
+
+// In the order of the file's groups, so that a load creates them in this order too.
+const std::pair<ControlType, const controls::PropertyTable &> Families[] = {
+    {ControlType::VideoSource, controls::videoSourceProperties()},
+    {ControlType::Bitmap, controls::bitmapProperties()},
+    {ControlType::TextTag, controls::textTagProperties()},
+    {ControlType::DigitalDisplay, controls::digitalDisplayProperties()},
+    {ControlType::BarGraph, controls::barGraphProperties()},
+    {ControlType::Gauge, controls::gaugeProperties()},
+    {ControlType::TrackMap, controls::trackMapProperties()},
+    {ControlType::CustomDial, controls::customDialProperties()}};
+
+// What is not any byte, number, colour or text of its kind; by the name of the reader.
+const std::map<std::string_view, std::pair<int, int>> Limits{
+    {"curCenterX", {0, 700}},     {"curCenterY", {0, 470}},      {"curLeftCoord", {0, 700}},
+    {"curTopCoord", {0, 470}},    {"curLeft", {0, 10000}},       {"curTop", {0, 7000}},
+    {"curMinAngle", {-720, 720}}, {"curMaxAngle", {-720, 720}},  {"curFontSize", {12, 14}},
+    {"curIniWidth", {1, 32767}},  {"curIniHeight", {1, 32767}},  {"curDivisor", {1, 8}},
+    {"curDecPlaces", {1, 9}},     {"curPointerLength", {0, 255}}};
+
+bool isAny(std::string_view name, std::initializer_list<const char *> parts)
+{
+    return std::any_of(parts.begin(), parts.end(),
+                       [name](const char *part) { return name.find(part) != std::string_view::npos; });
+}
+
+qint32 wholeFor(std::string_view name, Chance &chance)
+{
+    if (const auto limit = Limits.find(name); limit != Limits.end())
+        return chance.between(limit->second.first, limit->second.second);
+    if (isAny(name, {"VarID", "Variable"}))
+        return chance.variable();
+    if (isAny(name, {"Width", "Height"}))
+        return chance.between(1, 100);
+    return chance.between(0, isAny(name, {"olour", "olor"}) ? 0xFFFFFF : 255);
+}
+
+QString textFor(std::string_view name, Chance &chance)
+{
+    return isAny(name, {"Font"}) ? QStringLiteral("Block") : chance.text(name == "curTText" ? 30 : 29);
+}
+
+void fill(controls::OverlayControl &control, const controls::PropertyTable &table, Chance &chance)
+{
+    const QSize size(chance.between(1, 60), chance.between(1, 60));
+    for (const controls::PropertyRow &row : table.rows) {
+        if (row.writer.empty())
+            continue;
+        if (row.kind == PropertyKind::Whole)
+            control.write(row.writer, wholeFor(row.reader, chance));
+        else if (row.kind == PropertyKind::Single)
+            control.write(row.writer, chance.number());
+        else if (row.kind == PropertyKind::Text)
+            control.write(row.writer, textFor(row.reader, chance));
+        else
+            control.write(row.writer, chance.picture(size));
+    }
+}
+
+// By the mouse, as far as the canvas lets it.
+void move(controls::OverlayControl &control, const surface::CanvasRules &rules, Chance &chance)
+{
+    const auto handle = static_cast<controls::Handle>(chance.between(0, 7));
+    const QPointF from(0, 0), to(chance.between(-9000, 9000), chance.between(-9000, 9000));
+    if (control.handles()[static_cast<std::size_t>(handle)].isFilled()) {
+        control.setBox(*surface::Gesture::resizing(control, handle, from).boxAt(to, rules));
+        control.applyResize();
+    } else if (const auto box = surface::Gesture::dragging(control, from).boxAt(to, rules)) {
+        control.moveTo(box->Left, box->Top);
+        control.updatePosition();
+    }
+}
+
+void addControls(DesignWindow &d, Chance &chance)
+{
+    const surface::CanvasRules rules{
+        d.world.state.screen, d.world.state.settings.VideoType, {80, false, chance.between(0, 1) == 1}};
+    for (const auto &[family, table] : Families) {
+        for (int i = chance.between(0, family == ControlType::TrackMap ? 1 : 3); i > 0; --i) {
+            d.design().addControl(family, {});
+            controls::OverlayControl &control = *d.design().controls().last();
+            fill(control, table, chance);
+            if (family == ControlType::VideoSource) { // each of its own camera, one of them behind all
+                control.write("NewCameraNo", i);
+                control.write("NewDivisor", i == 1 ? 1 : chance.between(2, 8));
+            }
+            control.AssignProperties();
+            for (int moves = chance.between(0, 3); moves > 0; --moves)
+                move(control, rules, chance);
+        }
+    }
+}
+
+recorder::RecordingTrigger trigger(Chance &chance)
+{
+    const auto condition = chance.upTo(recorder::LastCondition);
+    if (condition == 0)
+        return {};
+    return {chance.variable(), condition, chance.number(), chance.upTo<quint8>(255)};
+}
+
+void fillSettings(recorder::RecorderSettings &settings, Chance &chance)
+{
+    settings.CurrentBitRate = chance.upTo<quint8>(254);
+    settings.encodePattern = chance.upTo(recorder::EncodePattern::IPB);
+    for (int i = chance.between(0, 5); i > 0; --i)
+        settings.ChapterList.push_back({chance.upTo(recorder::LastChapterType), chance.number(),
+                                        chance.upTo(recorder::LastSign), chance.variable(),
+                                        chance.upTo(recorder::LastSign), chance.number()});
+    settings.LapChapterActive = chance.upTo<quint8>(1);
+    settings.LapChapterType = chance.upTo(recorder::LastChapterType);
+    settings.autoStart = trigger(chance);
+    settings.autoStop = trigger(chance);
+    settings.GearTable.resize(static_cast<std::size_t>(chance.between(1, 7)));
+    for (recorder::GearLimits &gear : settings.GearTable)
+        gear = {chance.number(), chance.number()};
+    settings.GearMethod = chance.upTo(recorder::LastGearMethod);
+    settings.GearVariable = chance.variable();
+    settings.PulsesPerRevolution = chance.number();
+    for (recorder::MessageEntry &entry : settings.MessageTable) {
+        entry.storageRate = chance.upTo<quint8>(9);
+        entry.outputRate = chance.upTo<quint8>(9);
+    }
+    if (chance.between(0, 1) == 1)
+        settings.icon = {true, chance.upTo<qint16>(575), chance.upTo<qint16>(719), chance.upTo<quint8>(255),
+                         graphics::PlanePicture::chosen(chance.picture({16, 8}), {})};
+}
+
+void fillVariables(variables::Catalogue &catalogue, Chance &chance)
+{
+    for (const qint32 index : Variables) {
+        variables::VariableRecord &record = catalogue.live[index];
+        if (index == 0)
+            continue;
+        record.SmoothingTime = static_cast<float>(chance.between(0, 100)) / 10;
+        record.MaximumROC = std::fabs(chance.number());
+        record.UseCustomTrans = index >= variables::FirstUserVariable || chance.between(0, 1) == 1;
+        record.CustomTransformation = QStringLiteral("var_%1*%2+sin(var_%3/7)-%4")
+                                          .arg(chance.between(2, 3), 4, 10, QLatin1Char('0'))
+                                          .arg(chance.between(-500, 500) / 8.0)
+                                          .arg(index, 4, 10, QLatin1Char('0'))
+                                          .arg(chance.between(0, 500) / 7.0);
+    }
+    variables::SetupVariables(catalogue);
+}
+
+// A world whose designs come and go.
+struct Room
+{
+    Room()
+    {
+        for (const qint32 index : Variables) {
+            if (index > 0)
+                d.world.addVariable(index, QStringLiteral("Variable %1").arg(index),
+                                    index >= variables::FirstUserVariable ? 4 : 1);
+        }
+        catalogue = d.world.state.catalogue;
+        for (int style = 0; style < 16; ++style) {
+            for (const int size : {12, 13, 14})
+                test::writeBlockFont(
+                    d.world, {"Block",
+                              size,
+                              {(style & 1) != 0, (style & 2) != 0, (style & 4) != 0, (style & 8) != 0}});
+        }
+    }
+    void empty()
+    {
+        d.design().mnuNew_Click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        d.world.state.catalogue = catalogue;
+        QDir(d.world.state.folders.pictureFolder()).removeRecursively();
+    }
+
+    DesignWindow d;
+    variables::Catalogue catalogue;
+};
+
+// Everything but the thumbnail, which shows pictures as they were chosen, and how long the file is without
+// it.
+QStringList contents(const QByteArray &file)
+{
+    QStringList lines;
+    qsizetype thumbnail = 0;
+    for (const LayoutRecord &record : parseLayout(file)) {
+        const QByteArray payload = encodePayload(record.body);
+        if (record.type() == RecordType::Thumbnail)
+            thumbnail = payload.size();
+        else
+            lines.append(QStringLiteral("%1 %2 ").arg(static_cast<int>(record.type())).arg(record.object) +
+                         QString::fromLatin1(payload.toHex()));
+    }
+    lines.append(QString::number(file.size() - thumbnail));
+    return lines;
+}
+
+// Saved, loaded in a world that has never seen it and saved again: the same file. MORVEL_DESIGNS sets how
+// many designs are tried, MORVEL_FIRST_DESIGN the first one's seed.
+TEST(RandomDesigns, areSavedAgainAsTheyWereSavedFirst)
+{
+    const auto setting = [](const char *name, int usual) {
+        return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : usual;
+    };
+    const int first = setting("MORVEL_FIRST_DESIGN", 1);
+    const int count = setting("MORVEL_DESIGNS", 100);
+    Room made, loaded;
+    for (int seed = first; seed < first + count; ++seed) {
+        Chance chance(static_cast<unsigned>(seed));
+        made.empty();
+        loaded.empty();
+        made.d.design().setVideoStandard(chance.upTo(recorder::VideoStandard::Pal));
+        fillVariables(made.d.world.state.catalogue, chance);
+        fillSettings(made.d.world.state.settings, chance);
+        addControls(made.d, chance);
+        if (made.d.design().controls().isEmpty())
+            continue;
+        const QByteArray file = test::savedDesign(made.d);
+        test::loadDesign(loaded.d, file);
+        const QStringList again = contents(test::savedDesign(loaded.d));
+        const QStringList before = contents(file);
+        ASSERT_EQ(again.size(), before.size()) << "seed " << seed;
+        for (qsizetype i = 0; i < before.size(); ++i)
+            ASSERT_EQ(again[i], before[i]) << "seed " << seed;
+    }
+}
+
+} // namespace
