@@ -4,6 +4,7 @@
 #include "graphics/picture_loader.h"
 #include "graphics/planes.h"
 #include "layoutfile/fold_variables.h"
+#include "layoutfile/images.h"
 #include "layoutfile/layout_file.h"
 #include "layoutfile/modCRC.h"
 #include "layoutfile/settings_from_records.h"
@@ -46,6 +47,18 @@ bool settles(const LayoutRecord &record)
     common::ByteReader reader(payload);
     const auto again = layoutfile::decodePayload(static_cast<qint16>(record.type()), stated, reader);
     return again && reader.remaining() == 0 && layoutfile::encodePayload(*again) == payload;
+}
+
+// Every stored bitmap has planes that fit together, or none.
+bool holdsImages(const std::vector<LayoutRecord> &records)
+{
+    const layoutfile::StoredImages images = layoutfile::storedImages(records);
+    return std::all_of(images.begin(), images.end(), [](const auto &entry) {
+        const graphics::PlanePicture &picture = entry.second.picture;
+        const graphics::Planes &planes = picture.planes();
+        return picture.isEmpty() || (planes.isComplete() && picture.picture().size() == planes.size() &&
+                                     picture.alpha().values.size() == planes.y.size());
+    });
 }
 
 // Whatever the variables of a layout say, the catalogue keeps its rows.
@@ -113,7 +126,7 @@ bool layout(QByteArrayView bytes)
     recorder::RecorderSettings settings;
     layoutfile::settingsFromRecords(records, settings);
     const bool gearsFit = settings.GearTable.size() >= 1 && settings.GearTable.size() <= 7;
-    return refused && accepted && thumbnailFits && foldsIn(records) && gearsFit &&
+    return refused && accepted && thumbnailFits && foldsIn(records) && holdsImages(records) && gearsFit &&
            std::all_of(records.begin(), records.end(), &settles);
 }
 
