@@ -10,7 +10,9 @@ namespace surface {
 
 bool Canvas::takesDrop(const QDropEvent &event) const
 {
-    if (m_isPlayMode || !event.mimeData()->hasFormat(VariableMime))
+    if (m_isPlayMode)
+        return false;
+    if (!event.mimeData()->hasFormat(VariableMime))
         return event.mimeData()->hasFormat(LibraryMime);
     const controls::OverlayControl *control = controlAt(event.position());
     return control && control->takesVariable();

@@ -29,13 +29,20 @@ Qt::CursorShape pointerOf(std::optional<Handle> handle)
     return movesLeft(*handle) || movesRight(*handle) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
 }
 
+// The canvas pixel that holds the point.
+QPoint pixelAt(QPointF point)
+{
+    return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
+}
+
 } // namespace
 
-QPointF Canvas::twips(QPointF pixels) const { return m_rules.screen.toTwips(pixels); }
+// On a fine screen the pointer stands between canvas pixels, where no layout can hold a control.
+QPointF Canvas::twips(QPointF pixels) const { return m_rules.screen.toTwips(QPointF(pixelAt(pixels))); }
 
 OverlayControl *Canvas::controlAt(QPointF pixels) const
 {
-    const QPoint pixel(static_cast<int>(std::floor(pixels.x())), static_cast<int>(std::floor(pixels.y())));
+    const QPoint pixel = pixelAt(pixels);
     const ControlList &stack = m_controls.stack();
     const auto top = std::find_if(stack.rbegin(), stack.rend(), [pixel](const OverlayControl *control) {
         return control->outerRect().contains(pixel);
