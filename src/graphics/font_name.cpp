@@ -10,7 +10,6 @@ namespace {
 
 const QString Suffix = QStringLiteral(".qlg");
 const QString StyleLetters = QStringLiteral("BISU");
-constexpr int LargestSize = 32767; // what a property for points holds
 
 QString styleText(const FontStyle &style)
 {
@@ -85,8 +84,9 @@ FontRequest splitFontFileName(const QString &name)
     QString front = whole;
     const QString last = takeLastPart(front);
     const bool isSizeCut = whole == stored && isStartOfSize(last);
-    const int size = isSizeCut ? 0 : last.toInt();
-    if (!isSizeCut && (size < 1 || size > LargestSize))
+    bool isSize = isSizeCut;
+    const int size = isSizeCut ? 0 : last.toShort(&isSize); // of a stored font it may be 0
+    if (!isSize)
         return {storedFace(whole.trimmed()), 0, {}};
     FontRequest request{front, size, {}};
     if (const QString style = takeLastPart(front); isStyleText(style)) {

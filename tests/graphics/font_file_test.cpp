@@ -32,6 +32,7 @@ TEST(FontName, isTakenApartIntoWhatItWasBuiltFrom)
         {{text("Gill B"), 12, {}}, "Gill B  12.qlg"},
         {{text("QL Sans Serif"), 9, {true, true, true, true}}, "QL Sans Serif BISU 9.qlg"},
         {{text("Gill B 3"), 8, {false, false, true}}, "Gill B 3 S 8.qlg"},
+        {{text("Gill"), 0, {true}}, "Gill B 0.qlg"},
     };
     for (const auto &[request, name] : cases) {
         EXPECT_EQ(fontFileName(request), text(name));
