@@ -4,7 +4,7 @@
 
 namespace graphics {
 
-// What asks for a picture file, with a preview. An empty folder is the user's own.
+// What asks for a picture file, with a preview. An empty folder is the one of the last choice.
 platform::FileRequest pictureRequest(const QString &folder = {});
 
 // The picture of a file that the user chose. A null image, and a message that says what is wrong with it,

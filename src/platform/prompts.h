@@ -16,7 +16,7 @@ enum class Icon { None, Information, Question, Warning, Critical };
 struct FileRequest
 {
     QString title;
-    QString folder;
+    QString folder; // where the dialog begins; empty for where the last such one ended
     QString filter;
     QString fileName;                               // proposed name, for saving
     std::function<QImage(const QString &)> preview; // picture of the selected file, for opening; may be empty

@@ -7,6 +7,7 @@
 #include <QButtonGroup>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QGridLayout>
@@ -143,8 +144,14 @@ QString QtPrompts::input(const QString &title, const QString &prompt, const QStr
 QString QtPrompts::openFile(const FileRequest &request)
 {
     const ArrowPointer pointer;
-    FileDialog dialog(parent(), request, QFileDialog::AcceptOpen);
-    return dialog.chosenFile();
+    FileRequest asked = request;
+    if (request.folder.isEmpty())
+        asked.folder = m_lastFolder;
+    FileDialog dialog(parent(), asked, QFileDialog::AcceptOpen);
+    const QString path = dialog.chosenFile();
+    if (request.folder.isEmpty() && !path.isEmpty())
+        m_lastFolder = QFileInfo(path).path();
+    return path;
 }
 
 QString QtPrompts::saveFile(const FileRequest &request)
