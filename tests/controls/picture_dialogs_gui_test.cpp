@@ -166,6 +166,7 @@ TEST(PictureCopies, ofLoadsGoAtAStartUnlessTheLibraryNamesThem)
     controls::removeUnusedCopies(folders);
     copies.refresh();
     EXPECT_EQ(copies.entryList(QDir::Files), QStringList({"car.bmp", "S12.bmp", "S1200000.bmp"}));
+    EXPECT_EQ(controls::copyName(copies.path() + '/', "../\u8ECA.bmp", {}), "___.bmp");
 }
 
 const QString WholeVideo = "txtWidth=720,txtHeight=576,txtLeftBorderWidth=5,txtRightBorderWidth=5,"

@@ -1,5 +1,6 @@
 #include "controls/bitmap/picture_copies.h"
 
+#include "common/code_page.h"
 #include "graphics/picture_loader.h"
 #include "platform/guards.h"
 
@@ -19,11 +20,11 @@ bool mayHold(const QString &path, const QByteArray &bytes)
     return platform::skipFailures([&] { held = platform::readFile(path); }) && held == bytes;
 }
 
-// A name as it may stand in a layout or in the library: no path, not hidden.
+// A name as the library can keep it: no path, not hidden, of the code page's characters.
 QString plainName(const QString &wanted)
 {
-    static const QRegularExpression Separators(QStringLiteral("^\\.+|[/\\\\:]"));
-    return QString(wanted).replace(Separators, QStringLiteral("_"));
+    static const QRegularExpression Unfit(QStringLiteral("^\\.+|[\\x00-\\x1F/\\\\:?]"));
+    return common::fromCodePage(common::toCodePage(wanted)).replace(Unfit, QStringLiteral("_"));
 }
 
 } // namespace

@@ -10,7 +10,8 @@ namespace controls {
 
 // The copies of pictures in the user's picture folder, to which bitmaps refer by their bare names.
 
-// The name for a copy of these bytes: `wanted`, or that with a number where a file of other bytes has it.
+// The name for a copy of these bytes: `wanted` as far as the library can keep it, with a number where a file
+// of other bytes has it.
 QString copyName(const QString &folder, const QString &wanted, const QByteArray &bytes);
 
 // Writes the copy unless it lies there already. Throws RunTimeError with the system's reason.
