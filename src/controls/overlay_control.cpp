@@ -81,8 +81,8 @@ QStringList OverlayControl::Serialise() const
 void OverlayControl::Deserialise(const QStringList &texts)
 {
     deserialise(properties(), values(), texts, m_host.locale().decimalSeparator);
-    redraw();
     settle();
+    redraw();
 }
 
 void OverlayControl::setMode(Mode mode)

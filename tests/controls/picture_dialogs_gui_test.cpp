@@ -128,6 +128,15 @@ TEST_F(BitmapPictures, areAskedForPaddedCopiedAndBlended)
     EXPECT_EQ(bitmap.box(), (controls::Box{0, 10 * 15 - 75, 104 * 15 + 150, 52 * 15 + 150}));
     EXPECT_EQ(d.shown({50, 40}).red(), 253); // a trace of the ground stays
     EXPECT_EQ(d.shown({107, 40}), test::PalGround);
+
+    QStringList texts = bitmap.Serialise();
+    for (const QString &width : {texts[0], QStringLiteral("1E+30")}) {
+        d.design().addControl(controls::ControlType::Bitmap, {});
+        auto &copy = static_cast<Bitmap &>(*d.design().controls().last());
+        texts[0] = width;
+        copy.Deserialise(texts);
+        EXPECT_EQ(copy.get().picture.planes(), bitmap.get().picture.planes()) << width.toStdString();
+    }
 }
 
 // A copy that is gone is no error; one that cannot be written costs a message.

@@ -114,9 +114,10 @@ void Bitmap::applyInitialProperties()
 void Bitmap::settle()
 {
     const QString folder = host().folders().pictureFolder();
-    m_values.picture =
-        PlanePicture::ofSize(keptPicture(folder, m_values.curFileName),
-                             keptPicture(folder, m_values.curAlfaFileName), planeSize(box(), screen()));
+    const QImage picture = keptPicture(folder, m_values.curFileName);
+    // A box from a damaged store may be as large as numbers go.
+    const QSize size = planeSize(box(), screen()).boundedTo(graphics::paddedSize(picture.size()));
+    m_values.picture = PlanePicture::ofSize(picture, keptPicture(folder, m_values.curAlfaFileName), size);
 }
 
 void Bitmap::paint(Composition &onto) const
