@@ -37,7 +37,6 @@ PlanePicture PlanePicture::fromFile(const Planes &planes, const AlphaPlane &alph
     made.m_planes = planes;
     made.m_alpha = alpha.isComplete() && alpha.size() == planes.size() ? alpha : opaque(planes.size());
     made.m_alphaPicture = toPicture(made.m_alpha);
-    made.m_isFromFile = true;
     return made;
 }
 

@@ -24,7 +24,6 @@ public:
 
     // Whether there are no planes.
     bool isEmpty() const { return m_planes.y.isEmpty(); }
-    bool isFromFile() const { return m_isFromFile; }
     const Planes &planes() const { return m_planes; }
     const AlphaPlane &alpha() const { return m_alpha; }
     // For the eye: as they were chosen, or the planes as pictures.
@@ -38,7 +37,6 @@ private:
     AlphaPlane m_alpha;
     QImage m_picture;
     QImage m_alphaPicture;
-    bool m_isFromFile = false;
 };
 
 } // namespace graphics
