@@ -2,6 +2,17 @@
 
 namespace controls {
 
+QString correctionQuestion(const QString &complaint)
+{
+    return complaint + QStringLiteral("\nPress OK to continue with automatic correction");
+}
+
+forms::Verdict correctable(const QString &complaint, const QList<forms::Correction> &corrections)
+{
+    return {forms::Verdict::Kind::OkCancel, platform::Icon::Critical, correctionQuestion(complaint),
+            corrections};
+}
+
 void ColourRows::name() const
 {
     colour.caption()->setObjectName(QStringLiteral("lblColour"));

@@ -11,6 +11,11 @@ namespace controls {
 // The standard colour of everything that is drawn: red.
 inline constexpr quint32 StandardColour = 0x0000FF;
 
+// What asks whether to correct what it complains of, as all property dialogs do.
+QString correctionQuestion(const QString &complaint);
+// The verdict that asks so. OK makes the corrections.
+forms::Verdict correctable(const QString &complaint, const QList<forms::Correction> &corrections);
+
 // The rows that a colour and the variable that takes its place consist of: one excludes the other.
 struct ColourRows
 {

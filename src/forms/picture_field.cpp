@@ -31,6 +31,7 @@ void PictureField::addButton(const char *name, const char *caption, const platfo
 {
     auto *another = new QPushButton(QString::fromUtf8(caption));
     another->setObjectName(QLatin1String(name));
+    another->setAccessibleName(widget().accessibleName() + QStringLiteral(", ") + another->text());
     prepare(*another, request);
 }
 

@@ -25,7 +25,7 @@ public:
 
     PictureField(const char *name, const char *previewName, const platform::FileRequest &request,
                  platform::Prompts &prompts, Taker taker);
-    // A second button, whose file dialog begins elsewhere.
+    // A second button, whose file dialog begins elsewhere. The field has its row already.
     void addButton(const char *name, const char *caption, const platform::FileRequest &request);
 
     QPushButton &button() const { return static_cast<QPushButton &>(widget()); }

@@ -97,6 +97,12 @@ AlphaPlane AlphaPlane::ofSize(QSize wanted)
 
 bool AlphaPlane::isComplete() const { return !size().isEmpty() && hasSize(values, size()); }
 
+QSize alignedSize(QSize size)
+{
+    return {(size.width() + WidthStep - 1) / WidthStep * WidthStep,
+            (size.height() + HeightStep - 1) / HeightStep * HeightStep};
+}
+
 QSize paddedSize(QSize picture)
 {
     return {picture.width() + WidthStep - picture.width() % WidthStep,

@@ -40,6 +40,9 @@ struct AlphaPlane
 // What a pixel outside a picture reads as, 0x00BBGGRR: all bits set, as on a drawing surface.
 constexpr quint32 OutsideColour = 0xFFFFFF;
 
+// The size up to a multiple of 8 and a multiple of 2, which is what the recorder's blocks ask for.
+QSize alignedSize(QSize size);
+
 // The size of the planes of a newly chosen picture: the width goes up to a multiple of 8 and the height to a
 // multiple of 2, and by a whole 8 or 2 where it is one already. That extra is deliberate: readers of layouts
 // count on it. Planes that came from a file, and those of custom dials, are not padded.

@@ -34,7 +34,7 @@ TEST(BitmapRules, aPictureGrowsToEightAndTwoAndAsksForEach)
         {{1, 2}, {8, 2}, {WidthQuestion}},
     };
     for (const auto &[size, corrected, questions] : cases) {
-        EXPECT_EQ(controls::correctedSize(size), corrected) << size.width();
+        EXPECT_EQ(graphics::alignedSize(size), corrected) << size.width();
         EXPECT_EQ(controls::sizeQuestions(size), questions) << size.width();
     }
 }

@@ -10,11 +10,11 @@
 
 namespace controls {
 
+using graphics::alignedSize;
 using graphics::PlanePicture;
 
 namespace {
 
-const QString AutomaticCorrection = QStringLiteral("\nPress OK to continue with automatic correction");
 constexpr double MostAlpha = 255; // deliberate, although a percentage is typed
 
 int even(int coordinate) { return coordinate / 2 * 2; }
@@ -40,17 +40,16 @@ void keepOnCanvas(BitmapValues &values, const ControlHost &host)
 
 } // namespace
 
-QSize correctedSize(QSize picture) { return {(picture.width() + 7) / 8 * 8, (picture.height() + 1) / 2 * 2}; }
-
 QStringList sizeQuestions(QSize picture)
 {
+    const QSize aligned = alignedSize(picture);
     QStringList questions;
-    if (correctedSize(picture).width() != picture.width())
-        questions.append(QStringLiteral("Width of the bitmap control must be divisible by 8.") +
-                         AutomaticCorrection);
-    if (correctedSize(picture).height() != picture.height())
-        questions.append(QStringLiteral("Height of the bitmap control must be divisible by 2.") +
-                         AutomaticCorrection);
+    if (aligned.width() != picture.width())
+        questions.append(
+            correctionQuestion(QStringLiteral("Width of the bitmap control must be divisible by 8.")));
+    if (aligned.height() != picture.height())
+        questions.append(
+            correctionQuestion(QStringLiteral("Height of the bitmap control must be divisible by 2.")));
     return questions;
 }
 
@@ -62,11 +61,8 @@ std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
         return forms::refusal(QStringLiteral("Please Select Images for Sorce and Alfa images"));
     const auto top = common::toInteger<qint16>(common::parseNumber(typed.text("txtTopCoordinates")));
     if (top != even(top))
-        return forms::Verdict{forms::Verdict::Kind::OkCancel,
-                              platform::Icon::Critical,
-                              QStringLiteral("Top coordinate of the bitmap control must be an even number.") +
-                                  AutomaticCorrection,
-                              {{QStringLiteral("txtTopCoordinates"), QString::number(even(top))}}};
+        return correctable(QStringLiteral("Top coordinate of the bitmap control must be an even number."),
+                           {{QStringLiteral("txtTopCoordinates"), QString::number(even(top))}});
     if (source != alpha)
         return forms::refusal(
             QStringLiteral(
@@ -80,6 +76,14 @@ BitmapDialog::BitmapDialog(Bitmap &bitmap)
           bitmap, QStringLiteral("Bitmap Properties"),
           {bitmap.get(), {bitmap.get().picture.picture(), {}}, {bitmap.get().picture.alphaPicture(), {}}})
 {
+    addPictures();
+    addPlace();
+    addVariables();
+    finish(forms::applyAndCancel());
+}
+
+void BitmapDialog::addPictures()
+{
     using V = BitmapOfFiles;
     addGroup("Pictures");
     m_source =
@@ -91,15 +95,25 @@ BitmapDialog::BitmapDialog(Bitmap &bitmap)
     auto &width = shownText({"txtWidth", "Width", "pixels"});
     auto &height = shownText({"txtHeight", "Height", "pixels"});
     follow([this, &width, &height] {
-        const QSize size = correctedSize(m_source->picture().size());
+        const QSize size = alignedSize(m_source->picture().size());
         width.setText(QString::number(size.width()));
         height.setText(QString::number(size.height()));
     });
+}
+
+void BitmapDialog::addPlace()
+{
+    using V = BitmapOfFiles;
     addGroup("Position");
     number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});
     number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
     choice(&V::curZorder, {"cmbZorder", "&Z-order"},
            forms::numbered(std::array{QStringLiteral("Bottom"), QStringLiteral("Top")}), 1);
+}
+
+void BitmapDialog::addVariables()
+{
+    using V = BitmapOfFiles;
     addGroup("Hide Bitmap Under Variable Control");
     variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
     number(&V::curLowerLimit, {"txtLowerLimit", "Display when &greater than"});
@@ -111,7 +125,6 @@ BitmapDialog::BitmapDialog(Bitmap &bitmap)
     number(&V::curAlfaVarMin, {"txtAlfaVarMin", "Alpha minimum"});
     number(&V::curAlfaVarMax, {"txtAlfaVarMax", "Alpha maximum"});
     number(&V::curAlfaDefaultVal, {"txtAlfaDefaultVal", "Default value"});
-    finish(forms::applyAndCancel());
 }
 
 forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles::*member,
@@ -120,8 +133,8 @@ forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles
 {
     auto &field =
         add<forms::PictureField>(names[0], names[1], graphics::pictureRequest(), prompts(), std::move(taker));
-    field.addButton(names[2], "Examples...", graphics::pictureRequest(host().folders().exampleGraphics()));
     addRow(field, caption);
+    field.addButton(names[2], "Examples...", graphics::pictureRequest(host().folders().exampleGraphics()));
     return bind(field, member);
 }
 
@@ -135,7 +148,7 @@ QImage BitmapDialog::taken(const QString &path, bool isAlpha)
             return {};
     }
     const QImage &source = m_source->picture();
-    if (isAlpha && !source.isNull() && correctedSize(picture.size()) != correctedSize(source.size())) {
+    if (isAlpha && !source.isNull() && alignedSize(picture.size()) != alignedSize(source.size())) {
         prompts().message(platform::Icon::Information, platform::ProductTitle,
                           QStringLiteral(" Invalid Picture"));
         return {};

@@ -6,9 +6,6 @@
 
 namespace controls {
 
-// The size that a picture of this one gets in the dialog: up to a multiple of 8 and of 2. Its planes have
-// their own rule.
-QSize correctedSize(QSize picture);
 // The questions to ask before a picture of this size is taken, in order.
 QStringList sizeQuestions(QSize picture);
 
@@ -36,6 +33,9 @@ protected:
     void set(BitmapOfFiles &values) override;
 
 private:
+    void addPictures();
+    void addPlace();
+    void addVariables();
     forms::PictureField &pictureRow(forms::ChosenPicture BitmapOfFiles::*member, const char *caption,
                                     const char *const (&names)[3], forms::PictureField::Taker taker);
     QImage taken(const QString &path, bool isAlpha);

@@ -47,10 +47,9 @@ std::optional<Verdict> offTheMapsSteps(const forms::Typed &typed)
     }
     if (corrections.isEmpty())
         return std::nullopt;
-    const QString question =
-        QStringLiteral("Left and top coordinates of the track map control must be divisible by 8.\n"
-                       "Press OK to continue with automatic correction");
-    return Verdict{Verdict::Kind::OkCancel, platform::Icon::Critical, question, corrections};
+    return correctable(
+        QStringLiteral("Left and top coordinates of the track map control must be divisible by 8."),
+        corrections);
 }
 
 } // namespace

@@ -74,13 +74,10 @@ std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed, Vid
     if (isAligned || typed.row("cmbSizeRatio") == BackgroundRow)
         return std::nullopt;
     const auto aligned = [](int coordinate) { return QString::number(coordinate / PlaceStep * PlaceStep); };
-    return forms::Verdict{
-        forms::Verdict::Kind::OkCancel,
-        platform::Icon::Critical,
-        QStringLiteral("Left and top coordinates of the video source control must be divisible by 16.\n"
-                       "Press OK to continue with automatic correction"),
+    return correctable(
+        QStringLiteral("Left and top coordinates of the video source control must be divisible by 16."),
         {{QStringLiteral("txtLeftCoordinates"), aligned(place.x())},
-         {QStringLiteral("txtTopCoordinates"), aligned(place.y())}}};
+         {QStringLiteral("txtTopCoordinates"), aligned(place.y())}});
 }
 
 VideoSourceDialog::VideoSourceDialog(VideoSource &source)

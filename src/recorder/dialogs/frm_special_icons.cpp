@@ -6,8 +6,9 @@ namespace recorder {
 
 std::optional<forms::Verdict> validateSpecialIcon(const forms::Typed &typed)
 {
-    const QStringList size = typed.text("cmdBrowse").split(QStringLiteral(" x "));
-    if (size.first().toInt() % 8 == 0 && size.last().toInt() % 2 == 0)
+    const QStringList sides = typed.text("cmdBrowse").split(QStringLiteral(" x "));
+    const QSize size(sides.first().toInt(), sides.last().toInt());
+    if (size == graphics::alignedSize(size))
         return std::nullopt;
     return forms::refusal(
         QStringLiteral("The image width should be multiples of 8 and height should be multiples of 2"),
