@@ -136,7 +136,7 @@ void dragStep(benchmark::State &state, ControlType family)
         state.SetIterationTime(ownTimes.measure([&] { dragTo(canvas, canvas, place); }));
         peerTimes.measure([&] { dragTo(peer, bare, place); });
     }
-    if (counter.paints < step)
+    if (counter.paints < step * 9 / 10) // a real display may join two steps in one
         state.SkipWithError("steps were not painted");
     const bool isFew = state.range(0) == Few;
     bench::stateLimit(state, ownTimes, isFew ? MostOfPeer * peerTimes.median() * 1e3 : LimitMs);

@@ -47,6 +47,8 @@ void addBitmap(Program &program, int number)
     auto &bitmap = added<controls::Bitmap>(program, ControlType::Bitmap, number);
     controls::BitmapValues values = bitmap.get();
     values.picture = graphics::PlanePicture::chosen(picture(number), picture(number + 3));
+    values.curFileName = QStringLiteral("source%1.bmp").arg(number);
+    values.curAlfaFileName = QStringLiteral("alpha%1.bmp").arg(number);
     values.curAlfa = 128;
     bitmap.set(values);
     bitmap.AssignProperties();
@@ -63,8 +65,7 @@ void addText(Program &program, int number)
 
 void addAll(Program &program)
 {
-    constexpr std::array Others{ControlType::Gauge, ControlType::BarGraph, ControlType::DigitalDisplay,
-                                ControlType::VideoSource};
+    constexpr std::array Others{ControlType::Gauge, ControlType::BarGraph, ControlType::DigitalDisplay};
     int number = 0;
     for (int i = 0; i < 6; ++i)
         addBitmap(program, ++number);
@@ -73,6 +74,9 @@ void addAll(Program &program)
     for (int i = 0; i < 3; ++i)
         added<controls::CustomDial>(program, ControlType::CustomDial, ++number);
     added<controls::OverlayControl>(program, ControlType::TrackMap, ++number);
+    for (quint8 camera = 0; camera < 2; ++camera)
+        added<controls::OverlayControl>(program, ControlType::VideoSource, ++number)
+            .write("NewCameraNo", camera);
     for (; number < 40; ++number)
         added<controls::OverlayControl>(program, Others[static_cast<std::size_t>(number) % Others.size()],
                                         number);

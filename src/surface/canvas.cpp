@@ -69,10 +69,8 @@ void Canvas::display(const QImage &background, const CanvasRules &rules, bool do
 
 void Canvas::choose(OverlayControl &control, bool joinsGroup)
 {
-    if (!control.IsSelectedToGroup() && !joinsGroup) {
-        ResetControlGridColour();
-        control.SetControlGridColour(controls::FrameSelected);
-    }
+    if (!joinsGroup)
+        select(control);
     if (m_controls.raise(control))
         control.redraw();
     m_current = control.weak_from_this();
@@ -87,8 +85,25 @@ void Canvas::chooseNone()
 
 void Canvas::ResetControlGridColour()
 {
-    for (OverlayControl *control : m_controls.controls())
-        control->SetControlGridColour(controls::FrameNormal);
+    for (const auto &marked : std::exchange(m_marked, {})) {
+        if (const auto control = marked.lock())
+            control->SetControlGridColour(controls::FrameNormal);
+    }
+}
+
+void Canvas::select(OverlayControl &control)
+{
+    if (control.IsSelectedToGroup())
+        return;
+    ResetControlGridColour();
+    control.SetControlGridColour(controls::FrameSelected);
+    m_marked.push_back(control.weak_from_this());
+}
+
+void Canvas::setGroup(OverlayControl &control, bool joins)
+{
+    control.SetControlGroup(joins ? 1 : 0);
+    m_marked.push_back(control.weak_from_this());
 }
 
 void Canvas::showControl(OverlayControl &control)

@@ -81,8 +81,9 @@ private:
     std::optional<controls::Handle> handleAt(const controls::OverlayControl &control, QPointF twips) const;
 
     void pressControl(controls::OverlayControl &control, const QMouseEvent &event);
-    void toggleGroup(controls::OverlayControl &control);
+    // Marks it alone, unless it is in the group.
     void select(controls::OverlayControl &control);
+    void setGroup(controls::OverlayControl &control, bool joins);
     void pressEmpty(const QMouseEvent &event);
     void showMenu(const controls::OverlayControl &control, const QPoint &globalPosition);
     void showCanvasMenu(QPointF twips, const QPoint &globalPosition);
@@ -104,7 +105,8 @@ private:
     CanvasPicture m_picture;
     std::weak_ptr<controls::OverlayControl> m_current;
     Gesture m_gesture;
-    std::optional<QRect> m_band; // pixels
+    std::optional<QRect> m_band;                                   // pixels
+    std::vector<std::weak_ptr<controls::OverlayControl>> m_marked; // since the marks were last taken away
     bool m_isPlayMode = false;
 };
 

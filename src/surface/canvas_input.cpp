@@ -72,31 +72,18 @@ void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
     choose(control, ctrl);
     if (event.button() == Qt::RightButton && (ctrl || event.modifiers() == Qt::NoModifier)) {
         if (ctrl)
-            control.SetControlGroup(1);
+            setGroup(control, true);
         showMenu(control, event.globalPosition().toPoint());
         return;
     }
     const QPointF at = twips(event.position());
     const auto handle = handleAt(control, at);
     const bool toggles = event.button() == Qt::LeftButton && ctrl;
-    toggles ? toggleGroup(control) : select(control);
+    toggles ? setGroup(control, !control.IsSelectedToGroup()) : select(control);
     if (handle)
         m_gesture = Gesture::resizing(control, *handle, at);
     else if (!toggles || control.IsSelectedToGroup())
         m_gesture = Gesture::dragging(control, at);
-}
-
-void Canvas::toggleGroup(OverlayControl &control)
-{
-    control.SetControlGroup(control.IsSelectedToGroup() ? 0 : 1);
-}
-
-void Canvas::select(OverlayControl &control)
-{
-    if (control.IsSelectedToGroup())
-        return;
-    ResetControlGridColour();
-    control.SetControlGridColour(controls::FrameSelected);
 }
 
 void Canvas::pressEmpty(const QMouseEvent &event)
@@ -219,7 +206,7 @@ void Canvas::selectBand(QPointF start, QPointF end)
         return;
     for (OverlayControl *control : m_controls.controls()) {
         if (bandHolds(start, end, control->box()))
-            control->SetControlGroup(1);
+            setGroup(*control, true);
     }
 }
 
