@@ -131,7 +131,7 @@ void dragStep(benchmark::State &state, ControlType family)
     Times peerTimes;
     int step = 0;
     counter.paints = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const QPoint place = wayPoint(++step);
         state.SetIterationTime(ownTimes.measure([&] { dragTo(canvas, canvas, place); }));
         peerTimes.measure([&] { dragTo(peer, bare, place); });

@@ -38,7 +38,8 @@ QImage picture(int number)
 template <typename Control>
 Control &added(Program &program, ControlType family, int number)
 {
-    program.design().addControl(family, {number % 10 * 750.0, number / 10 * 1500.0});
+    const int row = number / 10;
+    program.design().addControl(family, {number % 10 * 750.0, row * 1500.0});
     return static_cast<Control &>(*program.design().controls().last());
 }
 
@@ -103,7 +104,7 @@ void saveRichLayout(benchmark::State &state)
     const QByteArray bytes = platform::readFile(program.savePath());
     Times own;
     Times peer;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.SetIterationTime(own.measure([&] { program.files().mnuSaveConfig(); }));
         peer.measure([&] {
             benchmark::DoNotOptimize(layoutfile::modCRC(bytes));
@@ -123,7 +124,7 @@ void loadRichLayout(benchmark::State &state)
     const std::vector<graphics::Planes> planes = planesOf(writer);
     Times own;
     Times peer;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Program reader;
         state.SetIterationTime(own.measure([&] {
             reader.files().load(writer.savePath());
