@@ -26,7 +26,7 @@ void Loading::keepCopies(const ObjectNames &claimed)
     std::vector<std::pair<QString, QByteArray>> copies;
     const auto named = [&](char kind, int number, const QImage &picture) {
         const QByteArray bytes = graphics::bmpOf(picture);
-        const QString name = controls::copyName(folder, controls::loadedName(kind, time, number), bytes);
+        QString name = controls::copyName(folder, controls::loadedName(kind, time, number), bytes);
         copies.emplace_back(name, bytes);
         return name;
     };

@@ -127,10 +127,11 @@ void gatherMessages(RecordGroups &groups, const recorder::MessageTable &table)
 void gatherIcon(RecordGroups &groups, const recorder::SpecialIcon &icon)
 {
     const graphics::Planes &planes = icon.picture.planes();
-    if (icon.enabled)
+    if (icon.enabled) {
         groups.add(SpecialIconRecord{1, common::toInteger<qint16>(planes.width),
                                      common::toInteger<qint16>(planes.height), icon.top, icon.left,
                                      icon.alpha, planes.y + planes.u + planes.v});
+    }
 }
 
 void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &settings, ProgressScope &progress)

@@ -148,7 +148,7 @@ QString QtPrompts::openFile(const FileRequest &request)
     if (request.folder.isEmpty())
         asked.folder = m_lastFolder;
     FileDialog dialog(parent(), asked, QFileDialog::AcceptOpen);
-    const QString path = dialog.chosenFile();
+    QString path = dialog.chosenFile();
     if (request.folder.isEmpty() && !path.isEmpty())
         m_lastFolder = QFileInfo(path).path();
     return path;
