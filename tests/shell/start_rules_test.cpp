@@ -20,26 +20,21 @@ using namespace shell;
 
 using recorder::VideoStandard;
 
-const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl",    "c.VGL",          "/x/a.txt",
-                         "/x/fooVGL",       "/me/12\" disc.VGL", "/me/12 disc.VGL"};
+const QStringList OnDisk{"/me/DEFAULT.VGL", "/my card/b.vgl",    "c.VGL",
+                         "/x/a.txt",        "/me/12\" disc.VGL", "/me/12 disc.VGL"};
 
 TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
 {
-    constexpr std::nullopt_t None = std::nullopt;
     const std::tuple<QStringList, const char *, std::optional<VideoStandard>> cases[] = {
-        {{}, "", None},
-        {{"/me/DEFAULT.VGL"}, "", None}, // a plain file name is not opened
-        {{"/F/me/DEFAULT.VGL"}, "/me/DEFAULT.VGL", None},
-        {{"/f\"/me/DEFAULT.VGL\""}, "/me/DEFAULT.VGL", None},
-        {{"/F", "/my card/b.vgl"}, "/my card/b.vgl", None},
-        {{"/F c.VGL "}, "c.VGL", None},
-        {{"/F/x/fooVGL"}, "/x/fooVGL", None},
-        {{"/F/x/a.txt"}, "", None},
-        {{"/F/me/12\" disc.VGL"}, "/me/12\" disc.VGL", None},
-        {{"/Fc.VGL", "/F/me/DEFAULT.VGL", "/Fmissing.VGL"}, "/me/DEFAULT.VGL", None},
+        {{"/me/DEFAULT.VGL"}, "", {}}, // a plain file name is not opened
+        {{"/f\"/me/DEFAULT.VGL\""}, "/me/DEFAULT.VGL", {}},
+        {{"/F", "/my card/b.vgl"}, "/my card/b.vgl", {}},
+        {{"/F c.VGL "}, "c.VGL", {}},
+        {{"/F/x/a.txt"}, "", {}},
+        {{"/F/me/12\" disc.VGL"}, "/me/12\" disc.VGL", {}},
+        {{"/Fc.VGL", "/F/me/DEFAULT.VGL", "/Fmissing.VGL"}, "/me/DEFAULT.VGL", {}},
         {{"/t", "pal"}, "", VideoStandard::Pal},
-        {{"/T\" Ntsc \""}, "", VideoStandard::Ntsc},
-        {{"/TPAL", "/TNTSC", "/TSECAM"}, "", VideoStandard::Ntsc},
+        {{"/TPAL", "/T\" Ntsc \"", "/TSECAM"}, "", VideoStandard::Ntsc},
         {{"/Xc.VGL", "/", "/T", "NTSC", "/Fc.VGL", "/F"}, "c.VGL", VideoStandard::Ntsc},
     };
     for (const auto &[arguments, layout, standard] : cases) {
@@ -48,8 +43,8 @@ TEST(CommandLine, opensTheLastLayoutThatExistsAndTakesTheLastStandard)
         EXPECT_EQ(parsed.layoutToOpen, layout) << qPrintable(arguments.join('|'));
         EXPECT_EQ(parsed.videoOverride, standard) << qPrintable(arguments.join('|'));
     }
-    const auto always = [](const QString &) { return true; };
-    EXPECT_EQ(parseCommandLine("x.VGL /Fa.VGL/b.VGL", always).layoutToOpen, "a.VGL"); // cut at every slash
+    const CommandLine cut = parseCommandLine("x.VGL /Fa.VGL/b.VGL", [](const auto &) { return true; });
+    EXPECT_EQ(cut.layoutToOpen, "a.VGL"); // at every slash
 }
 
 TEST(CommandLine, passesAPlainFileOnByItsLetter)
@@ -64,21 +59,20 @@ TEST(CommandLine, passesAPlainFileOnByItsLetter)
 // The words are seen at the Save command; here is which names need which question.
 TEST(SaveQuestions, dependOnTheChosenName)
 {
-    const auto asked = [](const char *path) {
-        const auto root = [](const QString &folder) { return folder == "/card"; };
-        return std::pair(longNameQuestion(path).has_value(), recorderNameQuestion(path, root).has_value());
-    };
-    for (const char *path : {"/card/DEFAULT.VGL", "/card/default.vgl", "/card//x/../DEFAULT.VGL"})
-        EXPECT_EQ(asked(path), std::pair(false, false)) << path;
-    for (const char *path : {"/DEFAULT.VGL", "/card/sub/DEFAULT.VGL", "/card/EIGHTCHR.VGL", "/card/DEFAULT"})
-        EXPECT_EQ(asked(path), std::pair(false, true)) << path;
-    for (const char *path : {"/card/NINECHARS.VGL", "/card/DEFAULT.VGL.VGL"})
-        EXPECT_EQ(asked(path), std::pair(true, true)) << path;
+    const auto root = [](const QString &folder) { return folder == "/card"; };
+    const std::tuple<const char *, bool, bool> cases[] = {{"/card/default.vgl", false, false},
+                                                          {"/card//x/../DEFAULT.VGL", false, false},
+                                                          {"/card/sub/DEFAULT.VGL", false, true},
+                                                          {"/card/EIGHTCHR.VGL", false, true},
+                                                          {"/card/DEFAULT.VGL.VGL", true, true}};
+    for (const auto &[path, isLong, isOther] : cases) {
+        EXPECT_EQ(longNameQuestion(path).has_value(), isLong) << path;
+        EXPECT_EQ(recorderNameQuestion(path, root).has_value(), isOther) << path;
+    }
 }
 
-class UserData : public testing::Test
+struct UserData : testing::Test
 {
-protected:
     QTemporaryDir root;
     test::ScriptedPrompts prompts;
     QString path(const char *name) const { return root.filePath(name); }
@@ -89,52 +83,46 @@ TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
     const platform::Folders folders{path("bin/"), path("home/"), {}, {}};
     QDir(root.path()).mkpath("bin/defaults");
     EXPECT_TRUE(isNewUser(folders));
-    for (const char *name : {"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg", "back.bmp"})
+    const QStringList definitions{"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg"};
+    for (const QString &name : definitions + QStringList{"back.bmp"})
         platform::replaceFile(folders.seeds() + name, "shipped");
     QDir(root.path()).mkpath("home/Torvane");
     EXPECT_FALSE(isNewUser(folders)); // cut short as it was
+    EXPECT_EQ(missingDefinitions(folders), definitions);
     platform::replaceFile(folders.inUserData("back.bmp"), "mine");
-    EXPECT_EQ(missingDefinitions(folders),
-              (QStringList{"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg"}));
     seedUserData(folders, shippedFiles(folders));
     EXPECT_EQ(platform::readFile(folders.inUserData("back.bmp")), "mine");
     EXPECT_EQ(platform::readFile(folders.variablesFile()), "shipped");
-    EXPECT_EQ(missingDefinitions(folders), QStringList());
     for (const QString &file : {folders.variablesFile(), folders.inUserData("back.bmp")})
         QFile::remove(file);
     const QStringList missing = missingDefinitions(folders);
-    EXPECT_EQ(missing, QStringList{"QLM6ConfigToolVars.cfg"});
-    const QString question = missingFilesQuestion(folders, missing);
-    EXPECT_TRUE(question.contains(folders.GetAppDataFolder()));
-    EXPECT_TRUE(question.contains(missing[0]));
+    EXPECT_EQ(missing, definitions.first(1));
+    EXPECT_TRUE(missingFilesQuestion(folders, missing).contains(missing[0]));
     seedUserData(folders, missing);
-    EXPECT_TRUE(QFile::exists(folders.variablesFile()));
     EXPECT_FALSE(QFile::exists(folders.inUserData("back.bmp")));
     QFile::remove(folders.variablesFile());
-    QFile::remove(folders.seeds() + "QLM6ConfigToolVars.cfg");
+    QFile::remove(folders.seeds() + missing[0]);
     EXPECT_EQ(missingDefinitions(folders), QStringList()); // nothing to offer
 }
 
 TEST_F(UserData, isWorkedOnByOneInstanceAtATime)
 {
+    const auto isFirst = [&](const char *folder) { return SingleInstance(path(folder), prompts).isFirst(); };
     const pid_t child = fork();
-    if (child == 0) {
-        const SingleInstance crashing(path("a/"), prompts);
-        _exit(crashing.isFirst() ? 0 : 1);
-    }
+    if (child == 0)
+        _exit(isFirst("a/") ? 0 : 1);
     int status = -1;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     ASSERT_EQ(status, 0);
-    ASSERT_TRUE(QFile::exists(path("a/morvel-config.lock")));
     {
         const SingleInstance first(path("a/"), prompts);
         EXPECT_TRUE(first.isFirst()); // the lock of the crashed one is taken over
-        EXPECT_FALSE(SingleInstance(path("a/"), prompts).isFirst());
-        EXPECT_TRUE(SingleInstance(path("b/"), prompts).isFirst());
+        EXPECT_FALSE(isFirst("a/"));
+        EXPECT_TRUE(isFirst("b/"));
     }
-    EXPECT_TRUE(SingleInstance(path("a/"), prompts).isFirst());
+    EXPECT_TRUE(isFirst("a/"));
     platform::replaceFile(path("file"), "");
-    EXPECT_TRUE(SingleInstance(path("file/"), prompts).isFirst()); // what cannot be locked locks nobody out
+    EXPECT_TRUE(isFirst("file/")); // what cannot be locked locks nobody out
     const auto without = [](QFile &) { return platform::ProcessLock::Answer::Unsupported; };
     for (const bool yes : {false, true}) {
         platform::replaceFile(path("a/morvel-config.lock"), "7\nmorvel-config\npitwall\n");

@@ -16,7 +16,6 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
     test::ScriptedPrompts &prompts = w.world.prompts;
     const platform::Folders &folders = w.world.state.folders;
     const QString path = w.world.root.filePath("mine.var");
-    platform::replaceFile(path, QByteArray(10'000'000, 'x')); // longer than the definitions
     const auto load = [&](const QString &file, const QString &message = {}) {
         prompts.expectQuestion(Replace, true);
         prompts.expectOpenFile(file);
@@ -28,20 +27,20 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
         return w.window.findChild<QTreeWidget *>("VarTree")->topLevelItem(0)->child(0)->text(0);
     };
 
-    prompts.expectQuestion(Replace, false);
-    w.run("mnuLoadVarInfo");
-    load({});
-    load(path, "The command could not be completed.\nThe variable file ends early or is ill-formed");
-    platform::replaceFile(path, QByteArray(10'000'000, '\xFF'));
-    load(path, variables::CorruptedDefinitions);
+    load({}); // cancelled
+    const std::pair<char, QString> damages[] = {
+        {'x', "The command could not be completed.\nThe variable file ends early or is ill-formed"},
+        {'\xFF', variables::CorruptedDefinitions}};
+    for (const auto &[byte, message] : damages) {
+        platform::replaceFile(path, QByteArray(10'000'000, byte)); // longer than the definitions
+        load(path, message);
+    }
     EXPECT_FALSE(QFile::exists(folders.variablesFile()));
-
     prompts.expectSaveFile(path);
     w.run("mnuSaveVarInfo");
     w.world.addVariable(2, "Pace");
     load(path);
     EXPECT_EQ(nameInTree(), "Speed  (SPEED)");
-    EXPECT_TRUE(w.world.state.catalogue.staging == w.world.state.catalogue.live);
     EXPECT_EQ(platform::readFile(folders.variablesFile()), platform::readFile(path));
     EXPECT_TRUE(platform::readFile(folders.inUserData("QLM6ConfigTool.XVR")).contains("<BaseName>Speed<"));
 
