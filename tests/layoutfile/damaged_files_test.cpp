@@ -45,24 +45,17 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
     const auto stating = [](const char *size) { return gauge(header()).replace(59, 4, bytes(size)); };
     const QByteArray largeIcon = frame("1B00", 42) + bytes("01 FF7F FF7F") + QByteArray(64, 'i');
     const QByteArray negativeIcon = frame("1B00", 42) + bytes("01 F8FF FEFF") + QByteArray(29, 'i');
-    const QByteArray manyGears = frame("0F00", 26) + bytes("0000803F FF") + QByteArray(25, 'g');
     const std::tuple<const char *, QByteArray, Types> cases[] = {
-        {"a file of one byte", "x", {}},
-        {"shorter than a header", header().first(30), {}},
         {"garbage between records", standard(one + "garbage between." + bytes("DCEB FA01")), {6, 12}},
         {"garbage that is no multiple of four", standard(gauge(one + "ab")), {6}},
         {"types that do not exist", standard(one + stray), {6, 12}},
         {"a stated size that nobody needs", standard(stating("FFFFFF7F")), {6, 12}},
-        {"a negative one", standard(stating("FFFFFFFF")), {6, 12}},
         {"an icon of another size than it states", standard(icon(header(), 4)), {27, 12}},
         {"an icon of the largest size", standard(one + largeIcon), {6}},
         {"an icon of negative sides", standard(one + negativeIcon), {6}},
         {"more planes than the file holds", standard(one + frame("1200", Largest)), {6}},
-        {"a negative number of planes", standard(one + frame("1200", Smallest)), {6}},
-        {"255 gears in room for two", one + manyGears, {6}},
         {"cut in a payload", one + standard(gauge({})).first(30), {6}},
         {"cut in a frame", one + frame("0600", 41).first(9), {6}},
-        {"cut behind a sync word", one + bytes("DCEBFA00"), {6}},
         {"the CRC serves as the last sum", one.chopped(2), {6}},
     };
     for (const auto &[name, content, expected] : cases) {
@@ -76,9 +69,9 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
 TEST(DamagedFile, theThumbnailWalkEndsWhereSizesCannotBeTrusted)
 {
     const std::tuple<const char *, QByteArray, QByteArray> cases[] = {
-        {"behind other records", standard(thumbnail(standard(gauge(header())))), "jpeg"},
-        {"behind garbage", thumbnail(gauge(header()) + "four"), ""},
-        {"behind an icon", thumbnail(icon(header(), 34)), ""},
+        {"after other records", standard(thumbnail(standard(gauge(header())))), "jpeg"},
+        {"after garbage", thumbnail(gauge(header()) + "four"), ""},
+        {"after an icon", thumbnail(icon(header(), 34)), ""},
         {"before an icon", icon(thumbnail(header()), 42), "jpeg"},
         {"larger than the file", header() + frame("1700", Largest) + "jpeg", ""},
         {"of a negative size", header() + frame("1700", Smallest) + "jpeg", ""},
@@ -102,10 +95,8 @@ TEST(DamagedFile, settingsThatAreMissingOrOfNothingThatExistsStayButForTheChapte
     recorder::RecorderSettings settings = before;
     settings.ChapterList = {{1, 0, 0, 2, 0, 1}};
     QByteArray file = header();
-    for (const int object : {0, 257, -1, -32768}) {
-        for (const int type : {14, 22})
-            file = withRecord(file, type, 2, object, bytes("0909"));
-    }
+    for (const int object : {0, 257, -1, -32768})
+        file = withRecord(withRecord(file, 14, 2, object, bytes("0909")), 22, 2, object, bytes("0909"));
     file = withRecord(file, 13, 2, 1, bytes("00 01"));                    // a rate below 0
     file = withRecord(file, 15, 10, 1, bytes("00000000 00 00 00000000")); // no gear at all
     const auto records = parseLayout(icon(file, 42));                     // no such icon
@@ -128,21 +119,16 @@ TEST(DamagedFile, settingsThatNoDialogCouldShowBecomeOnesThatItCan)
     file = withRecord(file, 10, 10, 1, bytes("02000000 000080FF 03 FF"));
     file = withRecord(file, 11, 10, 1, bytes("02000000 0000803F 02 FF"));
     file = withRecord(file, 13, 2, 1, bytes("07 03"));
-    for (const int object : {1, 2, 3}) {
-        file = withRecord(file, 14, 2, object, bytes("05 0A"));
-        file = withRecord(file, 22, 2, object, bytes("05 FF"));
-    }
+    for (const int object : {1, 2, 3})
+        file = withRecord(withRecord(file, 14, 2, object, bytes("05 0A")), 22, 2, object, bytes("05 FF"));
     file = withRecord(file, 15, 18, 1, bytes("0000C07F 01 0000C07F 0000807F 02 00000000"));
 
     recorder::RecorderSettings settings, expected;
     settings.encodePattern = recorder::EncodePattern::I;
-    for (const std::size_t kind : {0U, 1U, 2U})
-        settings.MessageTable[kind].kind = static_cast<quint8>(kind);
-    expected.MessageTable = settings.MessageTable;
-    for (const std::size_t kind : {0U, 1U, 2U}) {
-        recorder::MessageEntry &entry = expected.MessageTable[kind];
-        entry.number = 5;
-        entry.storageRate = entry.outputRate = kind == 0 ? 9 : 0;
+    for (const quint8 kind : std::array<quint8, 3>{0, 1, 2}) {
+        const quint8 off = kind == 0 ? 9 : 0;
+        settings.MessageTable[kind].kind = kind;
+        expected.MessageTable[kind] = {5, {}, off, off, kind};
     }
     expected.ChapterList = {{0, 0, 0, 2, 0, 0}, {9, 1, 1, 2, 1, 2}};
     expected.LapChapterActive = 1;

@@ -29,7 +29,7 @@ inline QByteArray littleEndian(quint32 value, int size)
 
 inline QByteArray withCrc(const QByteArray &file) { return file + littleEndian(layoutfile::modCRC(file), 4); }
 
-// One record behind `before`: sync word, type, stated size, object, payload and the sum of the stated size
+// One record after `before`: sync word, type, stated size, object, payload and the sum of the stated size
 // and twelve bytes, as far as there are so many.
 inline QByteArray withRecord(QByteArray before, int type, int statedSize, int object,
                              const QByteArray &payload)

@@ -12,8 +12,6 @@ using namespace layoutfile;
 using test::bytes;
 using variables::VariableRecord;
 
-const platform::NumberLocale Plain;
-
 // 2*x for variable 2.
 const QByteArray Doubled = bytes("011400000040 02120100 0108 0119");
 
@@ -83,7 +81,7 @@ TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
         if (entry.used == 1)
             used.mark(entry.variable);
     }
-    ProgramPass pass(catalogue, used, Plain);
+    ProgramPass pass(catalogue, used, {});
     for (const VariableEntry &entry : expected)
         EXPECT_EQ(encodePayload(pass.entry(entry.variable)).toHex(), encodePayload(entry).toHex());
     EXPECT_EQ(pass.programs().size(), 272);
@@ -115,13 +113,7 @@ TEST(Folding, programsBecomeUnitsOrEquations)
 
 TEST(Folding, aUsedVariableWithoutAProgramShowsItsRawValueAgain)
 {
-    const struct
-    {
-        const char *before, *allowed;
-        bool used, own;
-        int index;
-        const char *after;
-    } cases[] = {
+    const std::tuple<const char *, const char *, bool, bool, int, const char *> cases[] = {
         {"double", "double broken km/h raw", true, false, 2, "km/h"},
         {"raw", "double broken km/h raw", true, false, 2, "raw"}, // one raw unit is as good as the other
         {"gone", "km/h", true, false, 2, "km/h"},
@@ -131,18 +123,18 @@ TEST(Folding, aUsedVariableWithoutAProgramShowsItsRawValueAgain)
         {"double", "double km/h", true, true, 6001, "double"},
         {"double", "double km/h", true, false, 6001, "double"},
     };
-    for (const auto &c : cases) {
+    for (const auto &[before, allowed, used, own, index, after] : cases) {
         variables::Catalogue catalogue = someCatalogue();
         catalogue.units.push_back({"raw", "", "a$1$0", ""});
-        VariableRecord &variable = slot(catalogue, c.index);
-        variable.ApplyTransformation = c.before;
-        variable.AllowTransformations = QString(c.allowed).split(' ');
-        variable.UseCustomTrans = c.own;
-        const quint8 used = c.used ? 1 : 0;
-        foldVariables({{1, VariableEntry{c.index, used, 0, 0, -1, used}}, {1, ProgramsRecord{}}}, catalogue,
-                      Plain);
-        EXPECT_EQ(variable.ApplyTransformation, c.after) << c.allowed << c.index;
-        EXPECT_EQ(variable.UseCustomTrans, c.own || c.index > 6000);
+        VariableRecord &variable = slot(catalogue, index);
+        variable.ApplyTransformation = before;
+        variable.AllowTransformations = QString(allowed).split(' ');
+        variable.UseCustomTrans = own;
+        const quint8 flag = used ? 1 : 0;
+        foldVariables({{1, VariableEntry{index, flag, 0, 0, -1, flag}}, {1, ProgramsRecord{}}}, catalogue,
+                      {});
+        EXPECT_EQ(variable.ApplyTransformation, after) << allowed << index;
+        EXPECT_EQ(variable.UseCustomTrans, own || index > 6000);
     }
 }
 
@@ -166,13 +158,13 @@ TEST(Folding, whatPointsNowhereChangesNoDefinition)
         variables::Catalogue catalogue = start, expected = start;
         if (entry.variable == 2)
             slot(expected, 2).SmoothingTime = slot(expected, 2).MaximumROC = 1;
-        foldVariables({{1, entry}, {1, ProgramsRecord{Bulk{programs}}}}, catalogue, Plain);
+        foldVariables({{1, entry}, {1, ProgramsRecord{Bulk{programs}}}}, catalogue, {});
         EXPECT_TRUE(catalogue.live == expected.live)
             << entry.variable << ": " << entry.programLength << " bytes at " << entry.programOffset;
     }
 }
 
-TEST(SaveChecks, complainOfOneThingAtATime)
+TEST(SaveChecks, complainOfOneThingAtATimeAndFindASharedCamera)
 {
     constexpr ControlKind Map{controls::ControlType::TrackMap}, Bar{controls::ControlType::BarGraph};
     constexpr ControlKind Source{controls::ControlType::VideoSource};
@@ -184,16 +176,11 @@ TEST(SaveChecks, complainOfOneThingAtATime)
               "Please select one Video Source as a background video");
     EXPECT_EQ(saveComplaint({}), "System can't detect any object(s) to save");
     EXPECT_EQ(saveComplaint({Background, Source, Source, Map, Bar, Bar}), "");
-}
 
-TEST(SaveChecks, findTheCameraThatIsNamedTwice)
-{
     RecordGroups groups;
     for (const quint8 camera : std::array<quint8, 4>{1, 3, 2, 3}) {
         EXPECT_FALSE(sharesCamera(groups.of(RecordType::VideoSource)));
-        VideoSourceRecord source;
-        source.cameraNo = camera;
-        groups.add(source);
+        groups.add(VideoSourceRecord{.borderColour = {}, .cameraNo = camera});
     }
     EXPECT_TRUE(sharesCamera(groups.of(RecordType::VideoSource)));
 }

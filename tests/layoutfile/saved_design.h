@@ -13,22 +13,16 @@ inline QString pathIn(DesignWindow &d, const char *name)
     return d.world.root.filePath(QLatin1String(name));
 }
 
-inline layoutfile::LayoutBytes save(DesignWindow &d, controls::ControlSurface &surface,
-                                    layoutfile::SaveKind kind, platform::Progress &progress)
+inline layoutfile::LayoutBytes save(DesignWindow &d,
+                                    layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
 {
     shell::ProgramState &state = d.world.state;
-    return layoutfile::layoutBytes(kind, {surface, state.catalogue, state.settings, state.fonts,
+    platform::NoProgress progress;
+    return layoutfile::layoutBytes(kind, {d.design(), state.catalogue, state.settings, state.fonts,
                                           d.world.prompts, progress, state.stamp, state.screen});
 }
 
-inline layoutfile::LayoutBytes save(DesignWindow &d, controls::ControlSurface &surface,
-                                    layoutfile::SaveKind kind = layoutfile::SaveKind::Command)
-{
-    platform::NoProgress progress;
-    return save(d, surface, kind, progress);
-}
-
-inline QByteArray savedDesign(DesignWindow &d) { return save(d, d.design()).file; }
+inline QByteArray savedDesign(DesignWindow &d) { return save(d).file; }
 
 inline void loadDesign(DesignWindow &d, const QByteArray &file)
 {
