@@ -22,20 +22,13 @@ QByteArray program(const QString &equation, const platform::NumberLocale &locale
 TEST(StringBuilding, makesTextReadyForTheParser)
 {
     const std::pair<const char *, const char *> cases[] = {
-        {"x+1", " var_0042+1 "},
-        {"2*Max(x,u)", " 2*max(var_0042,var_0042) "},
         {"EXP(3x)+Sum(u,2u) xor X", " exp(3var_0042)+sum(var_0042,2var_0042) xor var_0042 "},
-        {"car_10+CAR_9", " 00+0 "},
-        {"car_1+car_2+car_3+car_4+car_5+car_6+car_7+car_8", " 0+0+0+0+0+0+0+0 "},
-        {"CdA*Roll+Mass", " 0*0+0 "},
-        {"Temp+Press+Humid", " temp+press+humid "},
+        {"car_10+CAR_9+car_1+car_2+car_3+car_4+car_5+car_6+car_7+car_8", " 00+0+0+0+0+0+0+0+0+0 "},
+        {"CdA*Roll+Mass+Temp+Press+Humid", " 0*0+0+temp+press+humid "},
     };
     for (const auto &[text, expected] : cases)
         EXPECT_EQ(StringBuilding(text, Owner, Plain), expected);
-    EXPECT_EQ(StringBuilding("Max(1,5;0.5)", Owner, Comma), " max(1.5,0.5) ");
-    EXPECT_EQ(StringBuilding(QString::fromUtf8("1\u066B5\u060Cé"), 7,
-                             {QString(QChar(0x66B)), QString(QChar(0x60C))}),
-              " 1.5,? ");
+    EXPECT_EQ(StringBuilding("1\u066B5\u060Cé", 7, {"\u066B", "\u060C"}), " 1.5,? ");
 }
 
 TEST(Compiler, writesTheBytesOfTheRecorder)
@@ -76,16 +69,9 @@ TEST(Compiler, bindsOperatorsAsInTheGrammar)
         EXPECT_EQ(result.status, RunStatus::Ended) << equation;
         EXPECT_FLOAT_EQ(result.value, static_cast<float>(expected)) << equation;
     }
-}
-
-TEST(Compiler, numbersReachAsFarAsTheirTypes)
-{
-    const std::pair<const char *, double> cases[] = {{"-2147483648 or 0", -2147483648.0},
-                                                     {"2147483520 and -1", 2147483520},
-                                                     {"1+1e38*(1e-50+1e-400+0.0001e-99999)", 1},
-                                                     {"1e38*1e-45", 1.401298e-7}};
-    for (const auto &[equation, expected] : cases)
-        EXPECT_FLOAT_EQ(Standard(program(equation)).value, static_cast<float>(expected)) << equation;
+    EXPECT_EQ(Standard(program("-2147483648 or 0")).value, -0x1p31F);
+    EXPECT_EQ(Standard(program("1+1e38*(1e-50+1e-400+0.0001e-99999)")).value, 1.0F);
+    EXPECT_FLOAT_EQ(Standard(program("1e38*1e-45")).value, 1.401298e-7F);
 }
 
 TEST(Evaluator, knowsEveryFunction)
@@ -113,10 +99,6 @@ TEST(Compiler, refusesWhatIsNoEquation)
           "1e39",     "1and2",       "x!3",     "x=3",    "x<>3",      "10.1e38",  "1e400"})
         EXPECT_TRUE(program(equation).isEmpty()) << equation;
     EXPECT_TRUE(program(QString("1+2") + QChar(0)).isEmpty());
-    QByteArray bytes("kept");
-    for (const int owner : {0, 8001})
-        EXPECT_FALSE(compile("x", bytes, owner, Plain)) << owner;
-    EXPECT_EQ(bytes, "kept");
     // What the run with all variables 0 cannot finish.
     for (const char *equation :
          {"sqrt(x-1)", "exp(100)", "1e38*10", "0^-1", "(-8)^(1/3)", "atanh(1)", "3e9 and 1", "1 or 3e9",
@@ -131,18 +113,9 @@ TEST(Compiler, refusesWhatOutgrowsItsLimits)
     EXPECT_TRUE(program(sum("x", 43)).isEmpty());
     EXPECT_EQ(program(sum("1", 32)).size(), 256); // bytes are the narrower limit here
     EXPECT_TRUE(program(sum("1", 33)).isEmpty());
-    EXPECT_EQ(program(QString(62, '-') + 'x').size(), 4 + 62 * 4 + 2);
     for (const char *part : {"-", "(", "sin(", "1+(", "2^-", "max(1,", "3var_0001^"})
         EXPECT_TRUE(program(QString(part).repeated(100'000)).isEmpty()) << part;
-    EXPECT_EQ(program(QString(150, '(') + 'x' + QString(150, ')')), program("x"));
-    // A compound minus needs six words.
-    for (const auto &[words, grown] : {std::pair(250, 256), {252, 252}, {254, 254}, {256, 256}}) {
-        WordProgram full;
-        while (full.size() < words)
-            full.append(FirstSlot, Op::Nothing);
-        EXPECT_EQ(full.subtractFromZero(0, FirstSlot), grown > words) << words;
-        EXPECT_EQ(full.size(), grown);
-    }
+    EXPECT_TRUE(program("-(" + sum("x", 42) + ')').isEmpty());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "variables/filter_design.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numbers>
@@ -10,8 +11,6 @@ using namespace variables;
 using enum FilterModel;
 using enum FilterType;
 
-constexpr double Pi = std::numbers::pi;
-
 double chebyshevPolynomial(int n, double x)
 {
     return std::fabs(x) <= 1 ? std::cos(n * std::acos(x)) : std::cosh(n * std::acosh(std::fabs(x)));
@@ -20,17 +19,11 @@ double chebyshevPolynomial(int n, double x)
 // The frequency in units of the corner, once bent to the endless axis of an analogue filter.
 double bentFrequency(const FilterSettings &filter, double hertz)
 {
-    const auto bent = [](double f) { return std::tan(Pi * f / FilterSampleRate); };
-    switch (filter.type) {
-    case LowPass:
-        return bent(hertz) / bent(filter.upper);
-    case HighPass:
-        return bent(filter.lower) / bent(hertz);
-    case BandPass:
-        return (bent(hertz) * bent(hertz) - bent(filter.lower) * bent(filter.upper)) /
-               (bent(hertz) * (bent(filter.upper) - bent(filter.lower)));
-    }
-    return 0;
+    const auto bent = [](double f) { return std::tan(std::numbers::pi * f / FilterSampleRate); };
+    const double f = bent(hertz), low = bent(filter.lower), high = bent(filter.upper);
+    if (filter.type == BandPass)
+        return (f * f - low * high) / (f * (high - low));
+    return filter.type == LowPass ? f / high : low / f;
 }
 
 // The closed forms of the analogue magnitudes.
@@ -58,18 +51,14 @@ TEST(AdvancedFiltering, meetsTheClosedForms)
         {Chebyshev, BandPass, 5, 45, 0.2, 6},
     };
     for (const FilterSettings &filter : cases) {
-        SCOPED_TRACE(testing::Message()
-                     << static_cast<int>(filter.model) << " " << static_cast<int>(filter.type) << " "
-                     << filter.lower << " " << filter.upper << " " << filter.order);
         const FilterResponse response = AdvancedFiltering(filter);
         FilterResponse expected{};
         for (std::size_t i = 0; i < expected.size(); ++i)
-            expected[i] = amplitude(filter, i == 0     ? 5e-7
-                                            : i == 100 ? 50 - 5e-7
-                                                       : static_cast<double>(i) / 2);
+            expected[i] = amplitude(filter, std::clamp(static_cast<double>(i) / 2, 5e-7, 50 - 5e-7));
         const double largest = *std::max_element(expected.begin(), expected.end());
         for (std::size_t i = 0; i < expected.size(); ++i)
-            EXPECT_NEAR(response[i], expected[i] / largest, 2e-6) << "at step " << i;
+            EXPECT_NEAR(response[i], expected[i] / largest, 2e-6)
+                << filter.lower << " " << filter.upper << " at " << i;
         EXPECT_EQ(*std::max_element(response.begin(), response.end()), 1.0);
         for (const auto &pole : designFilter(filter, FilterNyquist).poles)
             EXPECT_LT(std::abs(pole), 1);
@@ -80,36 +69,29 @@ TEST(AdvancedFiltering, meetsTheClosedForms)
 // centre.
 TEST(AdvancedFiltering, staysFiniteAtTheEndsOfTheRange)
 {
-    for (const FilterModel model : {Butterworth, Chebyshev}) {
-        for (const FilterSettings &filter : {FilterSettings{model, LowPass, -1, 50, 1, 10},
-                                             {model, HighPass, 50, -1, 1, 10},
-                                             {model, BandPass, 25, 25, 1, 6},
-                                             {model, BandPass, 30, 10, 1, 8}}) {
-            for (const double value : AdvancedFiltering(filter))
-                EXPECT_TRUE(value >= 0 && value <= 1) << value;
-        }
+    for (const FilterSettings &filter : {FilterSettings{Butterworth, LowPass, -1, 50, 1, 10},
+                                         {Chebyshev, HighPass, 50, -1, 1, 10},
+                                         {Chebyshev, BandPass, 25, 25, 1, 6},
+                                         {Butterworth, BandPass, 30, 10, 1, 8}}) {
+        for (const double value : AdvancedFiltering(filter))
+            EXPECT_TRUE(value >= 0 && value <= 1) << value;
     }
 }
 
 TEST(FilterRules, bringWhatWasTypedWithinBounds)
 {
-    const struct
-    {
-        FilterSettings typed, expected;
-    } cases[] = {
+    const std::pair<FilterSettings, FilterSettings> cases[] = {
         {{Chebyshev, LowPass, 0, 10, 1, 7}, {Chebyshev, LowPass, 0, 10, 1, 8}},
-        {{Chebyshev, LowPass, 0, 10, 1, 1}, {Chebyshev, LowPass, 0, 10, 1, 2}},
         {{Chebyshev, LowPass, 0, 10, 1, 5}, {Chebyshev, LowPass, 0, 10, 1, 4}}, // 2.5 goes to the even 2
         {{Chebyshev, LowPass, 0, 10, 1, 30}, {Chebyshev, LowPass, 0, 10, 1, 10}},
         {{Chebyshev, LowPass, 0, 3, 1, 6}, {Chebyshev, LowPass, 0, 3, 1, 2}},
         {{Chebyshev, LowPass, 2, 10, 1, 6}, {Chebyshev, LowPass, 2, 10, 1, 6}}, // 2 is not in use
         {{Chebyshev, HighPass, 4.9, 60, 0, 6}, {Chebyshev, HighPass, 4.9, 60, 0.01, 2}},
-        {{Chebyshev, BandPass, 4, 20, 0.5, 6}, {Chebyshev, BandPass, 4, 20, 0.5, 2}},
         {{Chebyshev, BandPass, 5, 20, 0.5, 6}, {Chebyshev, BandPass, 5, 20, 0.5, 6}},
         {{Chebyshev, BandPass, std::nan(""), HUGE_VAL, 9, 0}, {Chebyshev, BandPass, 1, 50, 3, 2}},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(filterWithinBounds(c.typed), c.expected) << c.typed.lower << " " << c.typed.order;
+    for (const auto &[typed, expected] : cases)
+        EXPECT_EQ(filterWithinBounds(typed), expected) << typed.lower << " " << typed.order;
 }
 
 } // namespace
