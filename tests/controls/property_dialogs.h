@@ -2,6 +2,11 @@
 
 #include "support/design_window.h"
 
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+
 #include <memory>
 
 // Driving a property dialog by its fields' names.
@@ -33,42 +38,51 @@ inline void type(QDialog &dialog, const QString &texts)
     }
 }
 
-template <typename Dialog, typename Control>
+// A control in a window of its own, with its corner at this canvas pixel.
+template <typename Dialog, typename Control, controls::ControlType Type, int X = 100, int Y = 200>
 struct Properties : testing::Test
 {
+    Control &add()
+    {
+        w.design().addControl(Type, QPointF(X * 15, Y * 15));
+        return static_cast<Control &>(*w.design().controls().last());
+    }
+
     // A dialog in which these texts were typed and the button was pressed.
-    std::unique_ptr<Dialog> pressed(const char *button, const QString &texts, int barType = 0)
+    std::unique_ptr<Dialog> pressed(const char *button, const QString &texts)
     {
         auto dialog = std::make_unique<Dialog>(control);
         dialog->show();
-        if (barType == 1)
-            list(*dialog, "cmbBarType").setCurrentIndex(1);
         type(*dialog, texts);
         press(*dialog, button);
         return dialog;
     }
 
+    struct Refusal
+    {
+        const char *texts;
+        QString message;
+        platform::Icon icon = platform::Icon::Information;
+    };
+
     // An empty message is the general one. Nothing may be written.
-    void expectRefusals(const char *button, std::initializer_list<std::pair<const char *, QString>> refusals)
+    void expectRefusals(const char *button, std::initializer_list<Refusal> refusals)
     {
         const QStringList before = control.Serialise();
         const controls::Box place = control.box();
-        for (const auto &[texts, message] : refusals) {
+        for (const auto &[texts, message, icon] : refusals) {
             SCOPED_TRACE(texts);
             w.world.prompts.expectMessage(message);
             EXPECT_TRUE(pressed(button, texts)->isVisible());
             EXPECT_EQ(w.world.prompts.shown().back().icon,
-                      message.isNull() ? platform::Icon::Critical : platform::Icon::Information);
+                      message.isNull() ? platform::Icon::Critical : icon);
             EXPECT_EQ(control.Serialise(), before);
             EXPECT_EQ(control.box(), place);
         }
     }
 
     DesignWindow w;
-    Control &control;
-
-protected:
-    explicit Properties(Control &(DesignWindow::*add)(int, int)) : control((w.*add)(100, 200)) {}
+    Control &control = add();
 };
 
 } // namespace test

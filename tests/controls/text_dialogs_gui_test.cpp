@@ -5,35 +5,23 @@
 
 namespace {
 
-using controls::DigitalDisplay;
-using controls::DigitalDisplayDialog;
-using controls::TextTag;
-using controls::TextTagDialog;
+using namespace controls;
 using test::box;
-using test::DesignWindow;
 using test::list;
 using test::press;
 using test::type;
 
-struct DisplayProperties : test::Properties<DigitalDisplayDialog, DigitalDisplay>
-{
-    DisplayProperties() : Properties(&DesignWindow::addDisplay) {}
-};
-
-struct TagProperties : test::Properties<TextTagDialog, TextTag>
-{
-    TagProperties() : Properties(&DesignWindow::addTag) {}
-};
+using DisplayProperties = test::Properties<DigitalDisplayDialog, DigitalDisplay, ControlType::DigitalDisplay>;
+using TagProperties = test::Properties<TextTagDialog, TextTag, ControlType::TextTag>;
 
 QString label(QDialog &dialog, const char *name) { return test::child<QLabel>(dialog, name).text(); }
 
-void chooseBlocks(DesignWindow &w, QDialog &dialog)
+void chooseBlocks(test::DesignWindow &w, QDialog &dialog)
 {
-    test::writeBlockFont(w.world, {"Block", 14, {true}});
-    QFont font("Block [foundry]", 14, QFont::Bold);
-    w.world.prompts.expectFont(font);
+    test::writeBlockFont(w.world, {"Block", 14, {true, true}});
+    w.world.prompts.expectFont(QFont("Block [foundry]", 14, QFont::Bold, true));
     press(dialog, "cmdFont");
-    EXPECT_EQ(label(dialog, "lblFont"), "Block [foundry] - Bold - 14");
+    EXPECT_EQ(label(dialog, "lblFont"), "Block [foundry] - Bold Italic - 14");
 }
 
 TEST_F(DisplayProperties, ArePreviewedAndAllWrittenByApply)
@@ -45,21 +33,19 @@ TEST_F(DisplayProperties, ArePreviewedAndAllWrittenByApply)
     type(dialog, "DefaultVal=3725.5");
     preview();
     press(dialog, "chkShowInTimeFormat");
-    preview();
     EXPECT_FALSE(list(dialog, "cmbDecMark").isEnabled());
     type(dialog, "DecimalPlaces=1");
     preview();
     press(dialog, "chkShowInTimeFormat");
-    preview();
     QTest::keyClick(&list(dialog, "cmbDecMark"), Qt::Key_Down);
     preview();
-    EXPECT_EQ(previews.join(' '), "0.00 3725.50 00:00:00.00 01:02:05.5 0.00 3725,5");
+    EXPECT_EQ(previews.join(' '), "0.00 3725.50 01:02:05.5 3725,5");
     EXPECT_FALSE(box(dialog, "LowerLimit").isEnabled());
     press(dialog, "chkApplyLimits");
     chooseBlocks(w, dialog);
     type(dialog, "CenterX=-700 LowerLimit=-5 UpperLimit=10 Alfa=50");
     press(dialog, "cmdApply");
-    EXPECT_EQ(control.Serialise().join('|'), "1050|300|1|1|0|Block|14|0|0|255|4864815|3725,5|2|640|205|"
+    EXPECT_EQ(control.Serialise().join('|'), "1050|300|1|1|1|Block|14|0|0|255|4864815|3725,5|2|640|205|"
                                              "255|1|-5|10|3725.5|1|128|0|0|0|0");
     press(*pressed("chkApplyLimits", {}), "cmdApply");
     EXPECT_EQ(control.Serialise().mid(17, 2).join('|'), "0|0");
@@ -70,18 +56,11 @@ TEST_F(DisplayProperties, ArePreviewedAndAllWrittenByApply)
 TEST_F(DisplayProperties, ARefusedApplyWritesNothing)
 {
     control.write("newUpperLimit", 1);
-    const QStringList before = control.Serialise();
-    const auto expect = [&](const char *texts, const QString &message, platform::Icon icon) {
-        w.world.prompts.expectMessage(message);
-        EXPECT_TRUE(pressed("cmdApply", texts)->isVisible());
-        EXPECT_EQ(w.world.prompts.shown().back().icon, icon);
-        EXPECT_EQ(control.Serialise(), before);
-    };
-    expect("DecimalPlaces=21 Alfa=256", "Invalid number of Decimal Places", platform::Icon::Critical);
-    expect("CenterX=9 UpperLimit=0,5 Alfa=256", "Upper and lower limit can't be 0",
-           platform::Icon::Information);
-    expect("CenterX=9 Alfa=256", "Invalid Alpha Value", platform::Icon::Information);
-    expect("CenterX=9 Alfa=101", {}, platform::Icon::Critical); // is let through, and has no byte
+    expectRefusals("cmdApply", {{"DecimalPlaces=21 Alfa=256", "Invalid number of Decimal Places",
+                                 platform::Icon::Critical},
+                                {"CenterX=9 UpperLimit=0,5 Alfa=256", "Upper and lower limit can't be 0"},
+                                {"CenterX=9 Alfa=256", "Invalid Alpha Value"},
+                                {"CenterX=9 Alfa=101", {}}}); // is let through, and has no byte
 }
 
 TEST_F(TagProperties, AFieldIsStoredAsItsRowAndItsPattern)
@@ -93,7 +72,7 @@ TEST_F(TagProperties, AFieldIsStoredAsItsRowAndItsPattern)
     EXPECT_EQ(box(dialog, "Text").text(), "Time(hh:mm:ss)");
     chooseBlocks(w, dialog);
     press(dialog, "cmdApply");
-    EXPECT_EQ(control.Serialise().join('|'), "1350|300|0|1|0|Block|14|0|0|0|0|hh:mm:ss|0|0|0|11|255|0|0|0");
+    EXPECT_EQ(control.Serialise().join('|'), "1350|300|0|1|1|Block|14|0|0|0|0|hh:mm:ss|0|0|0|11|255|0|0|0");
 
     TextTagDialog again(control);
     EXPECT_EQ(label(again, "lblText") + box(again, "Text").text(), "Fieldhh:mm:ss");
@@ -124,9 +103,8 @@ TEST_F(TagProperties, ARefusedOrUntouchedApplyWritesNothing)
     expectRefusals("cmdApply", {{"CenterX=9 Alfa=101", "Invalid Alfa Value"}, {"CenterX=40000", {}}});
     pressed("cmdApply", {});
     EXPECT_EQ(control.Serialise(), before);
-    forms::Typed typed;
-    typed.texts = {{"txtText", ""}, {"txtAlfa", "101"}};
-    EXPECT_EQ(controls::validateTextTag(typed)->text, "Please enter text to display");
+    const forms::Typed empty{{{"txtText", ""}, {"txtAlfa", "101"}}, {}};
+    EXPECT_EQ(validateTextTag(empty)->text, "Please enter text to display");
 }
 
 } // namespace

@@ -28,17 +28,10 @@ TEST(DisplayText, isANumberOrATimeWithTheMarkOfTheDisplay)
     }
 }
 
-TEST(FieldText, isThePatternOfADateOrTimeAndElseTheName)
+TEST(TagText, isThePatternOfAFieldOrAsTypedAndCutToThirtyCharactersOfTheCodePage)
 {
-    for (const auto &[row, text] :
-         {std::pair{5, "dd/mm/yy"}, {9, "dd mon yyyy"}, {11, "hh:mm:ss"}, {12, "String 5"}})
-        EXPECT_EQ(fieldText(row, TextTypes[static_cast<std::size_t>(row)]), text);
-    EXPECT_EQ(fieldText(5, "dd/mm/yy"), "dd/mm/yy");
+    EXPECT_EQ(fieldText(5, TextTypes[5]) + fieldText(11, TextTypes[11]), "dd/mm/yyhh:mm:ss");
     EXPECT_EQ(fieldText(0, "Oil (front)"), "Oil (front)");
-}
-
-TEST(StoredText, isCutToThirtyCharactersOfTheCodePage)
-{
     EXPECT_EQ(storedText(QString(31, 'x')), QByteArray(30, 'x'));
     EXPECT_EQ(storedText(QString::fromUtf8("10 °C\0 Ω", 10)), "10 \xB0"
                                                               "C ?");
