@@ -1,5 +1,6 @@
 #include "shell/commands.h"
 
+#include "recorder/dialogs/frm_frequency.h"
 #include "recorder/dialogs/frm_special_icons.h"
 #include "shell/frm_main.h"
 #include "shell/frm_start_splash.h"
@@ -50,6 +51,7 @@ struct CommandTable
     {
         w.m_design->pressKey(Key);
     }
+    static forms::Context dialogContext(frmMain &w) { return {w.m_prompts, w.m_state.locale, &w}; }
     static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
 
     static constexpr Command Rows[] = {
@@ -145,13 +147,19 @@ struct CommandTable
          .run = [](frmMain &w) { w.m_design->resetPanels(); }},
 
         {.places = ConfigurationMenu,
+         .name = "mnuSetMsgFrequency",
+         .caption = "Message Frequency",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmFrequency(w.m_state.settings.MessageTable, w.m_state.folders.MessagesFile(),
+                                        dialogContext(w))
+                     .exec();
+             }},
+        {.places = ConfigurationMenu,
          .name = "mnuSpecialIcons",
          .caption = "Special Icons",
          .run =
-             [](frmMain &w) {
-                 recorder::frmSpecialIcons(w.m_state.settings.icon, {w.m_prompts, w.m_state.locale, &w})
-                     .exec();
-             }},
+             [](frmMain &w) { recorder::frmSpecialIcons(w.m_state.settings.icon, dialogContext(w)).exec(); }},
         {.places = EncodePatternMenu,
          .name = "mnuI",
          .caption = "I",

@@ -1,0 +1,104 @@
+#include "recorder/dialogs/message_grid.h"
+
+#include "recorder/message_rates.h"
+
+#include <QApplication>
+#include <QHeaderView>
+
+namespace recorder {
+
+namespace {
+
+constexpr std::array Headers{"No.", "Message", "Storage Frequency", "Output Frequency"};
+
+// Of a column that shows one.
+quint8 MessageEntry::*rateOf(int column)
+{
+    switch (column) {
+    case MessageModel::Storage:
+        return &MessageEntry::storageRate;
+    case MessageModel::Output:
+        return &MessageEntry::outputRate;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+void MessageModel::set(void (*rates)(MessageTable &))
+{
+    rates(m_table);
+    emit dataChanged(index(0, Storage), index(rowCount() - 1, Output));
+}
+
+int MessageModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_table.size());
+}
+
+int MessageModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : Columns; }
+
+QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QAbstractTableModel::headerData(section, orientation, role);
+    return QLatin1String(Headers.at(static_cast<std::size_t>(section)));
+}
+
+QVariant MessageModel::data(const QModelIndex &index, int role) const
+{
+    const MessageEntry &entry = m_table[static_cast<std::size_t>(index.row())];
+    const bool isShown = role == Qt::DisplayRole;
+    if (const auto rate = rateOf(index.column())) {
+        if (isShown)
+            return rateText(entry.*rate, entry.kind);
+        return role == Qt::EditRole ? QVariant(rateChoice(entry.*rate, entry.kind)) : QVariant();
+    }
+    if (!isShown)
+        return {};
+    return index.column() == Number ? QVariant(entry.number) : QVariant(entry.name);
+}
+
+// A code that the choice stands for as well is kept.
+bool MessageModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    const auto rate = rateOf(index.column());
+    if (!rate || role != Qt::EditRole || value == data(index, role))
+        return false;
+    m_table[static_cast<std::size_t>(index.row())].*rate = static_cast<quint8>(value.toUInt());
+    emit dataChanged(index, index);
+    return true;
+}
+
+Qt::ItemFlags MessageModel::flags(const QModelIndex &index) const
+{
+    return QAbstractTableModel::flags(index) |
+           (rateOf(index.column()) ? Qt::ItemIsEditable : Qt::NoItemFlags);
+}
+
+MessageGrid::MessageGrid(const MessageTable &table) : CellGrid("grdInput", new MessageModel(table))
+{
+    for (const int column : {MessageModel::Storage, MessageModel::Output}) {
+        setList(column, "cmbUpdate", [this](int row) {
+            return rateChoices(messages().table()[static_cast<std::size_t>(row)].kind);
+        });
+    }
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    horizontalHeader()->setSectionResizeMode(MessageModel::Name, QHeaderView::Stretch);
+    setAlternatingRowColors(true);
+    setCurrentIndex(model()->index(0, MessageModel::Storage));
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(QApplication::keyboardInputInterval());
+    m_pause.callOnTimeout(this, [this] { m_typed.clear(); });
+}
+
+void MessageGrid::keyboardSearch(const QString &text)
+{
+    m_typed += text;
+    m_pause.start();
+    if (const auto row = findMessage(messages().table(), m_typed, currentIndex().row()))
+        setCurrentIndex(currentIndex().siblingAtRow(*row));
+}
+
+} // namespace recorder

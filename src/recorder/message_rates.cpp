@@ -1,0 +1,100 @@
+#include "recorder/message_rates.h"
+
+#include <algorithm>
+
+namespace recorder {
+
+namespace {
+
+constexpr quint8 Stream = 0;
+constexpr quint8 NeededEvent = 2;
+
+constexpr quint8 codeOf(RateCode rate) { return static_cast<quint8>(rate); }
+
+constexpr quint8 On = codeOf(RateCode::Hz100);
+constexpr quint8 Off = codeOf(RateCode::Disabled);
+
+struct MessageRate
+{
+    quint8 number;
+    RateCode rate;
+};
+
+void setOutput(MessageTable &table, RateCode rate, const std::vector<MessageRate> &exceptions)
+{
+    for (MessageEntry &entry : table) {
+        const auto exception = std::ranges::find(exceptions, entry.number, &MessageRate::number);
+        entry.outputRate = codeOf(exception == exceptions.end() ? rate : exception->rate);
+    }
+}
+
+// The first row from `from` on, round the table, for which this holds.
+template <typename Condition>
+std::optional<int> firstRow(const MessageTable &table, int from, Condition holds)
+{
+    const int count = static_cast<int>(table.size());
+    for (int step = 0; step < count; ++step) {
+        const int row = (from + step) % count;
+        if (holds(table[static_cast<std::size_t>(row)]))
+            return row;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+forms::Choices rateChoices(quint8 kind)
+{
+    if (kind != Stream)
+        return {{QStringLiteral("On"), On}, {QStringLiteral("Off"), Off}};
+    return forms::numbered(
+        std::array{"100Hz", "50Hz", "25Hz", "10Hz", "5Hz", "1Hz", "0.5Hz", "0.2Hz", "0.1Hz", "Disabled"});
+}
+
+quint8 rateChoice(quint8 rate, quint8 kind) { return kind == Stream || rate == Off ? rate : On; }
+
+QString rateText(quint8 rate, quint8 kind)
+{
+    const forms::Choices choices = rateChoices(kind);
+    const auto choice = std::ranges::find(choices, int{rateChoice(rate, kind)}, &forms::Choice::value);
+    return choice == choices.end() ? QString() : choice->text;
+}
+
+void setStorageToMaximum(MessageTable &table)
+{
+    for (MessageEntry &entry : table)
+        entry.storageRate = codeOf(RateCode::Hz100);
+}
+
+void setOutputToMaximum(MessageTable &table) { setOutput(table, RateCode::Hz100, {{3, RateCode::Disabled}}); }
+
+void setOutputToTypical(MessageTable &table)
+{
+    setOutput(
+        table, RateCode::Hz5,
+        {{3, RateCode::Disabled}, {8, RateCode::Hz25}, {18, RateCode::Hz25}, {104, RateCode::Disabled}});
+}
+
+void disableOutput(MessageTable &table)
+{
+    for (MessageEntry &entry : table)
+        entry.outputRate = entry.kind == NeededEvent ? On : Off;
+}
+
+std::optional<int> findMessage(const MessageTable &table, const QString &text, int from)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (isNumber)
+        return firstRow(table, 0, [number](const MessageEntry &entry) { return entry.number == number; });
+    const auto begins = [&text](const MessageEntry &entry) {
+        return entry.name.startsWith(text, Qt::CaseInsensitive);
+    };
+    if (const auto row = firstRow(table, from, begins))
+        return row;
+    return firstRow(table, from, [&text](const MessageEntry &entry) {
+        return entry.name.contains(text, Qt::CaseInsensitive);
+    });
+}
+
+} // namespace recorder

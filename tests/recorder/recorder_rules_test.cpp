@@ -1,0 +1,67 @@
+#include "recorder/message_rates.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace recorder;
+
+// 256 messages at 10 Hz, every third one of the same kind.
+MessageTable someMessages()
+{
+    MessageTable table;
+    for (int i = 0; i < 256; ++i)
+        table[static_cast<std::size_t>(i)] = {static_cast<quint8>(i), QStringLiteral("Message %1").arg(i), 3,
+                                              3, static_cast<quint8>(i % 3)};
+    return table;
+}
+
+TEST(MessageRates, areSetForAllMessagesAtOnce)
+{
+    struct Case
+    {
+        void (*set)(MessageTable &);
+        int storage;
+        QList<int> output; // of the messages 2, 3, 4, 8, 18, 104 and 255; 2, 8 and 104 are needed
+    };
+    for (const Case &c : {Case{&setStorageToMaximum, 0, {3, 3, 3, 3, 3, 3, 3}},
+                          Case{&setOutputToMaximum, 3, {0, 9, 0, 0, 0, 0, 0}},
+                          Case{&setOutputToTypical, 3, {4, 9, 4, 2, 2, 9, 4}},
+                          Case{&disableOutput, 3, {0, 9, 9, 0, 9, 0, 9}}}) {
+        MessageTable table = someMessages();
+        c.set(table);
+        QList<int> output;
+        for (const std::size_t number : {2, 3, 4, 8, 18, 104, 255}) {
+            output.append(table[number].outputRate);
+            EXPECT_EQ(table[number].storageRate, c.storage);
+        }
+        EXPECT_EQ(output, c.output);
+    }
+}
+
+TEST(MessageRates, areTextsByKind)
+{
+    EXPECT_EQ(rateText(6, 0), "0.5Hz");
+    EXPECT_EQ(rateText(9, 0), "Disabled");
+    EXPECT_EQ(rateText(5, 1), "On");
+    EXPECT_EQ(rateText(9, 2), "Off");
+}
+
+TEST(MessageRates, areFoundByNumberOrName)
+{
+    MessageTable table = someMessages();
+    table[40].name = "Speed";
+    table[90].name = "GPS speed";
+    struct Case
+    {
+        QString typed;
+        int from;
+        std::optional<int> row;
+    };
+    for (const Case &c : {Case{"1", 50, 1}, Case{"104", 1, 104}, Case{"256", 0, std::nullopt},
+                          Case{"sp", 41, 40}, // a beginning, round the end, before a middle
+                          Case{"S SP", 0, 90}, Case{"message 2", 3, 20}, Case{"xyz", 0, std::nullopt}})
+        EXPECT_EQ(findMessage(table, c.typed, c.from), c.row) << c.typed.toStdString();
+}
+
+} // namespace

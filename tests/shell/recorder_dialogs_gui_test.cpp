@@ -1,0 +1,74 @@
+#include "recorder/message_table.h"
+#include "support/design_window.h"
+
+#include <QTableView>
+
+namespace {
+
+// A main window whose recorder's dialogs are driven by keys.
+struct RecorderDialogs : testing::Test
+{
+    // Opens the command's dialog and does this in it.
+    void open(const char *command, const std::function<void(QWidget &)> &inside)
+    {
+        test::whenOpened(inside);
+        w.run(command);
+    }
+    // Presses these keys where the focus is.
+    static void keys(const QList<Qt::Key> &keys)
+    {
+        for (const Qt::Key key : keys) {
+            QApplication::processEvents();
+            const QWidget *popup = QApplication::activePopupWidget();
+            QTest::keyClick((popup ? popup : QApplication::activeModalWidget())->focusWidget(), key);
+        }
+        QApplication::processEvents();
+    }
+    // Saves the layout, starts a new one, and loads it again.
+    void saveAndReload()
+    {
+        w.addBar(10, 10);
+        w.window.files().saveWorkspace();
+        w.design().mnuNew_Click();
+        ASSERT_TRUE(w.window.files().load(w.world.state.folders.workspaceFile()));
+    }
+
+    test::DesignWindow w;
+    recorder::RecorderSettings &settings = w.world.state.settings;
+};
+
+TEST_F(RecorderDialogs, messageRatesAreChosenInTheirCells)
+{
+    settings.MessageTable[104] = {104, "Lap time", 5, 0, 1}; // an event with a rate
+    const recorder::MessageTable before = w.world.state.startMessages = settings.MessageTable;
+    const auto change = [](QWidget &dialog) {
+        auto &grid = test::child<QTableView>(dialog, "grdInput");
+        const auto shown = [&grid](int column) { return grid.model()->index(104, column).data().toString(); };
+        test::press(dialog, "cmdSerialOutputToTypically");
+        QTest::keyClicks(&grid, "lap");
+        EXPECT_EQ(shown(2), "On");
+        EXPECT_EQ(shown(3), "Off");
+        keys({Qt::Key_Right, Qt::Key_Return, Qt::Key_Up, Qt::Key_Return});
+        EXPECT_EQ(shown(3), "On");
+        EXPECT_TRUE(grid.hasFocus());
+        keys({Qt::Key_Return, Qt::Key_Escape}); // puts the list away, not the dialog
+    };
+    open("mnuSetMsgFrequency", [&change](QWidget &dialog) {
+        change(dialog);
+        keys({Qt::Key_Escape});
+    });
+    EXPECT_TRUE(settings.MessageTable == before);
+    open("mnuSetMsgFrequency", [&change](QWidget &dialog) {
+        change(dialog);
+        test::press(dialog, "cmdOk");
+    });
+    recorder::MessageTable written;
+    recorder::readMessageTable(platform::readFile(w.world.state.folders.MessagesFile()), written);
+    EXPECT_TRUE(written == settings.MessageTable);
+    saveAndReload();
+    EXPECT_TRUE(written == settings.MessageTable);
+    EXPECT_EQ(written[104], (recorder::MessageEntry{104, "Lap time", 5, 0, 1}));
+    EXPECT_EQ(written[18].outputRate, 2);
+}
+
+} // namespace
