@@ -134,6 +134,15 @@ void Dialog::addWide(QWidget *widget)
     m_form->addRow(widget);
 }
 
+QLabel &Dialog::addLabel(const char *name, const char *caption)
+{
+    beginRows(m_form, *m_body);
+    auto *label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    m_form->addRow(new QLabel(QString::fromUtf8(caption)), label);
+    return *label;
+}
+
 void Dialog::addButtons(const std::vector<Button> &buttons)
 {
     auto *box = new QDialogButtonBox;

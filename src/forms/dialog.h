@@ -83,6 +83,8 @@ protected:
     static void showTurn(Field &shown, Field &hidden, const char *caption);
     // A widget over the whole width of the group.
     void addWide(QWidget *widget);
+    // A row with a text that the program shows.
+    QLabel &addLabel(const char *name, const char *caption);
     // The layout that the groups stand in.
     QVBoxLayout &body() const { return *m_body; }
     // To the right of the groups; takes the room that is left.

@@ -18,9 +18,4 @@ QString standardCaption(VideoStandard standard)
         .arg(canvasHeight(standard));
 }
 
-QString bitRateCaption(quint8 megabitsPerSecond)
-{
-    return QStringLiteral("Bit Rate %1 Mbps").arg(megabitsPerSecond);
-}
-
 } // namespace recorder

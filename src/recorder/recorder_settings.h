@@ -96,6 +96,5 @@ struct RecorderSettings
 void resetForNewLayout(RecorderSettings &settings, const MessageTable &startMessages);
 
 QString standardCaption(VideoStandard standard);
-QString bitRateCaption(quint8 megabitsPerSecond);
 
 } // namespace recorder

@@ -1,6 +1,8 @@
 #include "shell/commands.h"
 
+#include "recorder/bit_rate.h"
 #include "recorder/dialogs/frm_frequency.h"
+#include "recorder/dialogs/frm_manual_bit_rate.h"
 #include "recorder/dialogs/frm_special_icons.h"
 #include "shell/frm_main.h"
 #include "shell/frm_start_splash.h"
@@ -160,6 +162,15 @@ struct CommandTable
          .caption = "Special Icons",
          .run =
              [](frmMain &w) { recorder::frmSpecialIcons(w.m_state.settings.icon, dialogContext(w)).exec(); }},
+        {.places = ConfigurationMenu,
+         .name = "mnuBitRate",
+         .captionOf =
+             [](const frmMain &w) { return recorder::bitRateCaption(w.m_state.settings.CurrentBitRate); },
+         .icon = "menu/bitrate",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmManualBitRate(w.m_state.settings.CurrentBitRate, dialogContext(w)).exec();
+             }},
         {.places = EncodePatternMenu,
          .name = "mnuI",
          .caption = "I",

@@ -26,7 +26,8 @@ struct Command
     unsigned places;
     const char *name = ""; // of its action; empty for a separator
     const char *caption = "";
-    const char *icon = ""; // in the resources
+    QString (*captionOf)(const frmMain &) = nullptr; // of a caption that follows the state, in its place
+    const char *icon = "";                           // in the resources
     const char *shortcut = "";
     void (*run)(frmMain &) = nullptr;
     bool (*isChecked)(const frmMain &) = nullptr; // null for entries without a mark

@@ -2,6 +2,7 @@
 
 #include "controls/families.h"
 #include "platform/guards.h"
+#include "recorder/bit_rate.h"
 #include "shell/version.h"
 #include "surface/canvas_rules.h"
 #include "surface/panel_area.h"
@@ -156,6 +157,8 @@ void frmMain::refreshFromState()
     for (std::size_t i = 0; i < commands().size(); ++i) {
         const Command &command = commands()[i];
         QAction &action = *m_actions[static_cast<qsizetype>(i)];
+        if (command.captionOf)
+            action.setText(command.captionOf(*this));
         if (command.isChecked)
             action.setChecked(command.isChecked(*this));
         if (command.isEnabled)

@@ -1,3 +1,4 @@
+#include "recorder/bit_rate.h"
 #include "recorder/message_rates.h"
 
 #include <gtest/gtest.h>
@@ -5,6 +6,36 @@
 namespace {
 
 using namespace recorder;
+
+TEST(BitRate, tellsWhatItMeans)
+{
+    const QString pcOnly = "can be only viewed on PC, cannot be used for DVD generation";
+    struct Case
+    {
+        int rate;
+        double usage; // (450 x rate + 81.25) / 1024 GB
+        bool isTooHigh;
+        std::optional<QString> note;
+    };
+    for (const Case &c : {
+             Case{1, 0.52, false, std::nullopt},
+             Case{2, 0.96, false, "2 Mbps - Low quality, okay for analysis not for presentation"},
+             Case{5, 2.28, false,
+                  "5 Mbps - Standard quality, recommended for analysis and \"okay\" for DVDs"},
+             Case{7, 3.16, true, "7 Mbps - High quality, " + pcOnly},
+             Case{8, 3.59, true, "8 Mbps - High quality, " + pcOnly},
+             Case{12, 5.35, true,
+                  "12 Mbps - Extreme quality, only required when broadcast quality cameras are used, " +
+                      pcOnly},
+             Case{13, 5.79, true, std::nullopt},
+         }) {
+        SCOPED_TRACE(c.rate);
+        EXPECT_DOUBLE_EQ(usagePerHour(c.rate), c.usage);
+        EXPECT_EQ(isTooHighForDvd(c.rate), c.isTooHigh);
+        EXPECT_EQ(bitRateNote(c.rate), c.note);
+    }
+    EXPECT_EQ(multiplexRate(), 7); // of 7.11
+}
 
 // 256 messages at 10 Hz, every third one of the same kind.
 MessageTable someMessages()

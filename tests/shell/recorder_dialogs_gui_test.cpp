@@ -1,6 +1,7 @@
 #include "recorder/message_table.h"
 #include "support/design_window.h"
 
+#include <QSlider>
 #include <QTableView>
 
 namespace {
@@ -36,6 +37,28 @@ struct RecorderDialogs : testing::Test
     test::DesignWindow w;
     recorder::RecorderSettings &settings = w.world.state.settings;
 };
+
+TEST_F(RecorderDialogs, bitRateIsShownEverywhereAndComesBack)
+{
+    const auto shown = [this] { return QStringList{w.text("lblBitRate"), w.action("mnuBitRate").text()}; };
+    open("mnuBitRate", [](QWidget &dialog) {
+        auto &warning = test::child<QLabel>(dialog, "lblWarning");
+        EXPECT_FALSE(warning.isVisible());
+        keys({Qt::Key_Right});
+        EXPECT_TRUE(warning.isVisible());
+        EXPECT_EQ(test::child<QLabel>(dialog, "lblVideoRate").text(), "7168 Kbps");
+        EXPECT_EQ(test::child<QLabel>(dialog, "lblUsage").text(), "3.16 GB");
+        keys({Qt::Key_Escape});
+    });
+    EXPECT_EQ(settings.CurrentBitRate, 6);
+    open("mnuBitRate", [](QWidget &) { keys({Qt::Key_End, Qt::Key_Return}); });
+    EXPECT_EQ(shown(), QStringList(2, "Bit Rate 12 Mbps"));
+    w.run("mnuIP");
+    saveAndReload();
+    EXPECT_EQ(shown(), QStringList(2, "Bit Rate 12 Mbps"));
+    EXPECT_TRUE(w.action("mnuIP").isChecked());
+    EXPECT_FALSE(w.action("mnuIPB").isChecked());
+}
 
 TEST_F(RecorderDialogs, messageRatesAreChosenInTheirCells)
 {
