@@ -67,43 +67,26 @@ void Canvas::display(const QImage &background, const CanvasRules &rules, bool do
     update();
 }
 
-void Canvas::choose(OverlayControl &control, bool joinsGroup)
+void Canvas::choose(OverlayControl &control)
 {
-    if (!joinsGroup)
-        select(control);
+    m_selection.select(control);
+    BringToFront(control);
+}
+
+void Canvas::BringToFront(OverlayControl &control)
+{
     if (m_controls.raise(control))
         control.redraw();
-    m_current = control.weak_from_this();
+    m_selection.setCurrent(control);
     tellFocus(*this, control);
+    emit selectionChanged();
 }
 
 void Canvas::chooseNone()
 {
-    ResetControlGridColour();
-    m_current.reset();
-}
-
-void Canvas::ResetControlGridColour()
-{
-    for (const auto &marked : std::exchange(m_marked, {})) {
-        if (const auto control = marked.lock())
-            control->SetControlGridColour(controls::FrameNormal);
-    }
-}
-
-void Canvas::select(OverlayControl &control)
-{
-    if (control.IsSelectedToGroup())
-        return;
-    ResetControlGridColour();
-    control.SetControlGridColour(controls::FrameSelected);
-    m_marked.push_back(control.weak_from_this());
-}
-
-void Canvas::setGroup(OverlayControl &control, bool joins)
-{
-    control.SetControlGroup(joins ? 1 : 0);
-    m_marked.push_back(control.weak_from_this());
+    m_selection.ResetControlGridColour();
+    m_selection.dropCurrent();
+    emit selectionChanged();
 }
 
 void Canvas::showControl(OverlayControl &control)
@@ -117,32 +100,33 @@ void Canvas::unload(OverlayControl &control)
     const QRect area = control.area();
     if (m_gesture.control().get() == &control)
         endGesture();
+    m_lifted.removeOne(&control);
     m_controls.unload(control);
-    m_current.reset();
+    m_selection.dropCurrent();
     m_picture.touch(area);
     update(area);
+    emit selectionChanged();
 }
 
 void Canvas::clear()
 {
     endGesture();
     m_controls.clear();
-    m_current.reset();
+    m_selection.dropCurrent();
     m_picture.touch(rect());
     update();
+    emit selectionChanged();
 }
 
 void Canvas::redrawControl(const OverlayControl &control, const QRect &area)
 {
-    if (lifted().get() != &control)
+    if (!m_lifted.contains(&control)) {
         m_picture.touch(area);
-    update(area);
-}
-
-// A gesture's control stands above all others from its first movement on.
-std::shared_ptr<OverlayControl> Canvas::lifted() const
-{
-    return m_gesture.hasBegun() ? m_gesture.control() : nullptr;
+        update(area);
+        return;
+    }
+    m_liftedArea |= area; // one rectangle is painted faster than those of all members of a group
+    update(m_liftedArea);
 }
 
 void Canvas::showPosition(const OverlayControl &control)
@@ -163,7 +147,8 @@ void Canvas::setBand(const std::optional<QRect> &band)
 void Canvas::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    m_picture.paint(painter, event->rect(), m_controls.stack(), lifted().get());
+    m_liftedArea = {};
+    m_picture.paint(painter, event->rect(), m_controls.stack(), m_lifted);
     paintBand(painter);
 }
 

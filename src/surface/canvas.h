@@ -3,6 +3,7 @@
 #include "surface/canvas_picture.h"
 #include "surface/control_registry.h"
 #include "surface/gesture.h"
+#include "surface/selection.h"
 
 #include <QWidget>
 
@@ -33,12 +34,12 @@ public:
     QImage preview() const { return overlayPicture(m_ground, m_controls.controls()); }
 
     // Null when it is gone or the choice was taken back.
-    controls::OverlayControl *current() const { return m_current.lock().get(); }
-    // Makes it the current control, raised and, unless it is in the group or joins it, marked alone.
-    void choose(controls::OverlayControl &control, bool joinsGroup = false);
+    controls::OverlayControl *current() const { return m_selection.current(); }
+    // Makes it the current control, raised and, unless it is in the group, marked alone.
+    void choose(controls::OverlayControl &control);
     // A choice that is not seen any more would be nudged and deleted unseen.
     void chooseNone();
-    void ResetControlGridColour();
+    bool hasGroup() const { return m_selection.hasGroup(); }
     // Shows a control that was loaded, above all others.
     void showControl(controls::OverlayControl &control);
     // Afterwards no control is current.
@@ -60,6 +61,7 @@ signals:
     void groupMenuRequested(const QPoint &globalPosition);
     void canvasMenuRequested(const QPoint &globalPosition);
     void designChanged();
+    void selectionChanged();
     void stepped(bool forward); // Tab and Shift+Tab
 
 protected:
@@ -81,32 +83,35 @@ private:
     std::optional<controls::Handle> handleAt(const controls::OverlayControl &control, QPointF twips) const;
 
     void pressControl(controls::OverlayControl &control, const QMouseEvent &event);
-    // Marks it alone, unless it is in the group.
-    void select(controls::OverlayControl &control);
-    void setGroup(controls::OverlayControl &control, bool joins);
+    // Where no grip is, a drag begins only if `drags`.
+    void startGesture(controls::OverlayControl &control, QPointF twips, bool drags);
+    // What is dragged along with the control.
+    GroupDrag ResetControlGroup(const controls::OverlayControl &control) const;
+    void BringToFront(controls::OverlayControl &control);
     void pressEmpty(const QMouseEvent &event);
     void showMenu(const controls::OverlayControl &control, const QPoint &globalPosition);
     void showCanvasMenu(QPointF twips, const QPoint &globalPosition);
     void hover(QPointF pixels);
     void track(QPointF twips);
-    void MoveTo(controls::OverlayControl &control, const Box &box);
-    void ResizeTo(controls::OverlayControl &control, const Box &box);
+    void lift();
     void endGesture();
+    void escape();
+    void selectAll();
     void selectBand(QPointF start, QPointF end);
     void setBand(const std::optional<QRect> &band);
-    bool applyKey(int key);
+    bool applyKey(int key, int step = 1);
     bool takesDrop(const QDropEvent &event) const;
-    std::shared_ptr<controls::OverlayControl> lifted() const;
     void paintBand(QPainter &painter) const;
 
     ControlRegistry m_controls;
     CanvasRules m_rules;
     QImage m_ground; // background without dots
     CanvasPicture m_picture;
-    std::weak_ptr<controls::OverlayControl> m_current;
+    Selection m_selection;
     Gesture m_gesture;
-    std::optional<QRect> m_band;                                   // pixels
-    std::vector<std::weak_ptr<controls::OverlayControl>> m_marked; // since the marks were last taken away
+    ControlList m_lifted;        // by the gesture, above all others
+    QRect m_liftedArea;          // pixels, to be painted again
+    std::optional<QRect> m_band; // pixels
     bool m_isPlayMode = false;
 };
 

@@ -18,6 +18,8 @@ using platform::skipFailures;
 
 namespace {
 
+constexpr int WideStep = 10; // pixels of an arrow key with Shift
+
 Qt::CursorShape pointerOf(std::optional<Handle> handle)
 {
     if (!handle)
@@ -69,21 +71,30 @@ void Canvas::mousePressEvent(QMouseEvent *event)
 void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
 {
     const bool ctrl = event.modifiers() == Qt::ControlModifier;
-    choose(control, ctrl);
-    if (event.button() == Qt::RightButton && (ctrl || event.modifiers() == Qt::NoModifier)) {
-        if (ctrl)
-            setGroup(control, true);
-        showMenu(control, event.globalPosition().toPoint());
-        return;
-    }
-    const QPointF at = twips(event.position());
-    const auto handle = handleAt(control, at);
+    const bool opensMenu = event.button() == Qt::RightButton && (ctrl || event.modifiers() == Qt::NoModifier);
     const bool toggles = event.button() == Qt::LeftButton && ctrl;
-    toggles ? setGroup(control, !control.IsSelectedToGroup()) : select(control);
-    if (handle)
+    if (toggles || (opensMenu && ctrl))
+        m_selection.setGrouped(control, opensMenu || !control.IsSelectedToGroup());
+    else
+        m_selection.select(control);
+    BringToFront(control);
+    if (opensMenu)
+        showMenu(control, event.globalPosition().toPoint());
+    else
+        startGesture(control, twips(event.position()), !toggles || control.IsSelectedToGroup());
+}
+
+void Canvas::startGesture(OverlayControl &control, QPointF at, bool drags)
+{
+    if (const auto handle = handleAt(control, at))
         m_gesture = Gesture::resizing(control, *handle, at);
-    else if (!toggles || control.IsSelectedToGroup())
-        m_gesture = Gesture::dragging(control, at);
+    else if (drags)
+        m_gesture = Gesture::dragging(control, at, ResetControlGroup(control));
+}
+
+GroupDrag Canvas::ResetControlGroup(const OverlayControl &control) const
+{
+    return control.IsSelectedToGroup() ? GroupDrag(control, groupOf(m_controls.controls())) : GroupDrag();
 }
 
 void Canvas::pressEmpty(const QMouseEvent &event)
@@ -110,8 +121,7 @@ void Canvas::showMenu(const OverlayControl &control, const QPoint &globalPositio
 void Canvas::showCanvasMenu(QPointF at, const QPoint &globalPosition)
 {
     emit pressed(at);
-    const ControlList &all = m_controls.controls();
-    if (std::any_of(all.begin(), all.end(), [](const auto *c) { return c->IsSelectedToGroup(); }))
+    if (hasGroup())
         emit groupMenuRequested(globalPosition);
     else
         emit canvasMenuRequested(globalPosition);
@@ -148,32 +158,27 @@ void Canvas::track(QPointF at)
         emit positionShown(positionText(at, m_rules.screen));
         return;
     }
-    const bool hadBegun = m_gesture.hasBegun();
-    const auto box = m_gesture.boxAt(at, m_rules);
-    const auto control = m_gesture.control();
-    const bool drags = m_gesture.kind() == Gesture::Kind::Dragging;
-    if (drags)
+    if (m_gesture.kind() == Gesture::Kind::Dragging)
         setCursor(Qt::SizeAllCursor);
-    if (!box)
+    if (!m_gesture.begins(at, m_rules.screen))
         return;
-    if (!hadBegun)
-        m_picture.touch(control->area()); // all others without it, from now on
-    skipFailures([&] { drags ? MoveTo(*control, *box) : ResizeTo(*control, *box); });
-    control->redraw();
+    if (m_lifted.isEmpty())
+        lift();
+    skipFailures([&] { m_gesture.follow(at, m_rules); });
     emit designChanged();
-    showPosition(*control);
+    showPosition(*m_gesture.control());
 }
 
-void Canvas::MoveTo(OverlayControl &control, const Box &box)
+// What the gesture moves stands above all others from its first movement on.
+void Canvas::lift()
 {
-    control.moveTo(box.Left, box.Top);
-    control.updatePosition();
-}
-
-void Canvas::ResizeTo(OverlayControl &control, const Box &box)
-{
-    control.setBox(box);
-    control.applyResize();
+    const ControlList moving = m_gesture.moving();
+    for (OverlayControl *control : m_controls.stack()) {
+        if (!moving.contains(control))
+            continue;
+        m_lifted.append(control);
+        m_picture.touch(control->area()); // all others without it, from now on
+    }
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent *event)
@@ -193,11 +198,27 @@ void Canvas::mouseReleaseEvent(QMouseEvent *event)
 
 void Canvas::endGesture()
 {
-    const auto landed = lifted();
     m_gesture = {};
-    if (landed)
+    for (OverlayControl *landed : std::exchange(m_lifted, {}))
         landed->redraw();
     setBand(std::nullopt);
+}
+
+void Canvas::escape()
+{
+    if (m_gesture.kind() == Gesture::Kind::None) {
+        chooseNone();
+        return;
+    }
+    skipFailures([&] { m_gesture.takeBack(); });
+    endGesture();
+}
+
+void Canvas::selectAll()
+{
+    for (OverlayControl *control : m_controls.controls())
+        m_selection.setGrouped(*control, true);
+    emit selectionChanged();
 }
 
 void Canvas::selectBand(QPointF start, QPointF end)
@@ -206,16 +227,22 @@ void Canvas::selectBand(QPointF start, QPointF end)
         return;
     for (OverlayControl *control : m_controls.controls()) {
         if (bandHolds(start, end, control->box()))
-            setGroup(*control, true);
+            m_selection.setGrouped(*control, true);
     }
+    emit selectionChanged();
 }
 
 void Canvas::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Delete && event->isAutoRepeat())
         return; // a key that is held deletes one control only
+    if (event->matches(QKeySequence::SelectAll) && !m_isPlayMode) {
+        selectAll();
+        return;
+    }
     bool isOurs = true;
-    skipFailures([&] { isOurs = applyKey(event->key()); });
+    const int step = event->modifiers() & Qt::ShiftModifier ? WideStep : 1;
+    skipFailures([&] { isOurs = applyKey(event->key(), step); });
     if (!isOurs)
         QWidget::keyPressEvent(event);
 }
@@ -225,13 +252,19 @@ void Canvas::pressKey(Qt::Key key)
     skipFailures([&] { applyKey(key); });
 }
 
-bool Canvas::applyKey(int key)
+bool Canvas::applyKey(int key, int step)
 {
-    const auto control = m_current.lock();
-    if (!control || m_isPlayMode)
+    if (m_isPlayMode)
+        return false;
+    if (key == Qt::Key_Escape) {
+        escape();
+        return true;
+    }
+    OverlayControl *control = current();
+    if (!control)
         return false;
     const auto nudge = [&](int dx, int dy) {
-        control->nudge(dx, dy);
+        control->nudge(dx * step, dy * step);
         return true;
     };
     switch (key) {

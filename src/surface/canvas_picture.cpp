@@ -57,25 +57,29 @@ void CanvasPicture::refreshFrames(const ControlList &resting, const QRect &area)
 }
 
 void CanvasPicture::paint(QPainter &painter, const QRect &area, const ControlList &stack,
-                          OverlayControl *lifted)
+                          const ControlList &lifted)
 {
     const double ratio = painter.device()->devicePixelRatioF();
     if (!m_touched.isEmpty() || m_frames.devicePixelRatio() != ratio) {
         ControlList resting = stack;
-        if (lifted)
-            resting.removeOne(lifted);
+        resting.removeIf([&lifted](OverlayControl *control) { return lifted.contains(control); });
         refresh(resting, ratio);
     }
-    painter.drawImage(area, m_composed, area);
-    if (lifted) {
-        const Composition part =
-            composed(m_composed, area & lifted->drawnArea(), {lifted}, controls::Drawing::Designed);
-        painter.drawImage(part.corner, part.picture);
-    }
+    paintOverlay(painter, area, lifted);
     painter.drawImage(QRectF(area), m_frames,
                       QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio));
-    if (lifted)
-        m_framePainter.paint(painter, *lifted);
+    for (const OverlayControl *control : lifted)
+        m_framePainter.paint(painter, *control);
+}
+
+void CanvasPicture::paintOverlay(QPainter &painter, const QRect &area, const ControlList &lifted) const
+{
+    painter.drawImage(area, m_composed, area);
+    QRect drawn;
+    for (const OverlayControl *control : lifted)
+        drawn |= control->drawnArea();
+    const Composition part = composed(m_composed, area & drawn, lifted, controls::Drawing::Designed);
+    painter.drawImage(part.corner, part.picture);
 }
 
 } // namespace surface

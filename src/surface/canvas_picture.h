@@ -8,8 +8,8 @@
 namespace surface {
 
 // What the canvas shows, kept as two pictures, the composed overlay and the frames above it, so that only
-// what was touched is drawn again. A lifted control is in neither of them: it is drawn above all others at
-// each painting, and moving it draws nothing else again.
+// what was touched is drawn again. Lifted controls are in neither of them: they are drawn above all others
+// at each painting, and moving them draws nothing else again.
 class CanvasPicture
 {
 public:
@@ -17,13 +17,13 @@ public:
     void reset(const QImage &ground, const FramePainter &frames);
     // Something that is not lifted, or is no longer, looks different here. Canvas pixels.
     void touch(const QRect &area);
-    // `lifted` may be null. The painter's coordinates are canvas pixels.
-    void paint(QPainter &painter, const QRect &area, const ControlList &stack,
-               controls::OverlayControl *lifted);
+    // `lifted` are some of the stack, in its order. The painter's coordinates are canvas pixels.
+    void paint(QPainter &painter, const QRect &area, const ControlList &stack, const ControlList &lifted);
 
 private:
     void refresh(const ControlList &resting, double ratio);
     void refreshFrames(const ControlList &resting, const QRect &area);
+    void paintOverlay(QPainter &painter, const QRect &area, const ControlList &lifted) const;
 
     QImage m_ground;
     QImage m_composed; // canvas pixels

@@ -6,6 +6,7 @@
 #include "surface/canvas.h"
 #include "surface/library_panel.h"
 #include "surface/panel_area.h"
+#include "surface/placing.h"
 #include "surface/variable_tree.h"
 
 #include <QScrollArea>
@@ -61,6 +62,7 @@ void frmInterface::connectCanvas()
     connect(m_canvas, &Canvas::groupMenuRequested, this, &frmInterface::groupMenuRequested);
     connect(m_canvas, &Canvas::canvasMenuRequested, this, &frmInterface::canvasMenuRequested);
     connect(m_canvas, &Canvas::designChanged, this, &frmInterface::designChanged);
+    connect(m_canvas, &Canvas::selectionChanged, this, &frmInterface::selectionChanged);
     const auto addByKey = [this](const QString &key, QPointF twips) {
         m_canvas->chooseNone();
         if (const controls::Family *family = controls::familyOfKey(key))
@@ -99,18 +101,10 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
 {
     OverlayControl &control = loadControl(family);
     const QSizeF size = control.startSize();
-    const auto place = [&](float left, float top) {
-        Box box = control.box();
-        box.Left = left;
-        box.Top = top;
-        const Box clamped = clampedToCanvas(box, control.overhang(), rules());
-        control.moveTo(clamped.Left, clamped.Top);
-    };
     control.setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
-    place(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
+    MoveTo(control, twips, rules());
     skipFailures([&] { control.applyInitialProperties(); });
-    place(control.box().Left, control.box().Top); // the initial properties may have sized it
-    control.updatePosition();
+    MoveTo(control, cornerOf(control), rules()); // the initial properties may have sized it
     showControl(control);
     m_canvas->setFocus();
     m_canvas->choose(control);

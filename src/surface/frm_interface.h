@@ -98,7 +98,8 @@ signals:
     void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void canvasMenuRequested(const QPoint &globalPosition);
     void groupMenuRequested(const QPoint &globalPosition);
-    void designChanged();   // by a user's hand
+    void designChanged(); // by a user's hand
+    void selectionChanged();
     void controlsChanged(); // one was added or deleted
     void layoutChanged();   // the layout's caption, standard or settings may differ now
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "controls/overlay_control.h"
-#include "surface/canvas_rules.h"
+#include "surface/group_drag.h"
 
 namespace surface {
 
@@ -13,7 +12,8 @@ public:
     enum class Kind { None, Dragging, Resizing, Band };
 
     Gesture() = default; // none
-    static Gesture dragging(controls::OverlayControl &control, QPointF press);
+    // `group` is what is dragged along.
+    static Gesture dragging(controls::OverlayControl &control, QPointF press, GroupDrag group = {});
     static Gesture resizing(controls::OverlayControl &control, controls::Handle handle, QPointF press);
     static Gesture band(QPointF press);
 
@@ -21,11 +21,15 @@ public:
     QPointF press() const { return m_press; }
     // Null when there is none, or when it is gone.
     std::shared_ptr<controls::OverlayControl> control() const { return m_control.lock(); }
+    // All controls that it moves.
+    ControlList moving() const;
     // Whether the pointer has led anywhere yet: past the jitter of a click, or off the point of the grip.
     // From then on every movement counts.
-    bool hasBegun() const { return m_hasBegun; }
-    // Where the pointer at `now` takes the control; nothing before the gesture has begun.
-    std::optional<Box> boxAt(QPointF now, const CanvasRules &rules);
+    bool begins(QPointF now, const platform::Screen &screen);
+    // Takes the controls to where the pointer leads, once the gesture has begun.
+    void follow(QPointF now, const CanvasRules &rules) const;
+    // Takes them back to where they stood at the press.
+    void takeBack() const;
 
 private:
     Gesture(Kind kind, controls::OverlayControl &control, QPointF press);
@@ -33,6 +37,7 @@ private:
     Kind m_kind = Kind::None;
     QPointF m_press;
     std::weak_ptr<controls::OverlayControl> m_control;
+    GroupDrag m_group;
     Box m_start;
     controls::Handle m_handle{};
     bool m_hasBegun = false;

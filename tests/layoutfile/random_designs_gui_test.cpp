@@ -119,13 +119,11 @@ void move(controls::OverlayControl &control, const surface::CanvasRules &rules, 
 {
     const auto handle = static_cast<controls::Handle>(chance.between(0, 7));
     const QPointF from(0, 0), to(chance.between(-9000, 9000), chance.between(-9000, 9000));
-    if (control.handles()[static_cast<std::size_t>(handle)].isFilled()) {
-        control.setBox(*surface::Gesture::resizing(control, handle, from).boxAt(to, rules));
-        control.applyResize();
-    } else if (const auto box = surface::Gesture::dragging(control, from).boxAt(to, rules)) {
-        control.moveTo(box->Left, box->Top);
-        control.updatePosition();
-    }
+    const bool hasGrip = control.handles()[static_cast<std::size_t>(handle)].isFilled();
+    auto gesture = hasGrip ? surface::Gesture::resizing(control, handle, from)
+                           : surface::Gesture::dragging(control, from);
+    gesture.begins(to, rules.screen);
+    gesture.follow(to, rules);
 }
 
 void addControls(DesignWindow &d, Chance &chance)

@@ -1,0 +1,94 @@
+#include "support/design_window.h"
+
+namespace {
+
+using controls::BarGraph;
+using controls::OverlayControl;
+using test::DesignWindow;
+using test::placeOf;
+
+constexpr QPoint Middle(65, 15); // of a new bar graph, 130 pixels by 30
+
+struct Group : testing::Test
+{
+    DesignWindow w;
+    BarGraph &one = w.addBar(100, 100);
+    BarGraph &two = w.addBar(100, 200);
+    BarGraph &three = w.addBar(300, 200);
+
+    void ctrlClick(const OverlayControl &control)
+    {
+        test::click(w, placeOf(control) + Middle, Qt::ControlModifier);
+    }
+    // Presses a control and leads it through `way`, without a release.
+    void grab(const OverlayControl &control, const QList<QPoint> &way, Qt::KeyboardModifiers keys = {})
+    {
+        const QPoint from = placeOf(control) + Middle;
+        QTest::mousePress(&w.canvas(), Qt::LeftButton, keys, from);
+        for (const QPoint &step : way)
+            QTest::mouseMove(&w.canvas(), from + step);
+    }
+    void letGo(QPoint at) { QTest::mouseRelease(&w.canvas(), Qt::LeftButton, {}, at); }
+    QList<QPoint> places() { return {placeOf(one), placeOf(two), placeOf(three)}; }
+};
+
+TEST_F(Group, MembersFollowTheDraggedOneAsFarAsTheCanvasGoes)
+{
+    test::click(w, {20, 20});
+    ctrlClick(two);
+    ctrlClick(three);
+    const struct
+    {
+        QPoint way;
+        QList<QPoint> places;
+    } drags[] = {
+        {{5, 5}, {{100, 100}, {100, 200}, {300, 200}}}, // jitter
+        {{40, -20}, {{140, 80}, {140, 180}, {340, 180}}},
+        {{300, 0}, {{440, 80}, {440, 180}, {590, 180}}}, // the third stays at the edge
+        {{-340, 0}, {{100, 80}, {100, 180}, {250, 180}}},
+        {{0, -150}, {{100, 0}, {100, 100}, {250, 100}}}, // so does the first, whom the others follow
+    };
+    for (const auto &[way, expected] : drags) {
+        // The first press puts it into the group, too.
+        grab(one, {way / 2, way}, one.IsSelectedToGroup() ? Qt::NoModifier : Qt::ControlModifier);
+        w.canvas().grab(); // while the group is lifted
+        letGo(placeOf(one) + Middle);
+        EXPECT_EQ(places(), expected) << way.x() << ", " << way.y();
+        for (const BarGraph *bar : {&one, &two, &three}) {
+            EXPECT_EQ(QPoint(bar->get().curLeft, bar->get().curTop), 15 * (placeOf(*bar) + QPoint(5, 5)));
+            EXPECT_NE(w.shown(placeOf(*bar) + QPoint(20, 2)), test::PalGround);
+        }
+    }
+    EXPECT_EQ(w.shown({310, 210}), test::PalGround); // nothing is left where they were
+}
+
+TEST_F(Group, EscapeDropsTheGestureThenTheSelection)
+{
+    test::press(w, Qt::Key_A, Qt::ControlModifier);
+    const QList<QPoint> before = places();
+    grab(two, {{50, 50}, {400, 0}});
+    EXPECT_EQ(placeOf(one), QPoint(500, 100));
+    test::press(w, Qt::Key_Escape);
+    EXPECT_EQ(places(), before);
+    QTest::mouseMove(&w.canvas(), {350, 350}); // with the button still down
+    letGo({400, 400});
+    EXPECT_EQ(places(), before);
+    EXPECT_TRUE(one.IsSelectedToGroup() && two.IsSelectedToGroup() && three.IsSelectedToGroup());
+    test::press(w, Qt::Key_Escape);
+    EXPECT_EQ(w.design().currentControl(), nullptr);
+    EXPECT_FALSE(w.canvas().hasGroup());
+
+    const controls::Box box = one.box();
+    test::click(w, placeOf(one) + Middle);
+    const QPoint grip = placeOf(one) + QPoint(127, 27);
+    QTest::mousePress(&w.canvas(), Qt::LeftButton, {}, grip);
+    QTest::mouseMove(&w.canvas(), grip + QPoint(30, 40));
+    EXPECT_EQ(one.get().curBarWidth, 57);
+    test::press(w, Qt::Key_Escape);
+    letGo({400, 400});
+    EXPECT_EQ(one.box(), box);
+    EXPECT_EQ(one.get().curBarWidth, 20);
+    EXPECT_EQ(w.design().currentControl(), &one);
+}
+
+} // namespace
