@@ -6,6 +6,7 @@
 #include <QPointF>
 #include <QRect>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -77,6 +78,13 @@ constexpr float pulledInto(float position, float outerSize, float frame, float c
 // Canvas pixels.
 QPointF pulledInto(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
                    const platform::Screen &screen);
+
+// One axis of a nudge by `step` that the rule above would stop at `stopped`: it does not lead beyond, and
+// never backwards.
+constexpr double nudged(double place, int step, double stopped)
+{
+    return step > 0 ? std::max(place, stopped) : place + step;
+}
 
 // The box at another size: the edges that the grip moves give way, the others stand.
 Box withSize(const Box &box, Handle handle, float width, float height);

@@ -63,6 +63,16 @@ void OverlayControl::pullUp(float height)
     updatePosition();
 }
 
+QPointF OverlayControl::nudged(QPointF place, QPoint step, float frame) const
+{
+    Box within = box();
+    within.Width -= static_cast<float>(overhang().right());
+    within.Height -= static_cast<float>(overhang().bottom());
+    const QPointF stopped = pulledInto(place + step, within, frame, m_host.VideoType(), screen());
+    return {controls::nudged(place.x(), step.x(), stopped.x()),
+            controls::nudged(place.y(), step.y(), stopped.y())};
+}
+
 PropertyValue OverlayControl::read(std::string_view reader) const
 {
     return found(properties().reader(reader)).get(values(), screen());

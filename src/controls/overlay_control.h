@@ -58,7 +58,7 @@ public:
     virtual void fitCanvasHeight(float height);
     // How far the control may stand outside the canvas when it is dragged or placed, twips.
     virtual QMarginsF overhang() const { return {}; }
-    // One arrow key: changes the position property by (dx, dy) canvas pixels and has the host reposition it.
+    // An arrow key: changes the position property by (dx, dy) canvas pixels and has the host reposition it.
     virtual void nudge(int dx, int dy) = 0;
     // The box on the canvas, the part of it within the frame, and all that the control covers, canvas pixels.
     QRect outerRect() const { return pixelRect(box(), screen()); }
@@ -111,6 +111,9 @@ protected:
     virtual GripSet grips() const { return GripSet::All; }
     // Moves it up to end at this height, twips, if it ends below.
     void pullUp(float height);
+    // Where a nudge takes the place, canvas pixels, of the content that begins `frame` twips within the box:
+    // up to the right and bottom edge, where a load would pull it back.
+    QPointF nudged(QPointF place, QPoint step, float frame) const;
     // After the box has changed its size by other means than the dialog.
     virtual void sizeChanged() {}
     // The end of Deserialise(): what follows from the properties that were just read.

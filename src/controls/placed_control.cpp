@@ -17,8 +17,9 @@ void PlacedControl::updatePosition()
 void PlacedControl::nudge(int dx, int dy)
 {
     const Corner place = corner();
-    const auto x = toInteger<qint16>(place.x + dx);
-    place.y = toInteger<qint16>(place.y + dy);
+    const QPointF to = nudged(QPointF(place.x, place.y), {dx, dy}, inset());
+    const auto x = toInteger<qint16>(to.x());
+    place.y = toInteger<qint16>(to.y());
     place.x = x;
     raiseReposition();
 }

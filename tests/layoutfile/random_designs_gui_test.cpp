@@ -114,7 +114,7 @@ void fill(controls::OverlayControl &control, const controls::PropertyTable &tabl
     }
 }
 
-// By the mouse, as far as the canvas lets it.
+// By mouse and arrow keys, as far as the canvas lets it.
 void move(controls::OverlayControl &control, const surface::CanvasRules &rules, Chance &chance)
 {
     const auto handle = static_cast<controls::Handle>(chance.between(0, 7));
@@ -124,6 +124,7 @@ void move(controls::OverlayControl &control, const surface::CanvasRules &rules, 
                            : surface::Gesture::dragging(control, from);
     gesture.begins(to, rules.screen);
     gesture.follow(to, rules);
+    control.nudge(chance.between(-30, 30), chance.between(-30, 30));
 }
 
 void addControls(DesignWindow &d, Chance &chance)

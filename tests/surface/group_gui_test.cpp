@@ -1,8 +1,10 @@
 #include "support/design_window.h"
+#include "surface/placing.h"
 
 namespace {
 
 using controls::BarGraph;
+using controls::ControlType;
 using controls::OverlayControl;
 using test::DesignWindow;
 using test::placeOf;
@@ -89,6 +91,32 @@ TEST_F(Group, EscapeDropsTheGestureThenTheSelection)
     EXPECT_EQ(one.box(), box);
     EXPECT_EQ(one.get().curBarWidth, 20);
     EXPECT_EQ(w.design().currentControl(), &one);
+}
+
+// A load would pull it back.
+TEST(Nudging, StopsAtTheFarEdges)
+{
+    for (const ControlType type : {ControlType::BarGraph, ControlType::TextTag, ControlType::DigitalDisplay,
+                                   ControlType::TrackMap, ControlType::CustomDial}) {
+        SCOPED_TRACE(int(type));
+        DesignWindow w;
+        w.design().addControl(type, {15 * 300, 15 * 200});
+        OverlayControl &control = *w.design().controls().last();
+        const QPoint last(720 - control.outerRect().width(), 576 - control.outerRect().height());
+        surface::MoveTo(control, 15 * (last - QPoint(4, 14)), {});
+        const std::pair<Qt::Key, QPoint> steps[] = {{Qt::Key_Right, {last.x(), last.y() - 14}},
+                                                    {Qt::Key_Down, {last.x(), last.y() - 4}},
+                                                    {Qt::Key_Down, last},
+                                                    {Qt::Key_Right, last},
+                                                    {Qt::Key_Up, {last.x(), last.y() - 10}},
+                                                    {Qt::Key_Left, {last.x() - 10, last.y() - 10}}};
+        for (const auto &[key, place] : steps) {
+            test::press(w, key, Qt::ShiftModifier);
+            EXPECT_EQ(placeOf(control), place);
+            control.AssignProperties();
+            EXPECT_EQ(placeOf(control), place);
+        }
+    }
 }
 
 } // namespace

@@ -69,12 +69,12 @@ void expectSteadyPlace(DesignWindow &w, OverlayControl &control)
     }
     control.AssignProperties();
     EXPECT_EQ(placeOf(control), place);
-    test::press(w, Qt::Key_Right);
-    test::press(w, Qt::Key_Down);
-    EXPECT_EQ(placeOf(control), place + QPoint(1, 1));
+    test::press(w, Qt::Key_Left);
+    test::press(w, Qt::Key_Up);
+    EXPECT_EQ(placeOf(control), place - QPoint(1, 1));
     EXPECT_EQ(w.text("lblPosition"), surface::positionText({control.box().Left, control.box().Top}, {}));
-    w.pressToolButton("cmdUp");
-    w.pressToolButton("cmdLeft");
+    w.pressToolButton("cmdDown");
+    w.pressToolButton("cmdRight");
     EXPECT_EQ(placeOf(control), place);
 }
 

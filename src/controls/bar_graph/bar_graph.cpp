@@ -141,8 +141,11 @@ void BarGraph::applyInitialProperties()
 
 void BarGraph::nudge(int dx, int dy)
 {
-    m_values.curLeft = toInteger<qint16>(m_values.curLeft + screen().toTwipsX(static_cast<float>(dx)));
-    m_values.curTop = toInteger<qint16>(m_values.curTop + screen().toTwipsY(static_cast<float>(dy)));
+    const QPointF from = screen().toPixels(QPointF(m_values.curLeft, m_values.curTop));
+    const QPointF to = screen().toTwips(nudged(from, {dx, dy}, FrameTwips));
+    const auto left = toInteger<qint16>(to.x());
+    m_values.curTop = toInteger<qint16>(to.y());
+    m_values.curLeft = left;
     host().Reposition(*this, cornerOf(m_values, screen()));
 }
 

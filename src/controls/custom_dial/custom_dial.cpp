@@ -4,6 +4,7 @@
 #include "platform/guards.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace controls {
 
@@ -154,14 +155,17 @@ const graphics::PlanePicture &CustomDial::face() const
 {
     const graphics::DialLook &look = m_values;
     const QSize size = faceRect(box(), screen()).size();
-    if (m_face.size != size || m_face.look != look)
-        m_face = {look, size, renderedFace(look, size, host())};
+    for (const Face &known : {std::cref(m_kept), std::cref(m_face)}) {
+        if (known.size == size && known.look == look)
+            return known.picture;
+    }
+    m_face = {look, size, renderedFace(look, size, host())};
     return m_face.picture;
 }
 
 void CustomDial::keepFace(const graphics::PlanePicture &face)
 {
-    m_face = {m_values, faceRect(box(), screen()).size(), face};
+    m_kept = {m_values, faceRect(box(), screen()).size(), face};
 }
 
 void CustomDial::AssignProperties()

@@ -46,7 +46,7 @@ public:
 
     // The face as it stands.
     const graphics::PlanePicture &face() const;
-    // Takes a face from a file; it is kept until a property of the face changes.
+    // Takes a face from a file, which stands for this look and size.
     void keepFace(const graphics::PlanePicture &face);
 
     void AssignProperties() override;
@@ -76,7 +76,8 @@ private:
         graphics::PlanePicture picture;
     };
 
-    mutable Face m_face;
+    Face m_kept;         // from a file
+    mutable Face m_face; // made last
 };
 
 } // namespace controls

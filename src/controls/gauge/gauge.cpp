@@ -43,8 +43,11 @@ QPointF cornerOf(const GaugeValues &values, const platform::Screen &screen)
     return pivot(values, screen) - QPointF(inset, inset);
 }
 
-// A pivot one step on. It passes over 0, which would read as the middle of the box.
-qint16 stepped(int place, int step) { return toInteger<qint16>(place + step != 0 ? place + step : step); }
+// A pivot a step on. It passes over 0, which would read as the middle of the box.
+qint16 stepped(int place, int step)
+{
+    return toInteger<qint16>(place + step != 0 ? place + step : std::clamp(step, -1, 1));
+}
 
 using V = GaugeValues;
 constexpr std::array Rows{

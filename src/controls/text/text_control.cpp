@@ -84,9 +84,10 @@ void TextControl::AssignProperties()
 void TextControl::nudge(int dx, int dy)
 {
     TextValues &values = textValues();
-    const auto left = static_cast<float>(values.curCenterX + dx);
-    values.curCenterX = toInteger<qint16>(std::max(left, lowestLeft(values, innerWidth(box(), screen()))));
-    values.curCenterY = toInteger<qint16>(values.curCenterY + dy);
+    const QPointF to = nudged(QPointF(values.curCenterX, values.curCenterY), {dx, dy}, FrameTwips);
+    const double lowest{lowestLeft(values, innerWidth(box(), screen()))};
+    values.curCenterX = toInteger<qint16>(std::max(to.x(), lowest));
+    values.curCenterY = toInteger<qint16>(to.y());
     raiseReposition();
 }
 
