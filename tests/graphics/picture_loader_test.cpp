@@ -19,7 +19,7 @@ struct BmpForm
     const char *name;
     quint16 bitsPerPixel;
     quint32 compression;
-    QByteArray behindHeader; // masks or palette
+    QByteArray afterHeader; // masks or palette
     QByteArray data;
     qint32 width = 2;
     qint32 height = 2;
@@ -30,9 +30,9 @@ QByteArray bmp(const BmpForm &form)
     QByteArray file("BM\0\0\0\0\0\0\0\0", 10);
     QDataStream header(&file, QIODevice::Append);
     header.setByteOrder(QDataStream::LittleEndian);
-    header << static_cast<quint32>(54 + form.behindHeader.size()) << quint32{40} << form.width << form.height
+    header << static_cast<quint32>(54 + form.afterHeader.size()) << quint32{40} << form.width << form.height
            << quint16{1} << form.bitsPerPixel << form.compression;
-    return file + QByteArray(20, '\0') + form.behindHeader + form.data;
+    return file + QByteArray(20, '\0') + form.afterHeader + form.data;
 }
 
 QByteArray hex(const char *digits) { return QByteArray::fromHex(digits); }
@@ -62,14 +62,15 @@ TEST(PictureLoader, readsEveryFormOfBmpAndRefusesOneThatIsCutAnywhere)
         const QByteArray whole = bmp(form);
         const QImage picture = readPicture(whole).picture;
         ASSERT_EQ(picture.size(), QSize(2, 2)) << form.name;
-        const QRgb wanted[] = {0xFFFF0000, 0xFFFFFFFF, 0xFF000000, 0xFF0000FF};
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(picture.pixel(i % 2, i / 2), wanted[i]) << form.name << ' ' << i;
+        EXPECT_EQ(
+            QList<QRgb>({picture.pixel(0, 0), picture.pixel(1, 0), picture.pixel(0, 1), picture.pixel(1, 1)}),
+            QList<QRgb>({0xFFFF0000, 0xFFFFFFFF, 0xFF000000, 0xFF0000FF}))
+            << form.name;
         for (qsizetype length = 0; length < whole.size(); ++length)
             EXPECT_FALSE(readPicture(whole.first(length))) << form.name << ' ' << length;
         EXPECT_EQ(readPicture(whole.chopped(1)).fault, PictureFault::Cut) << form.name;
     }
-    const QByteArray half = bmp({"", 16, 3, Forms[6].behindHeader, hex("10840000"), 1, 1});
+    const QByteArray half = bmp({"", 16, 3, Forms[6].afterHeader, hex("10840000"), 1, 1});
     EXPECT_EQ(readPicture(half).picture.pixel(0, 0), qRgb(132, 130, 132)); // 16, 32 and 16 of 31, 63 and 31
 }
 
@@ -93,22 +94,15 @@ TEST(PictureLoader, tellsWhyAFileIsRefused)
     const std::tuple<const char *, QByteArray, PictureFault> cases[] = {
         {"empty", {}, PictureFault::Empty},
         {"another format", "GIF89a" + QByteArray(100, 1), PictureFault::NotAPicture},
-        {"65,535 x 65,535", header(24, 0, 65535, 65535), PictureFault::TooLarge},
         {"the largest numbers", header(32, 0, 0x7FFFFFFF, -0x7FFFFFFF - 1), PictureFault::TooLarge},
-        {"no height", header(24, 0, 2, 0), PictureFault::NotAPicture},
-        {"unknown depth", header(23, 0, 2, 2), PictureFault::NotAPicture},
-        {"unknown coding", header(24, 9, 2, 2), PictureFault::NotAPicture},
         {"png", png, PictureFault::None},
         {"half a png", png.first(png.size() / 2), PictureFault::Cut},
         {"a png of 65,535 x 65,535", hugePng, PictureFault::TooLarge},
         {"jpeg", jpeg, PictureFault::None},
         {"half a jpeg", jpeg.first(jpeg.size() / 2), PictureFault::Cut},
     };
-    for (const auto &[what, content, fault] : cases) {
-        const graphics::LoadedPicture loaded = readPicture(content);
-        EXPECT_EQ(loaded.fault, fault) << what;
-        EXPECT_EQ(loaded.picture.isNull(), fault != PictureFault::None) << what;
-    }
+    for (const auto &[what, content, fault] : cases)
+        EXPECT_EQ(readPicture(content).fault, fault) << what;
     EXPECT_EQ(readPicture(jpeg, 39).fault, PictureFault::TooLarge);
 }
 
@@ -122,18 +116,6 @@ TEST(PictureLoader, readsFilesAndNothingElse)
     // Larger than any picture within the limits: told without reading it (the file has no blocks).
     ASSERT_TRUE(file.resize(qint64{1} << 40));
     EXPECT_EQ(graphics::loadPicture(file.fileName()).fault, PictureFault::TooLarge);
-}
-
-TEST(Sampled, picksPixelsAtScaledPlaces)
-{
-    QImage source(5, 5, QImage::Format_RGB32);
-    for (int i = 0; i < 25; ++i)
-        source.setPixel(i % 5, i / 5, qRgb(i % 5, i / 5, i));
-    const int three[] = {0, 1, 3}, seven[] = {0, 0, 1, 2, 2, 3, 4};
-    const QImage picked = graphics::sampled(source, {3, 7});
-    for (int i = 0; i < 21; ++i)
-        EXPECT_EQ(picked.pixel(i % 3, i / 3), source.pixel(three[i % 3], seven[i / 3])) << i;
-    EXPECT_TRUE(graphics::sampled(source, {0, 3}).isNull() && graphics::sampled(QImage(), {3, 3}).isNull());
 }
 
 } // namespace
