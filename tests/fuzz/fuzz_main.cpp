@@ -2,9 +2,7 @@
 
 #include <cstdlib>
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size);
-
-int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     if (!fuzz::FUZZ_TARGET(QByteArrayView(data, static_cast<qsizetype>(size))))
         std::abort();

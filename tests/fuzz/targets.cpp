@@ -18,7 +18,6 @@
 #include <QSize>
 
 #include <algorithm>
-#include <cstring>
 
 namespace fuzz {
 
@@ -27,16 +26,13 @@ namespace {
 using layoutfile::LayoutRecord;
 using layoutfile::RecordType;
 
-// Without a good CRC nothing behind the first check would ever be reached.
+// Without a good CRC nothing after the first check would ever be reached.
 QByteArray withGoodCrc(QByteArrayView bytes)
 {
-    QByteArray file = bytes.toByteArray();
-    const qsizetype length = file.size() - 4;
-    if (length < 1)
-        return file;
-    const quint32 crc = layoutfile::modCRC(QByteArrayView(file).first(length));
-    std::memcpy(file.data() + length, &crc, sizeof crc);
-    return file;
+    const QByteArrayView content = bytes.first(std::max<qsizetype>(bytes.size() - 4, 0));
+    const quint32 crc = layoutfile::modCRC(content);
+    const QByteArray sum(reinterpret_cast<const char *>(&crc), sizeof crc);
+    return content.isEmpty() ? bytes.toByteArray() : content.toByteArray() + sum;
 }
 
 // What was read can be written, and reads back the same.
@@ -134,16 +130,15 @@ bool definitions(QByteArrayView bytes)
 {
     static variables::Catalogue catalogue;
     const auto units = catalogue.units.size();
+    const auto loads = [](const QByteArray &file) {
+        return variables::loadDefinitions(file, catalogue) == variables::DefinitionStatus::Loaded;
+    };
     bool loaded = false;
-    platform::skipFailures([&] {
-        loaded =
-            variables::loadDefinitions(bytes.toByteArray(), catalogue) == variables::DefinitionStatus::Loaded;
-    });
+    platform::skipFailures([&] { loaded = loads(bytes.toByteArray()); });
     if (!loaded)
         return catalogue.units.size() == units && catalogue.live.size() == variables::LastIndex + 1;
     const QByteArray saved = variables::saveDefinitions(catalogue);
-    return variables::loadDefinitions(saved, catalogue) == variables::DefinitionStatus::Loaded &&
-           variables::saveDefinitions(catalogue) == saved;
+    return loads(saved) && variables::saveDefinitions(catalogue) == saved;
 }
 
 bool expression(QByteArrayView bytes)

@@ -13,7 +13,7 @@ bool layout(QByteArrayView bytes);
 bool definitions(QByteArrayView bytes);
 // As a picture, taken as it is and again with the mark of a .bmp file in front.
 bool picture(QByteArrayView bytes);
-// As a font file of a kind and a number of glyphs that the first byte chooses, and as the name of one.
+// As a font file of a kind and a number of glyphs that the first byte chooses.
 bool font(QByteArrayView bytes);
 // As the text of an equation and of a conversion, and as a byte program.
 bool expression(QByteArrayView bytes);
