@@ -1,11 +1,5 @@
 #!/usr/bin/env python3
-"""Makes every call of a save fail, once and for good, and kills it at every call, then looks at what is left.
-
-    faults.py SAVE_ONCE
-
-Torn: the file is neither the old nor the new one. Lost: and no kept copy of the old one lies anywhere. Untrue: a save
-that says that it succeeded and did not, or whose bytes the device has not confirmed. Left over: what the next save to that place does not clear away.
-"""
+"""faults.py SAVE_ONCE: makes every call of a save fail, once and for good, and kills it there. What is left?"""
 
 import os
 import re
@@ -22,16 +16,15 @@ ERRORS = ("EIO", "ENOSPC", "EACCES", "EROFS")
 NOBODY = 65534
 
 
+# A folder with a layout in it, and one for kept bytes, made anew for each run.
 class Road:
-    """A folder with a layout in it, and one for kept bytes, made anew for each run."""
-
     def __init__(self, name, refuses_new_files):
         self.name = name
         self.refuses = refuses_new_files
         self.root = Path(tempfile.mkdtemp(prefix="faults-"))
         self.root.chmod(0o755)
         self.card, self.keep = self.root / "card", self.root / "keep"
-        self.path, self.new = self.card / "DEFAULT.VGL", self.root / "new"
+        self.path, self.new, self.trace = self.card / "DEFAULT.VGL", self.root / "new", self.keep / "trace"
         self.new.write_bytes(NEW)
 
     def prepare(self):
@@ -42,31 +35,26 @@ class Road:
             folder.mkdir()
         self.path.write_bytes(OLD)
         if os.getuid() == 0:
-            owned = (self.path, self.keep) if self.refuses else (self.path, self.keep, self.card)
-            for place in owned:
+            for place in (self.path, self.keep, *([] if self.refuses else [self.card])):
                 os.chown(place, NOBODY, NOBODY)
         elif self.refuses:
             self.card.chmod(0o555)
 
     def run(self, program, options=()):
-        command = [program, self.path, self.new, str(self.keep) + "/"]
-        if options:
-            command = ["strace", "-f", "-qq", *options, *command]
+        command = ["strace", "-f", "-qq", *options] if options else []
         if os.getuid() == 0:  # permissions bind root to nothing
             command = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", *command]
+        command += [program, self.path, self.new, str(self.keep) + "/"]
         return subprocess.run(command, capture_output=True, text=True, check=False)
 
     def calls(self, program):
         """Which calls of which number belong to the save: all that come after its first look at the card."""
-        trace = self.root / "trace"
-        trace.touch()
-        trace.chmod(0o666)
         self.prepare()
-        result = self.run(program, ("-o", trace, "-e", "trace=" + ",".join(CALLS)))
+        result = self.run(program, ("-o", self.trace, "-e", "trace=" + ",".join(CALLS)))
         if result.returncode:
             sys.exit(f"the save fails by itself: {result.stdout}{result.stderr}")
         number, begun = Counter(), False
-        for line in trace.read_text(errors="replace").splitlines():
+        for line in self.trace.read_text(errors="replace").splitlines():
             name = re.sub(r"^\d+\s+", "", line).split("(")[0]
             number[name] += 1
             begun = begun or str(self.card) in line or str(self.new) in line
@@ -79,22 +67,23 @@ class Road:
         return now, [copy.read_bytes() for copy in self.keep.iterdir() if copy.name.startswith("kept")]
 
 
+# Torn: the file is neither the old nor the new one. Lost: and no kept copy of the old one lies anywhere. Untrue: a
+# save that says that it succeeded and did not, or whose bytes the device has not confirmed.
 def judge(road, fault, result, verdicts):
     now, kept = road.held()
     whole = now in (OLD, NEW)
     verdicts["runs"] += 1
     verdicts["torn"] += not whole
-    verdicts["kept bytes needed"] += not whole and OLD in kept
     verdicts["lost"] += not whole and OLD not in kept
     # A volume without room for two files gets one, which is flushed anew.
     unconfirmed = "=fsync:error=" in fault and "ENOSPC" not in fault
     verdicts["untrue"] += result.returncode == 0 and (now != NEW or (unconfirmed and result.stdout == "saved\n"))
 
 
-def leaves_nothing(road, program):
-    """The next save to that place takes away what a killed one left."""
+# The next save to that place takes away what a killed one left.
+def leaves_over(road, program):
     road.run(program)
-    return [entry.name for entry in road.card.iterdir()] == ["DEFAULT.VGL"] and road.held()[0] == NEW
+    return [entry.name for entry in road.card.iterdir()] != ["DEFAULT.VGL"] or road.held()[0] != NEW
 
 
 def faults_of(name, number):
@@ -111,10 +100,8 @@ def try_road(road, program):
             road.prepare()
             result = road.run(program, ("-o", "/dev/null", "-e", fault))
             judge(road, fault, result, verdicts)
-            if not leaves_nothing(road, program):
-                verdicts["left over"] += 1
-    print(f"{road.name}: " + ", ".join(f"{verdicts[key]} {key}" for key in
-          ("runs", "torn", "lost", "untrue", "left over", "kept bytes needed")))
+            verdicts["left over"] += leaves_over(road, program)
+    print(f"{road.name}: " + ", ".join(f"{count} {verdict}" for verdict, count in verdicts.items()))
     return verdicts
 
 
