@@ -3,6 +3,7 @@
 #include "controls/text_tag/text_tag.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
