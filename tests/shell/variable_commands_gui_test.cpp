@@ -6,10 +6,6 @@
 
 namespace {
 
-const QString Replace =
-    "Are you sure you wish to replace the current variable configuration with one from file?";
-const QString Restore = "Do you want to restore default variable information?";
-
 TEST(VariableCommands, saveLoadAndRestoreDefinitions)
 {
     test::DesignWindow w;
@@ -17,7 +13,8 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
     const platform::Folders &folders = w.world.state.folders;
     const QString path = w.world.root.filePath("mine.var");
     const auto load = [&](const QString &file, const QString &message = {}) {
-        prompts.expectQuestion(Replace, true);
+        prompts.expectQuestion(
+            "Are you sure you wish to replace the current variable configuration with one from file?", true);
         prompts.expectOpenFile(file);
         if (!message.isEmpty())
             prompts.expectMessage(message);
@@ -27,14 +24,9 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
         return w.window.findChild<QTreeWidget *>("VarTree")->topLevelItem(0)->child(0)->text(0);
     };
 
-    load({}); // cancelled
-    const std::pair<char, QString> damages[] = {
-        {'x', "The command could not be completed.\nThe variable file ends early or is ill-formed"},
-        {'\xFF', variables::CorruptedDefinitions}};
-    for (const auto &[byte, message] : damages) {
-        platform::replaceFile(path, QByteArray(10'000'000, byte)); // longer than the definitions
-        load(path, message);
-    }
+    load({});                                                    // cancelled
+    platform::replaceFile(path, QByteArray(10'000'000, '\xFF')); // longer than the definitions
+    load(path, variables::CorruptedDefinitions);
     EXPECT_FALSE(QFile::exists(folders.variablesFile()));
     prompts.expectSaveFile(path);
     w.run("mnuSaveVarInfo");
@@ -42,16 +34,15 @@ TEST(VariableCommands, saveLoadAndRestoreDefinitions)
     load(path);
     EXPECT_EQ(nameInTree(), "Speed  (SPEED)");
     EXPECT_EQ(platform::readFile(folders.variablesFile()), platform::readFile(path));
-    EXPECT_TRUE(platform::readFile(folders.inUserData("QLM6ConfigTool.XVR")).contains("<BaseName>Speed<"));
 
-    prompts.expectQuestion(Restore, true);
+    const QString restore = "Do you want to restore default variable information?";
+    prompts.expectQuestion(restore, true);
     prompts.expectMessage("Can't find default variable file");
     w.run("mnuRestoreDefaultVar");
     w.world.addVariable(2, "Factory");
-    platform::replaceFile(folders.program + "QLM6ConfigToolVars.cfg",
-                          variables::saveDefinitions(w.world.state.catalogue));
+    platform::replaceFile(folders.shippedVariablesFile(), saveDefinitions(w.world.state.catalogue));
     w.world.addVariable(2, "Pace");
-    prompts.expectQuestion(Restore, true);
+    prompts.expectQuestion(restore, true);
     w.run("mnuRestoreDefaultVar");
     EXPECT_EQ(nameInTree(), "Factory  (FACTORY)");
 }
