@@ -46,8 +46,8 @@ TEST(Moving, ADragLastsUntilTheButtonIsReleasedOrFoundReleased)
     QMouseEvent move(QEvent::MouseMove, at + QPoint(20, 0), canvas.mapToGlobal(at + QPoint(20, 0)),
                      Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(&canvas, &move);
-    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, at);
     EXPECT_EQ(placeOf(bar), QPoint(130, 240));
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, at);
 
     QTest::mousePress(&canvas, Qt::LeftButton, {}, at);
     QTest::mouseMove(&canvas, {300, 300});
