@@ -13,8 +13,8 @@ namespace test {
 inline graphics::FontPair blockFont()
 {
     const auto file = [](std::size_t count) {
-        const graphics::Glyph block{8, 10, 0, std::vector<quint8>(80, 255)};
-        return *graphics::FontFile({10, std::vector(count, block)});
+        return *graphics::FontFile(
+            {10, std::vector(count, graphics::Glyph{8, 10, 0, std::vector<quint8>(80, 255)})});
     };
     return {file(graphics::StandardGlyphs), file(graphics::ExtendedGlyphs)};
 }

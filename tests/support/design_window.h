@@ -4,6 +4,7 @@
 #include "controls/digital_display/digital_display.h"
 #include "controls/gauge/gauge.h"
 #include "controls/text_tag/text_tag.h"
+#include "platform/file_replace.h"
 #include "platform/settings_keys.h"
 #include "shell/frm_main.h"
 #include "support/test_world.h"
@@ -26,10 +27,13 @@ struct DesignWindow
 {
     explicit DesignWindow(int gridSpacing = 0)
     {
-        const platform::Folders &folders = world.state.folders;
-        writeGround(folders.inUserData("PALVIDEOBackImg.bmp"), 576, PalGround);
-        writeGround(folders.inUserData("NTSCVIDEOBackImg.bmp"), 480, NtscGround);
-        platform::SettingsFile settings(folders.ConfigFile());
+        for (const auto &[name, height, colour] :
+             {std::tuple("PALVIDEOBackImg.bmp", 576, PalGround), {"NTSCVIDEOBackImg.bmp", 480, NtscGround}}) {
+            QImage ground(720, height, QImage::Format_RGB32);
+            ground.fill(colour);
+            ground.save(world.state.folders.inUserData(name));
+        }
+        platform::SettingsFile settings(world.state.folders.ConfigFile());
         platform::keys::GridSize.write(settings, gridSpacing);
         settings.save();
         window.design().load();
@@ -40,6 +44,7 @@ struct DesignWindow
 
     surface::frmInterface &design() { return window.design(); }
     surface::Canvas &canvas() { return *window.findChild<surface::Canvas *>(); }
+    operator QWidget &() { return canvas(); } // takes mouse and keys
     // What the canvas shows at one of its pixels.
     QColor shown(QPoint at) { return canvas().grab().toImage().pixelColor(at); }
     QString text(const char *label) { return window.findChild<QLabel *>(QLatin1String(label))->text(); }
@@ -53,40 +58,23 @@ struct DesignWindow
     void run(const char *name) { action(name).trigger(); }
     void pressToolButton(const char *name)
     {
-        auto *toolbar = window.findChild<QToolBar *>();
-        QTest::mouseClick(toolbar->widgetForAction(&action(name)), Qt::LeftButton);
+        QTest::mouseClick(window.findChild<QToolBar *>()->widgetForAction(&action(name)), Qt::LeftButton);
     }
 
     // New controls with their corner at this canvas pixel.
-    controls::Gauge &addGauge(int x, int y)
-    {
-        return add<controls::Gauge>(controls::ControlType::Gauge, x, y);
-    }
-    controls::BarGraph &addBar(int x, int y)
-    {
-        return add<controls::BarGraph>(controls::ControlType::BarGraph, x, y);
-    }
-    controls::DigitalDisplay &addDisplay(int x, int y)
-    {
-        return add<controls::DigitalDisplay>(controls::ControlType::DigitalDisplay, x, y);
-    }
-    controls::TextTag &addTag(int x, int y)
-    {
-        return add<controls::TextTag>(controls::ControlType::TextTag, x, y);
-    }
+    auto &addGauge(int x, int y) { return add<controls::Gauge>(Type::Gauge, x, y); }
+    auto &addBar(int x, int y) { return add<controls::BarGraph>(Type::BarGraph, x, y); }
+    auto &addDisplay(int x, int y) { return add<controls::DigitalDisplay>(Type::DigitalDisplay, x, y); }
+    auto &addTag(int x, int y) { return add<controls::TextTag>(Type::TextTag, x, y); }
 
     World world;
     shell::frmMain window{world.state, world.prompts};
 
 private:
-    static void writeGround(const QString &path, int height, const QColor &colour)
-    {
-        QImage ground(720, height, QImage::Format_RGB32);
-        ground.fill(colour);
-        ground.save(path);
-    }
+    using Type = controls::ControlType;
+
     template <typename Control>
-    Control &add(controls::ControlType type, int x, int y)
+    Control &add(Type type, int x, int y)
     {
         design().addControl(type, QPointF(x * 15, y * 15));
         return static_cast<Control &>(*design().controls().last());
@@ -100,20 +88,11 @@ inline void writeLayout(const QString &path, int bars)
     for (int i = 0; i < bars; ++i)
         w.addBar(10 * i, 40 * i);
     w.window.files().saveWorkspace();
-    QFile::remove(path);
-    EXPECT_TRUE(QFile::copy(w.world.state.folders.workspaceFile(), path));
+    platform::replaceFile(path, platform::readFile(w.world.state.folders.workspaceFile()));
 }
 
 // The corner of a control, canvas pixels.
 inline QPoint placeOf(const controls::OverlayControl &control) { return control.outerRect().topLeft(); }
-
-inline void drag(DesignWindow &w, QPoint from, const QList<QPoint> &way) { drag(w.canvas(), from, way); }
-
-inline void click(DesignWindow &w, QPoint at, Qt::KeyboardModifiers modifiers = {},
-                  Qt::MouseButton button = Qt::LeftButton)
-{
-    click(w.canvas(), at, modifiers, button);
-}
 
 inline void press(DesignWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
@@ -154,12 +133,3 @@ inline qint32 whole(const controls::OverlayControl &control, const char *reader)
 
 inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
 inline void PrintTo(const QColor &colour, std::ostream *out) { *out << colour.name().toStdString(); }
-
-namespace controls {
-
-inline void PrintTo(const Box &box, std::ostream *out)
-{
-    *out << "{" << box.Left << ", " << box.Top << ", " << box.Width << ", " << box.Height << "}";
-}
-
-} // namespace controls

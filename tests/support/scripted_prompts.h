@@ -5,6 +5,7 @@
 #include <QVariant>
 
 #include <deque>
+#include <gtest/gtest.h>
 #include <vector>
 
 namespace test {
@@ -13,60 +14,62 @@ namespace test {
 // fails the test.
 class ScriptedPrompts final : public platform::Prompts
 {
+    using Icon = platform::Icon;
+
 public:
     struct Shown
     {
-        platform::Icon icon;
-        QString title;
+        Icon icon;
         QString text;
     };
 
-    ~ScriptedPrompts() override;
+    ~ScriptedPrompts() override
+    {
+        for (const Step &step : m_script)
+            ADD_FAILURE() << "nobody asked: " << step.text.toStdString();
+    }
 
-    void expectMessage(const QString &text) { m_script.push_back({Kind::Message, text, {}}); }
-    void expectQuestion(const QString &text, bool yes) { m_script.push_back({Kind::Question, text, yes}); }
-    void expectConfirm(const QString &text, bool ok) { m_script.push_back({Kind::Confirmation, text, ok}); }
-    void expectChoice(std::optional<int> option)
-    {
-        m_script.push_back({Kind::Choice, {}, option ? QVariant(*option) : QVariant()});
-    }
-    void expectInput(const QString &answer) { m_script.push_back({Kind::Input, {}, answer}); }
-    void expectOpenFile(const QString &path) { m_script.push_back({Kind::OpenFile, {}, path}); }
-    void expectSaveFile(const QString &path) { m_script.push_back({Kind::SaveFile, {}, path}); }
-    void expectFont(const QFont &font) { m_script.push_back({Kind::Font, {}, font}); }
-    void expectColour(std::optional<QRgb> rgb)
-    {
-        m_script.push_back({Kind::Colour, {}, rgb ? QVariant(*rgb) : QVariant()});
-    }
+    void expectMessage(const QString &text) { expect({Kind::Message, text, {}}); }
+    void expectQuestion(const QString &text, bool yes) { expect({Kind::Question, text, yes}); }
+    void expectConfirm(const QString &text, bool ok) { expect({Kind::Confirmation, text, ok}); }
+    void expectChoice(std::optional<int> option) { expect({Kind::Choice, {}, QVariant::fromValue(option)}); }
+    void expectInput(const QString &answer) { expect({Kind::Input, {}, answer}); }
+    void expectOpenFile(const QString &path) { expect({Kind::OpenFile, {}, path}); }
+    void expectSaveFile(const QString &path) { expect({Kind::SaveFile, {}, path}); }
+    void expectFont(const std::optional<QFont> &font) { expect({Kind::Font, {}, QVariant::fromValue(font)}); }
+    void expectColour(std::optional<QRgb> rgb) { expect({Kind::Colour, {}, QVariant::fromValue(rgb)}); }
 
     // All that was shown so far, in order.
     const std::vector<Shown> &shown() const { return m_shown; }
     const platform::FileRequest &lastFileRequest() const { return m_request; }
 
-    void message(platform::Icon icon, const QString &title, const QString &text) override
+    void message(Icon icon, const QString &, const QString &text) override
     {
-        show(Kind::Message, {icon, title, text});
+        show(Kind::Message, text, icon);
     }
-    bool ask(platform::Icon icon, const QString &title, const QString &text) override
+    bool ask(Icon icon, const QString &, const QString &text) override
     {
-        return show(Kind::Question, {icon, title, text}).toBool();
+        return show(Kind::Question, text, icon).toBool();
     }
-    bool confirm(platform::Icon icon, const QString &title, const QString &text) override
+    bool confirm(Icon icon, const QString &, const QString &text) override
     {
-        return show(Kind::Confirmation, {icon, title, text}).toBool();
+        return show(Kind::Confirmation, text, icon).toBool();
     }
-    std::optional<int> choose(const QString &title, const QString &text, const QStringList &) override
+    std::optional<int> choose(const QString &, const QString &text, const QStringList &) override
     {
-        return chosen<int>(show(Kind::Choice, {platform::Icon::None, title, text}));
+        return show(Kind::Choice, text).value<std::optional<int>>();
     }
-    QString input(const QString &title, const QString &text, const QString &) override
+    QString input(const QString &, const QString &text, const QString &) override
     {
-        return show(Kind::Input, {platform::Icon::None, title, text}).toString();
+        return show(Kind::Input, text).toString();
     }
     QString openFile(const platform::FileRequest &request) override { return pick(Kind::OpenFile, request); }
     QString saveFile(const platform::FileRequest &request) override { return pick(Kind::SaveFile, request); }
-    std::optional<QRgb> colour(QRgb) override { return chosen<QRgb>(take(Kind::Colour, {})); }
-    std::optional<QFont> font(const QFont &) override { return chosen<QFont>(take(Kind::Font, {})); }
+    std::optional<QRgb> colour(QRgb) override { return take(Kind::Colour).value<std::optional<QRgb>>(); }
+    std::optional<QFont> font(const QFont &) override
+    {
+        return take(Kind::Font).value<std::optional<QFont>>();
+    }
 
 private:
     enum class Kind { Message, Question, Confirmation, Choice, Input, OpenFile, SaveFile, Colour, Font };
@@ -77,14 +80,27 @@ private:
         QVariant answer;
     };
 
+    void expect(const Step &step) { m_script.push_back(step); }
     // The next answer of the script, which must be meant for this kind of prompt.
-    QVariant take(Kind kind, const QString &text);
-    QVariant show(Kind kind, const Shown &shown);
-    QString pick(Kind kind, const platform::FileRequest &request);
-    template <typename Value>
-    static std::optional<Value> chosen(const QVariant &answer)
+    QVariant take(Kind kind, const QString &text = {})
     {
-        return answer.isValid() ? std::optional(answer.value<Value>()) : std::nullopt;
+        const Step step = m_script.empty() ? Step{} : m_script.front();
+        if (m_script.empty() || step.kind != kind || (!step.text.isNull() && step.text != text)) {
+            ADD_FAILURE() << "unexpected prompt: " << text.toStdString();
+            return {};
+        }
+        m_script.pop_front();
+        return step.answer;
+    }
+    QVariant show(Kind kind, const QString &text, Icon icon = Icon::None)
+    {
+        m_shown.push_back({icon, text});
+        return take(kind, text);
+    }
+    QString pick(Kind kind, const platform::FileRequest &request)
+    {
+        m_request = request;
+        return take(kind, request.title).toString();
     }
 
     std::deque<Step> m_script;

@@ -4,20 +4,13 @@
 
 namespace test {
 
-namespace {
-
-QString folder(const QTemporaryDir &root, const QString &name)
-{
-    QDir().mkpath(root.filePath(name));
-    return root.filePath(name) + '/';
-}
-
-} // namespace
-
 World::World()
 {
-    state.folders = {folder(root, "program"), folder(root, "data"), folder(root, "temporary"),
-                     folder(root, "cache")};
+    const auto folder = [this](const char *name) {
+        QDir().mkpath(root.filePath(name));
+        return root.filePath(name) + '/';
+    };
+    state.folders = {folder("program"), folder("data"), folder("temporary"), folder("cache")};
     QDir().mkpath(state.folders.GetAppDataFolder());
     state.stamp = {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, "driver", "pitwall"};
     addVariable(2, "Speed");

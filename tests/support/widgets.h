@@ -24,10 +24,7 @@ inline void show(QWidget &window)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
-inline void press(const QWidget &window, const char *button)
-{
-    child<QAbstractButton>(window, button).click();
-}
+inline void press(const QWidget &in, const char *button) { child<QAbstractButton>(in, button).click(); }
 
 // Does this in the modal window that opens next.
 inline void whenOpened(const std::function<void(QWidget &)> &inside)
