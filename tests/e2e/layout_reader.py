@@ -6,6 +6,8 @@ import zlib
 from pathlib import Path
 from typing import NamedTuple
 
+from desktop import Failure
+
 HEADER = struct.Struct("<5s3B5B20s20s")
 FRAME = struct.Struct("<IhiH")
 SUM_SIZE = 2
@@ -19,39 +21,28 @@ PAYLOADS = {
 }
 
 
-class Damage(Exception):
-    """What a recorder could not read."""
-
-
 class Layout(NamedTuple):
     saved: datetime.datetime
     user: bytes
     computer: bytes
-    records: list[tuple[int, int, bytes]]  # type, number, payload
-
-    def of(self, kind: int) -> list[tuple]:
-        """The values of all records of one type."""
-        return [PAYLOADS[kind].unpack(payload) for found, _, payload in self.records if found == kind]
+    records: dict[int, list[tuple]]  # the values of all records of one type
 
 
 def read_layout(path: Path) -> Layout:
     content = path.read_bytes()
     body, crc = content[:-4], content[-4:]
     if struct.unpack("<I", crc)[0] != zlib.crc32(body):
-        raise Damage("the CRC at the end is wrong")
+        raise Failure("the CRC at the end is wrong")
     *_, day, month, year, hour, minute, user, computer = HEADER.unpack_from(body)
     saved = datetime.datetime(2000 + year, month, day, hour, minute)
-    return Layout(saved, user.partition(b"\0")[0], computer.partition(b"\0")[0], _records(body))
-
-
-def _records(body: bytes) -> list[tuple[int, int, bytes]]:
-    records = []
+    records: dict[int, list[tuple]] = {kind: [] for kind in PAYLOADS}
     at = HEADER.size
     while at < len(body):
-        sync, kind, size, number = FRAME.unpack_from(body, at)
-        end = at + FRAME.size + size
-        if sync != SYNC or end + SUM_SIZE > len(body):
-            raise Damage(f"there is no record at byte {at}")
-        records.append((kind, number, body[at + FRAME.size : end]))
-        at = end + SUM_SIZE
-    return records
+        sync, kind, size, _ = FRAME.unpack_from(body, at)
+        payload = body[at + FRAME.size : at + FRAME.size + size]
+        if sync != SYNC:
+            raise Failure(f"there is no record at byte {at}")
+        if kind in PAYLOADS:
+            records[kind].append(PAYLOADS[kind].unpack(payload))
+        at += FRAME.size + size + SUM_SIZE
+    return Layout(saved, user.partition(b"\0")[0], computer.partition(b"\0")[0], records)
