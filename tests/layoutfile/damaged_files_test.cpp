@@ -48,7 +48,7 @@ TEST(DamagedFile, whatCanBeReadIsReadAndNothingElse)
     const std::tuple<const char *, QByteArray, Types> cases[] = {
         {"garbage between records", standard(one + "garbage between." + bytes("DCEB FA01")), {6, 12}},
         {"garbage that is no multiple of four", standard(gauge(one + "ab")), {6}},
-        {"types that do not exist", standard(one + stray), {6, 12}},
+        {"fonts and what does not exist", standard(withRecord(one, 19, 4, 1, "font") + stray), {6, 12}},
         {"a stated size that nobody needs", standard(stating("FFFFFF7F")), {6, 12}},
         {"an icon of another size than it states", standard(icon(header(), 4)), {27, 12}},
         {"an icon of the largest size", standard(one + largeIcon), {6}},

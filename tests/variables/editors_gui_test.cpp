@@ -169,6 +169,7 @@ TEST_F(Editors, designAFilterAndSetACalculus)
     EXPECT_EQ(record.FilterLowVal, 12.5F);
     EXPECT_EQ(record.FilterHighVal, -1);
     EXPECT_EQ(record.FilterOrder, 4);
+    EXPECT_FALSE(edited(&VariableEditors::editFilter, [](QWidget &window) { test::press(window, "cmdOk"); }));
     EXPECT_TRUE(edited(&VariableEditors::editCalculus, [](QWidget &window) {
         test::child<QComboBox>(window, "CalcCombo").setCurrentText("Differentiate variable against distance");
         test::press(window, "cmdOk");

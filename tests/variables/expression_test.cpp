@@ -115,7 +115,11 @@ TEST(Compiler, refusesWhatOutgrowsItsLimits)
     EXPECT_TRUE(program(sum("1", 33)).isEmpty());
     for (const char *part : {"-", "(", "sin(", "1+(", "2^-", "max(1,", "3var_0001^"})
         EXPECT_TRUE(program(QString(part).repeated(100'000)).isEmpty()) << part;
-    EXPECT_TRUE(program("-(" + sum("x", 42) + ')').isEmpty());
+    WordProgram full;
+    while (full.size() < 252)
+        full.append(FirstSlot, Op::Nothing);
+    EXPECT_FALSE(full.subtractFromZero(0, FirstSlot)); // needs six words
+    EXPECT_EQ(full.size(), 252);
 }
 
 } // namespace

@@ -20,11 +20,10 @@ TEST(NumberText, keepsSoManyDigits)
 TEST(PolynomialText, isWrittenToTheLetter)
 {
     const std::pair<Coefficients, const char *> cases[] = {
-        {{0, 1, 0, 0}, " x^2"},
         {{1, 1, 1, 1}, "x^3 + x^2 + x + 1"},
         {{-1, -1, -1, -1}, "-1*x^3 - 1x^2 - 1*x - 1"},
         {{0, -2, 0, 5}, " - 2x^2 + 5"},
-        {{0, 0.05, -12, 0}, "5e-2x^2 - 12*x"},
+        {{0, 1, -12, 0.05}, " x^2 - 12*x + 5e-2"},
     };
     for (const auto &[coefficients, text] : cases)
         EXPECT_EQ(polynomialText(coefficients), text);
