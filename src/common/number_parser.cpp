@@ -1,7 +1,9 @@
 #include "common/number_parser.h"
 
 #include "common/number_text.h"
+#include "common/run_time_error.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <cmath>
@@ -76,6 +78,14 @@ double parseNumber(const QString &text)
     if (std::isnan(value))
         return 0.0; // nothing times a multiplier past all bounds
     return negative ? -value : value;
+}
+
+double requireNumber(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral(R"(^-?(\d+\.?\d*|\.\d+)(E[+-]?\d+)?$)"));
+    if (!number.match(withPlainDigits(text.trimmed())).hasMatch())
+        throw RunTimeError(QStringLiteral("\"%1\" is not a number").arg(text));
+    return parseNumber(text);
 }
 
 bool isNumericKey(QChar key, const QString &decimalSeparator)

@@ -9,6 +9,10 @@ namespace common {
 // characters count.
 double parseNumber(const QString &text);
 
+// The same for a text that has to be a number: sign, digits with at most one decimal mark, exponent. Throws
+// RunTimeError for any other, an empty one among them.
+double requireNumber(const QString &text);
+
 // Whether a text box for numbers takes this character: digits of any script, ".", ",", "-", Backspace, Enter
 // and the characters of the system's decimal mark.
 bool isNumericKey(QChar key, const QString &decimalSeparator);

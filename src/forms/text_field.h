@@ -52,6 +52,8 @@ class NumberField : public TextField
 public:
     NumberField(const char *name, const QString &decimalMark);
 
+    // Takes no text that is not a number in whole from now on; else what can be read of it counts.
+    void requireNumber() { m_parse = &common::requireNumber; }
     // Another way to write a number than the plain one.
     void setFormat(std::function<QString(double)> format) { m_format = std::move(format); }
 
@@ -67,9 +69,10 @@ public:
     void store(double &member) const;
 
 protected:
-    double number() const { return common::parseNumber(text()); }
+    double number() const { return m_parse(text()); }
 
 private:
+    double (*m_parse)(const QString &) = &common::parseNumber;
     std::function<QString(double)> m_format;
 };
 

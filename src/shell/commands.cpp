@@ -4,6 +4,7 @@
 #include "recorder/dialogs/frm_frequency.h"
 #include "recorder/dialogs/frm_manual_bit_rate.h"
 #include "recorder/dialogs/frm_special_icons.h"
+#include "recorder/dialogs/frm_start_stop_rec.h"
 #include "shell/frm_main.h"
 #include "shell/frm_start_splash.h"
 #include "surface/panel_area.h"
@@ -148,6 +149,16 @@ struct CommandTable
          .icon = "menu/panels",
          .run = [](frmMain &w) { w.m_design->resetPanels(); }},
 
+        {.places = ConfigurationMenu,
+         .name = "mnuAutoStartStopRec",
+         .caption = "Auto Start/Stop Recording",
+         .run =
+             [](frmMain &w) {
+                 recorder::RecorderSettings &settings = w.m_state.settings;
+                 recorder::frmStartStopRec(settings.autoStart, settings.autoStop, w.m_state.catalogue.live,
+                                           dialogContext(w))
+                     .exec();
+             }},
         {.places = ConfigurationMenu,
          .name = "mnuSetMsgFrequency",
          .caption = "Message Frequency",

@@ -1,6 +1,8 @@
 #include "recorder/message_table.h"
 #include "support/design_window.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTableView>
 
@@ -15,15 +17,22 @@ struct RecorderDialogs : testing::Test
         test::whenOpened(inside);
         w.run(command);
     }
-    // Presses these keys where the focus is.
+    static QWidget *focus()
+    {
+        QApplication::processEvents();
+        QWidget *popup = QApplication::activePopupWidget();
+        return (popup ? popup : QApplication::activeModalWidget())->focusWidget();
+    }
     static void keys(const QList<Qt::Key> &keys)
     {
-        for (const Qt::Key key : keys) {
-            QApplication::processEvents();
-            const QWidget *popup = QApplication::activePopupWidget();
-            QTest::keyClick((popup ? popup : QApplication::activeModalWidget())->focusWidget(), key);
-        }
+        for (const Qt::Key key : keys)
+            QTest::keyClick(focus(), key);
         QApplication::processEvents();
+    }
+    static void type(const QByteArray &text)
+    {
+        for (const char character : text)
+            QTest::keyClick(focus(), character);
     }
     // Saves the layout, starts a new one, and loads it again.
     void saveAndReload()
@@ -92,6 +101,28 @@ TEST_F(RecorderDialogs, messageRatesAreChosenInTheirCells)
     EXPECT_TRUE(written == settings.MessageTable);
     EXPECT_EQ(written[104], (recorder::MessageEntry{104, "Lap time", 5, 0, 1}));
     EXPECT_EQ(written[18].outputRate, 2);
+}
+
+TEST_F(RecorderDialogs, autoStartKeepsWhatFitsBeforeATextThatDoesNot)
+{
+    using recorder::RecordingTrigger;
+    open("mnuAutoStartStopRec", [](QWidget &) { keys({Qt::Key_Escape}); });
+    EXPECT_EQ(settings.autoStop, (RecordingTrigger{1})); // chosen by opening
+    w.world.prompts.expectMessage("The command could not be completed.\nOverflow");
+    open("mnuAutoStartStopRec", [this](QWidget &dialog) {
+        keys({Qt::Key_Home, Qt::Key_Tab, Qt::Key_End, Qt::Key_Tab});
+        type("12,5x");
+        keys({Qt::Key_Tab});
+        type("300");
+        keys({Qt::Key_Return});
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(settings.autoStart, (RecordingTrigger{2, 2, 12.5F, 0}));
+        keys({Qt::Key_Home, Qt::Key_Delete}); // 00
+        keys({Qt::Key_Return});
+    });
+    saveAndReload();
+    EXPECT_EQ(settings.autoStart, (RecordingTrigger{2, 2, 12.5F, 0}));
+    EXPECT_EQ(settings.autoStop, RecordingTrigger()); // not active
 }
 
 } // namespace
