@@ -97,6 +97,13 @@ public:
         return box;
     }
 
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    }
+
 private:
     QString m_name;
     QString m_decimalMark;
@@ -118,7 +125,8 @@ CellGrid::CellGrid(const char *name, QAbstractItemModel *model)
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowPadding);
     setWordWrap(false);
-    setCurrentIndex(model->index(0, 0));
+    chooseFirst();
+    connect(model, &QAbstractItemModel::modelReset, this, &CellGrid::chooseFirst);
 }
 
 void CellGrid::setList(int column, const char *name, std::function<Choices(int row)> choices)
@@ -130,6 +138,15 @@ void CellGrid::setNumber(int column, const char *name, const QString &decimalMar
 {
     setItemDelegateForColumn(column, new NumberDelegate(this, name, decimalMark));
     m_numbers.append(column);
+}
+
+// The first cell that is edited becomes the current one.
+void CellGrid::chooseFirst()
+{
+    QModelIndex first = model()->index(0, 0);
+    while (first.isValid() && !first.flags().testFlag(Qt::ItemIsEditable))
+        first = first.siblingAtColumn(first.column() + 1);
+    setCurrentIndex(first);
 }
 
 // The base asks here for every click and key, so that a tick box in a cell gets its own first.

@@ -31,6 +31,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void chooseFirst();
+
     QList<int> m_numbers; // columns
 };
 

@@ -134,6 +134,15 @@ void Dialog::addWide(QWidget *widget)
     m_form->addRow(widget);
 }
 
+QPushButton *Dialog::makeButton(const char *name, const char *caption, std::function<void()> pressed)
+{
+    auto *button = new QPushButton(QString::fromUtf8(caption));
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, std::move(pressed));
+    return button;
+}
+
 QLabel &Dialog::addLabel(const char *name, const char *caption)
 {
     beginRows(m_form, *m_body);

@@ -83,6 +83,8 @@ protected:
     static void showTurn(Field &shown, Field &hidden, const char *caption);
     // A widget over the whole width of the group.
     void addWide(QWidget *widget);
+    // A button that does something else than close the dialog; it belongs where it is put.
+    QPushButton *makeButton(const char *name, const char *caption, std::function<void()> pressed);
     // A row with a text that the program shows.
     QLabel &addLabel(const char *name, const char *caption);
     // The layout that the groups stand in.

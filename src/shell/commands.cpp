@@ -1,6 +1,7 @@
 #include "shell/commands.h"
 
 #include "recorder/bit_rate.h"
+#include "recorder/dialogs/frm_auto_chapter_mark.h"
 #include "recorder/dialogs/frm_frequency.h"
 #include "recorder/dialogs/frm_manual_bit_rate.h"
 #include "recorder/dialogs/frm_special_icons.h"
@@ -157,6 +158,14 @@ struct CommandTable
                  recorder::RecorderSettings &settings = w.m_state.settings;
                  recorder::frmStartStopRec(settings.autoStart, settings.autoStop, w.m_state.catalogue.live,
                                            dialogContext(w))
+                     .exec();
+             }},
+        {.places = ConfigurationMenu,
+         .name = "mnuAutoChapterMark",
+         .caption = "Auto Chapter Markers",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmAutoChapterMark(w.m_state.settings, w.m_state.catalogue.live, dialogContext(w))
                      .exec();
              }},
         {.places = ConfigurationMenu,

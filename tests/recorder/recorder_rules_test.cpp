@@ -1,4 +1,6 @@
+#include "common/run_time_error.h"
 #include "recorder/bit_rate.h"
+#include "recorder/chapter_rows.h"
 #include "recorder/message_rates.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +95,53 @@ TEST(MessageRates, areFoundByNumberOrName)
                           Case{"sp", 41, 40}, // a beginning, round the end, before a middle
                           Case{"S SP", 0, 90}, Case{"message 2", 3, 20}, Case{"xyz", 0, std::nullopt}})
         EXPECT_EQ(findMessage(table, c.typed, c.from), c.row) << c.typed.toStdString();
+}
+
+variables::VariableTable someVariables()
+{
+    variables::VariableTable table(variables::LastIndex + 1);
+    for (const int index : {2, 10}) {
+        table[index].IndexNumber = index;
+        table[index].DisplayName = "name";
+    }
+    return table;
+}
+
+TEST(ChapterRows, closeUpAndComeBackExactly)
+{
+    const float third = 1.0F / 3;
+    const std::vector<ChapterCondition> stored{
+        {9, third, 1, 2, 1, third}, {0, 0, 0, 10, 1, 5}, {3, 3.4028235E38F, 0, 2, 0, -1}};
+    ChapterRows rows = chapterRows(stored, ",");
+    rows.insert(rows.begin() + 1, emptyChapterRow(","));
+    EXPECT_EQ(rows[0].value1.text(), "0,33333334");
+    EXPECT_EQ(chapterTypeText(*rows[0].type) + signText(rows[0].sign1), "10<=");
+    EXPECT_EQ(chapterConditions(rows, someVariables()), stored);
+    rows[2].isTicked = true;
+    removeTicked(rows);
+    rows[0].value2.type("-12,5");
+    EXPECT_EQ(chapterConditions(rows, someVariables()),
+              (std::vector<ChapterCondition>{{9, third, 1, 2, 1, -12.5F}, stored[2]}));
+    tickAll(rows);
+    removeTicked(rows);
+    EXPECT_EQ(rows.size(), 1U); // the empty one
+}
+
+TEST(ChapterRows, areRefusedWhereACellCannotBeStored)
+{
+    struct Case
+    {
+        qint32 variable;
+        QString value;
+    };
+    for (const Case &c : {Case{0, "1"}, Case{3, "1"}, Case{-1, "1"}, Case{8000, "1"}, Case{99999, "1"},
+                          Case{2, ""}, Case{2, "-"}, Case{2, "1,2,3"}, Case{2, "12x"}, Case{2, "1E39"}}) {
+        ChapterRows rows{emptyChapterRow(".")};
+        rows[0].type = 0;
+        rows[0].variable = c.variable;
+        rows[0].value2.type(c.value);
+        EXPECT_THROW(chapterConditions(rows, someVariables()), common::RunTimeError) << c.value.toStdString();
+    }
 }
 
 } // namespace

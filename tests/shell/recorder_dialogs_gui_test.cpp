@@ -125,4 +125,36 @@ TEST_F(RecorderDialogs, autoStartKeepsWhatFitsBeforeATextThatDoesNot)
     EXPECT_EQ(settings.autoStop, RecordingTrigger()); // not active
 }
 
+TEST_F(RecorderDialogs, chaptersAreMadeAndDeletedInTheGrid)
+{
+    const std::vector<recorder::ChapterCondition> before{
+        {0, 1, 0, 2, 0, 5}, {1, 2, 0, 3, 0, 6}, {2, 3, 0, 10, 1, 7}};
+    settings.ChapterList = before;
+    const auto change = [](QWidget &dialog) {
+        keys({Qt::Key_Down, Qt::Key_Space}); // ticks the second row
+        test::press(dialog, "cmdDelete");
+        keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_End, Qt::Key_Return, Qt::Key_Right});
+        type("-4");
+        keys({Qt::Key_Return, Qt::Key_Up, Qt::Key_Right, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});
+        keys({Qt::Key_Right, Qt::Key_Return, Qt::Key_Home, Qt::Key_Return}); // the first variable
+        test::press(dialog, "chkMarkLapTimerChapters");
+        test::child<QComboBox>(dialog, "cmbLapChapterType").setFocus();
+        keys({Qt::Key_End});
+    };
+    open("mnuAutoChapterMark", [&change](QWidget &dialog) {
+        change(dialog);
+        keys({Qt::Key_Escape});
+    });
+    EXPECT_EQ(settings.ChapterList, before);
+    EXPECT_EQ(settings.LapChapterActive, 0);
+    open("mnuAutoChapterMark", [&change](QWidget &dialog) {
+        change(dialog);
+        keys({Qt::Key_Return});
+    });
+    saveAndReload();
+    EXPECT_EQ(settings.ChapterList, (decltype(before){before[0], before[2], {9, -4, 1, 2, 0, 0}}));
+    EXPECT_EQ(settings.LapChapterActive, 1);
+    EXPECT_EQ(settings.LapChapterType, 9);
+}
+
 } // namespace

@@ -56,11 +56,9 @@ QLayout *frmFrequency::makeButtons()
 {
     auto *layout = new QGridLayout;
     for (const RateButton &button : RateButtons) {
-        auto *push = new QPushButton(QString::fromUtf8(button.caption));
-        push->setObjectName(QLatin1String(button.name));
+        QPushButton *push = makeButton(button.name, button.caption,
+                                       [this, &button] { m_grid->messages().set(button.rates); });
         push->setToolTip(QString::fromUtf8(button.toolTip));
-        push->setAutoDefault(false);
-        connect(push, &QPushButton::clicked, this, [this, &button] { m_grid->messages().set(button.rates); });
         layout->addWidget(push, layout->count() / ButtonsInRow, layout->count() % ButtonsInRow);
     }
     return layout;

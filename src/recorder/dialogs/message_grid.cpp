@@ -9,8 +9,6 @@ namespace recorder {
 
 namespace {
 
-constexpr std::array Headers{"No.", "Message", "Storage Frequency", "Output Frequency"};
-
 // Of a column that shows one.
 quint8 MessageEntry::*rateOf(int column)
 {
@@ -26,24 +24,17 @@ quint8 MessageEntry::*rateOf(int column)
 
 } // namespace
 
+MessageModel::MessageModel(MessageTable table)
+    : GridModel({QStringLiteral("No."), QStringLiteral("Message"), QStringLiteral("Storage Frequency"),
+                 QStringLiteral("Output Frequency")}),
+      m_table(std::move(table))
+{
+}
+
 void MessageModel::set(void (*rates)(MessageTable &))
 {
     rates(m_table);
     emit dataChanged(index(0, Storage), index(rowCount() - 1, Output));
-}
-
-int MessageModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_table.size());
-}
-
-int MessageModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : Columns; }
-
-QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    return QLatin1String(Headers.at(static_cast<std::size_t>(section)));
 }
 
 QVariant MessageModel::data(const QModelIndex &index, int role) const
@@ -73,8 +64,7 @@ bool MessageModel::setData(const QModelIndex &index, const QVariant &value, int 
 
 Qt::ItemFlags MessageModel::flags(const QModelIndex &index) const
 {
-    return QAbstractTableModel::flags(index) |
-           (rateOf(index.column()) ? Qt::ItemIsEditable : Qt::NoItemFlags);
+    return GridModel::flags(index) | (rateOf(index.column()) ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 
 MessageGrid::MessageGrid(const MessageTable &table) : CellGrid("grdInput", new MessageModel(table))
@@ -87,7 +77,6 @@ MessageGrid::MessageGrid(const MessageTable &table) : CellGrid("grdInput", new M
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(MessageModel::Name, QHeaderView::Stretch);
     setAlternatingRowColors(true);
-    setCurrentIndex(model()->index(0, MessageModel::Storage));
     m_pause.setSingleShot(true);
     m_pause.setInterval(QApplication::keyboardInputInterval());
     m_pause.callOnTimeout(this, [this] { m_typed.clear(); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/cell_grid.h"
+#include "forms/grid_model.h"
 #include "recorder/message_table.h"
 
 #include <QTimer>
@@ -8,23 +9,23 @@
 namespace recorder {
 
 // The rates of all messages, one row each, on a copy of a message table.
-class MessageModel final : public QAbstractTableModel
+class MessageModel final : public forms::GridModel
 {
 public:
-    enum Column { Number, Name, Storage, Output, Columns };
+    enum Column { Number, Name, Storage, Output };
 
-    explicit MessageModel(MessageTable table) : m_table(std::move(table)) {}
+    explicit MessageModel(MessageTable table);
 
     const MessageTable &table() const { return m_table; }
     // Sets rates for all messages.
     void set(void (*rates)(MessageTable &));
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+protected:
+    std::size_t rows() const override { return m_table.size(); }
 
 private:
     MessageTable m_table;
