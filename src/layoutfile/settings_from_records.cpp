@@ -10,8 +10,6 @@ using recorder::EncodePattern;
 using recorder::RecorderSettings;
 using recorder::VideoStandard;
 
-constexpr std::size_t MostGears = 7;
-
 // A value that its list does not hold stands for the first entry.
 quint8 listed(quint8 value, quint8 last) { return value <= last ? value : quint8{0}; }
 
@@ -88,7 +86,7 @@ public:
         m_settings.PulsesPerRevolution = r.pulsesPerRevolution;
         m_settings.GearMethod = listed(r.method, recorder::LastGearMethod);
         m_settings.GearVariable = r.variable;
-        const std::size_t count = std::min(r.lower.size(), MostGears);
+        const std::size_t count = std::min(r.lower.size(), recorder::MostGears);
         if (count == 0)
             return;
         m_settings.GearTable.resize(count);

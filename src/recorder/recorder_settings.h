@@ -26,6 +26,8 @@ inline constexpr quint8 LastSign = 1;
 inline constexpr quint8 LastCondition = 2;
 inline constexpr quint8 LastGearMethod = 1;
 
+inline constexpr std::size_t MostGears = 7;
+
 // A chapter is marked while value1 sign1 variable sign2 value2 holds; a sign is 0 for "<", 1 for "<=".
 struct ChapterCondition
 {

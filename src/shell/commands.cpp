@@ -3,7 +3,9 @@
 #include "recorder/bit_rate.h"
 #include "recorder/dialogs/frm_auto_chapter_mark.h"
 #include "recorder/dialogs/frm_frequency.h"
+#include "recorder/dialogs/frm_gear_display.h"
 #include "recorder/dialogs/frm_manual_bit_rate.h"
+#include "recorder/dialogs/frm_rpm.h"
 #include "recorder/dialogs/frm_special_icons.h"
 #include "recorder/dialogs/frm_start_stop_rec.h"
 #include "shell/frm_main.h"
@@ -176,6 +178,21 @@ struct CommandTable
                  recorder::frmFrequency(w.m_state.settings.MessageTable, w.m_state.folders.MessagesFile(),
                                         dialogContext(w))
                      .exec();
+             }},
+        {.places = ConfigurationMenu,
+         .name = "mnuGearDisplay",
+         .caption = "Gear Display",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmGearDisplay(w.m_state.settings, w.m_state.catalogue.live, dialogContext(w))
+                     .exec();
+             }},
+        {.places = ConfigurationMenu,
+         .name = "mnuRPM",
+         .caption = "RPM",
+         .run =
+             [](frmMain &w) {
+                 recorder::frmRPM(w.m_state.settings.PulsesPerRevolution, dialogContext(w)).exec();
              }},
         {.places = ConfigurationMenu,
          .name = "mnuSpecialIcons",

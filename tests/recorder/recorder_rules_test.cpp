@@ -1,6 +1,7 @@
 #include "common/run_time_error.h"
 #include "recorder/bit_rate.h"
 #include "recorder/chapter_rows.h"
+#include "recorder/gear_bands.h"
 #include "recorder/message_rates.h"
 
 #include <gtest/gtest.h>
@@ -142,6 +143,39 @@ TEST(ChapterRows, areRefusedWhereACellCannotBeStored)
         rows[0].value2.type(c.value);
         EXPECT_THROW(chapterConditions(rows, someVariables()), common::RunTimeError) << c.value.toStdString();
     }
+}
+
+TEST(Gears, areOneToSeven)
+{
+    const auto count = [](const char *text) { return static_cast<int>(gearCount(text).value_or(0)); };
+    EXPECT_EQ(
+        (QList<int>{count("0"), count("1"), count("7"), count("8"), count("-1"), count("x"), count("")}),
+        (QList<int>{0, 1, 7, 0, 0, 0, 0}));
+}
+
+TEST(Gears, getTheirBandsFromTheRatios)
+{
+    struct Case
+    {
+        GearRatios ratios;
+        std::size_t count;
+        std::vector<GearLimits> bands;
+    };
+    // With a final drive of 4 and 2 m, a ratio of 1 is 30 kph at 1000 rpm.
+    const std::array<double, MostGears> seven{3, 2, 1.5, 1, 0.75, 0.5, 0.25};
+    for (const Case &c : {
+             Case{{seven, 4, 2},
+                  7,
+                  {{7, 12.5F}, {12.5F, 17.5F}, {17.5F, 25}, {25, 35}, {35, 50}, {50, 90}, {90, 171.42857F}}},
+             Case{{{3, 2}, 4, 2}, 2, {{7, 12.5F}, {12.5F, 8}}}, // up to half of 15 and 1
+             Case{{{3}, 4, 2}, 1, {{7, 5.5F}}},
+             Case{{{}, 4, 2}, 2, {{0.7F, 1}, {1, 1}}},
+             Case{{seven, 0, 2}, 2, {{0, 0}, {0, 0}}},
+             Case{{seven, 4, -3}, 1, {{0, 0}}},
+             Case{{{20, 5}, 10, 60}, 1, {{21, 45}}}, // as 10, and 50 m: 30 and 60
+             Case{{{-1, 5}, 10, 50}, 1, {{0.7F, 30.5F}}},
+         })
+        EXPECT_EQ(gearBands(c.ratios, c.count), c.bands);
 }
 
 } // namespace

@@ -157,4 +157,53 @@ TEST_F(RecorderDialogs, chaptersAreMadeAndDeletedInTheGrid)
     EXPECT_EQ(settings.LapChapterType, 9);
 }
 
+TEST_F(RecorderDialogs, gearsComeFromTheirRatios)
+{
+    const auto before = settings.GearTable;
+    const auto change = [this](QWidget &dialog) {
+        auto &count = test::child<QLineEdit>(dialog, "txtNumOfGears");
+        count.setFocus();
+        count.selectAll();
+        type("8");
+        w.world.prompts.expectMessage("Number of gears should be 1 to 7");
+        keys({Qt::Key_Tab});
+        type("2");
+        test::whenOpened([](QWidget &) {
+            for (const char *ratio : {"3", "2", "0", "0", "0", "0", "0", "4", "2"}) {
+                type(ratio);
+                keys({Qt::Key_Tab});
+            }
+            keys({Qt::Key_Return});
+        });
+        test::press(dialog, "cmdGearRatio");
+        QApplication::setActiveWindow(&dialog); // as a window manager does
+        test::child<QTableView>(dialog, "MSFlexGrid1").setFocus();
+        keys({Qt::Key_Down, Qt::Key_Right});
+        type("17.5"); // in the place of 8
+        keys({Qt::Key_Return});
+    };
+    open("mnuGearDisplay", [&change](QWidget &dialog) {
+        change(dialog);
+        keys({Qt::Key_Escape});
+    });
+    EXPECT_EQ(settings.GearTable, before);
+    open("mnuGearDisplay", [this, &change](QWidget &dialog) {
+        change(dialog);
+        test::press(dialog, "GearMethodOption_0");
+        w.world.prompts.expectMessage(
+            "The command could not be completed.\nNo variable is chosen for the gearbox sensor");
+        test::press(dialog, "cmdOk");
+        test::child<QComboBox>(dialog, "cmbVarID").setFocus();
+        keys({Qt::Key_Down, Qt::Key_Return});
+    });
+    open("mnuRPM", [](QWidget &) {
+        type("2.5");
+        keys({Qt::Key_Return});
+    });
+    saveAndReload();
+    EXPECT_EQ(settings.GearTable, (decltype(before){{7, 12.5F}, {12.5F, 17.5F}}));
+    EXPECT_EQ(std::pair(settings.GearMethod, settings.GearVariable), std::pair(quint8{1}, 2));
+    EXPECT_EQ(settings.PulsesPerRevolution, 2.5F);
+}
+
 } // namespace

@@ -1,0 +1,142 @@
+#include "recorder/dialogs/frm_gear_display.h"
+
+#include "forms/numeric_keys.h"
+#include "platform/guards.h"
+#include "recorder/dialogs/frm_gear_ratios.h"
+#include "variables/variable_choices.h"
+
+#include <QHeaderView>
+
+namespace recorder {
+
+namespace {
+
+constexpr quint8 SensorMethod = 1;
+constexpr quint8 SensorOption = 0;
+
+GearSetup setupOf(const RecorderSettings &settings)
+{
+    const bool bySensor = settings.GearMethod == SensorMethod;
+    return {QString::number(settings.GearTable.size()), static_cast<quint8>(bySensor ? 0 : 1),
+            settings.GearVariable};
+}
+
+} // namespace
+
+std::optional<forms::Verdict> validateGears(const forms::Typed &typed)
+{
+    if (gearCount(typed.text("txtNumOfGears")))
+        return std::nullopt;
+    return forms::refusal(QStringLiteral("Number of gears should be 1 to %1").arg(MostGears),
+                          platform::Icon::Critical);
+}
+
+frmGearDisplay::frmGearDisplay(RecorderSettings &settings, const variables::VariableTable &table,
+                               const forms::Context &context)
+    : DialogOf(QStringLiteral("Gear indicator setup"), setupOf(settings), context), m_settings(settings),
+      m_grid(new GearGrid(decimalMark())),
+      m_chart(new SpanChart("picBands", QStringLiteral("Bands of the gears"), static_cast<int>(MostGears)))
+{
+    addGroup("Method");
+    addMethod(table);
+    addGroup("Gears");
+    addCount();
+    addLimits();
+    finish(forms::okAndCancel());
+    setTabOrder(&button("cmdGearRatio"), &m_count->box());
+    setTabOrder(&m_count->box(), m_grid);
+}
+
+void frmGearDisplay::addMethod(const variables::VariableTable &table)
+{
+    using V = GearSetup;
+    const auto &method = options(&V::option, "",
+                                 {{"GearMethodOption_0", "Calculate gear based on gearbox &sensor"},
+                                  {"GearMethodOption_1", "Calculate gear based on speed and R&PM"}});
+    auto &variable =
+        choice(&V::variable, {"cmbVarID", "&Variable"},
+               variables::variableChoices(table, &variables::VariableRecord::Enabled, kept().variable));
+    QPushButton *ratios =
+        makeButton("cmdGearRatio", "Click here to calculate from gear &ratios", [this] { askForRatios(); });
+    addWide(ratios);
+    auto *help = new QLabel;
+    help->setObjectName(QStringLiteral("Helplbl"));
+    addWide(help);
+    follow([&method, &variable, ratios, help] {
+        const bool bySensor = method.row() == SensorOption;
+        variable.setEnabled(bySensor);
+        ratios->setEnabled(!bySensor);
+        help->setText(bySensor ? QStringLiteral("Enter upper and lower limits in volts")
+                               : QStringLiteral("Enter upper and lower limits as kph per 1000rpm"));
+    });
+}
+
+void frmGearDisplay::addCount()
+{
+    const QByteArray caption = QStringLiteral("Set &number of gears 1-%1").arg(MostGears).toUtf8();
+    m_count = &text(&GearSetup::count, {"txtNumOfGears", caption.constData()});
+    new forms::NumericKeys(&m_count->box(), decimalMark());
+    react(*m_count, [this] { takeCount(); });
+    connect(&m_count->box(), &QLineEdit::editingFinished, this, &frmGearDisplay::complainOfCount);
+}
+
+void frmGearDisplay::addLimits()
+{
+    m_grid->setAccessibleName(QStringLiteral("Limits of the gears"));
+    m_grid->gears().show(m_settings.GearTable);
+    m_grid->setFixedHeight(m_grid->horizontalHeader()->sizeHint().height() + 2 * m_grid->frameWidth() +
+                           static_cast<int>(MostGears) * m_grid->verticalHeader()->defaultSectionSize());
+    connect(&m_grid->gears(), &QAbstractItemModel::modelReset, this, &frmGearDisplay::drawChart);
+    connect(&m_grid->gears(), &QAbstractItemModel::dataChanged, this, &frmGearDisplay::drawChart);
+    addWide(m_grid);
+    addBeside(m_chart);
+    drawChart();
+}
+
+void frmGearDisplay::takeCount()
+{
+    if (const auto count = gearCount(m_count->text()))
+        m_grid->gears().setCount(*count);
+}
+
+// Once the box is left. Enter stays there and asks OK, which complains itself; on the way to Cancel nobody
+// needs to be told.
+void frmGearDisplay::complainOfCount()
+{
+    if (!isActiveWindow() || m_count->box().hasFocus() || button("cmdCancel").hasFocus())
+        return;
+    if (const auto verdict = validate(typed())) {
+        prompts().message(verdict->icon, platform::ProductTitle, verdict->text);
+        m_count->box().setFocus();
+        m_count->box().selectAll();
+    }
+}
+
+void frmGearDisplay::askForRatios()
+{
+    GearModel &gears = m_grid->gears();
+    forms::Context inside = context();
+    inside.parent = this;
+    const auto ratios = frmGearRatios(m_ratios, gears.count(), inside).run();
+    if (!ratios)
+        return;
+    m_ratios = *ratios;
+    gears.show(gearBands(m_ratios, gears.count()));
+}
+
+void frmGearDisplay::drawChart()
+{
+    platform::skipFailures([this] { drawBands(*m_chart, m_grid->gears().limits(), decimalMark()); });
+}
+
+void frmGearDisplay::set(GearSetup &setup)
+{
+    const bool bySensor = setup.option == SensorOption;
+    if (bySensor && setup.variable == 0)
+        throw common::RunTimeError(QStringLiteral("No variable is chosen for the gearbox sensor"));
+    m_settings.GearTable = m_grid->gears().limits();
+    m_settings.GearVariable = bySensor ? setup.variable : 0;
+    m_settings.GearMethod = bySensor ? SensorMethod : 0;
+}
+
+} // namespace recorder
