@@ -14,14 +14,23 @@
 
 namespace variables {
 
+namespace {
+
+// The grid gets to see the keys of its editor before the filter of numbers does.
+QLineEdit *makeEditor(const QString &decimalSeparator)
+{
+    auto *editor = new QLineEdit;
+    editor->setObjectName(QStringLiteral("txtCell"));
+    new forms::NumericKeys(editor, decimalSeparator);
+    return editor;
+}
+
+} // namespace
+
 PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decimalSeparator)
-    : EditGrid(rows, headers), m_edit(new QLineEdit), m_menu(new QMenu(this))
+    : EditGrid(rows, headers, makeEditor(decimalSeparator)), m_menu(new QMenu(this))
 {
     setSelectionMode(ContiguousSelection);
-    m_edit->setObjectName(QStringLiteral("txtCell"));
-    new forms::NumericKeys(m_edit, decimalSeparator);
-    setEditor(m_edit);
-
     m_menu->setObjectName(QStringLiteral("mnuPop"));
     addEntry("mnuCut", QStringLiteral("Cu&t"), QKeySequence::Cut, &PointGrid::cut);
     addEntry("mnuCopy", QStringLiteral("&Copy"), QKeySequence::Copy, &PointGrid::copy);
@@ -56,7 +65,7 @@ void PointGrid::extendBy(int rows, int columns)
     commit();
     extendTo(model()->index(std::clamp(row + rows, 0, rowCount() - 1),
                             std::clamp(column + columns, 0, columnCount() - 1)));
-    m_edit->selectAll();
+    editor()->selectAll();
 }
 
 void PointGrid::extendTo(const QModelIndex &corner)
@@ -67,7 +76,7 @@ void PointGrid::extendTo(const QModelIndex &corner)
 
 bool PointGrid::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!isEditor(watched))
+    if (watched != editor())
         return EditGrid::eventFilter(watched, event);
     if (event->type() == QEvent::ContextMenu) {
         contextMenuEvent(static_cast<QContextMenuEvent *>(event));
@@ -75,7 +84,7 @@ bool PointGrid::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::MouseMove) { // a drag out of the edit box selects a block
         const auto *mouse = static_cast<QMouseEvent *>(event);
-        const QModelIndex below = indexAt(m_edit->mapToParent(mouse->position().toPoint()));
+        const QModelIndex below = indexAt(editor()->mapToParent(mouse->position().toPoint()));
         if (!(mouse->buttons() & Qt::LeftButton) || !below.isValid() || below == currentIndex())
             return false;
         extendTo(below);
@@ -109,8 +118,8 @@ bool PointGrid::keyPressed(const QKeyEvent &event)
     return blockKeyPressed(event) || EditGrid::keyPressed(event);
 }
 
-// The keys of the popup menu. Within a single cell the edit box does as every edit box does, but a paste
-// always fills cells.
+// The keys of the popup menu. Within a single cell the edit box does as every
+// edit box does, but a paste always fills cells.
 bool PointGrid::blockKeyPressed(const QKeyEvent &event)
 {
     if (event.matches(QKeySequence::Paste)) {
