@@ -12,7 +12,7 @@
 namespace bench {
 
 // Says yes to everything and saves under one path.
-class YesPrompts final : public platform::Prompts
+class YesPrompts final : public platform::SilentPrompts
 {
 public:
     explicit YesPrompts(const QString &savePath) : m_savePath(savePath) {}
@@ -21,11 +21,7 @@ public:
     bool ask(platform::Icon, const QString &, const QString &) override { return true; }
     bool confirm(platform::Icon, const QString &, const QString &) override { return true; }
     std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return 0; }
-    QString input(const QString &, const QString &, const QString &) override { return {}; }
-    QString openFile(const platform::FileRequest &) override { return {}; }
     QString saveFile(const platform::FileRequest &) override { return m_savePath; }
-    std::optional<QRgb> colour(QRgb) override { return {}; }
-    std::optional<QFont> font(const QFont &) override { return {}; }
 
 private:
     QString m_savePath;

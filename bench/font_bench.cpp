@@ -5,6 +5,7 @@
 #include "graphics/font_store.h"
 #include "graphics/glyph_lists.h"
 #include "graphics/modDrawFont.h"
+#include "platform/prompts.h"
 
 #include <QTemporaryDir>
 
@@ -21,21 +22,6 @@ const QString Faces = QStringLiteral(MORVEL_PROGRAM_DIR "/fonts/");
 const QString Sample = QStringLiteral("Lap 12/34 (best 01:23.456) OK!");
 constexpr int Dots = 96;
 constexpr int Points = 24;
-
-// Nothing is ever said: the benchmarks ask for what can be made.
-class NoPrompts final : public platform::Prompts
-{
-public:
-    void message(platform::Icon, const QString &, const QString &) override {}
-    bool ask(platform::Icon, const QString &, const QString &) override { return false; }
-    bool confirm(platform::Icon, const QString &, const QString &) override { return false; }
-    std::optional<int> choose(const QString &, const QString &, const QStringList &) override { return {}; }
-    QString input(const QString &, const QString &, const QString &) override { return {}; }
-    QString openFile(const platform::FileRequest &) override { return {}; }
-    QString saveFile(const platform::FileRequest &) override { return {}; }
-    std::optional<QRgb> colour(QRgb) override { return {}; }
-    std::optional<QFont> font(const QFont &) override { return {}; }
-};
 
 FontRequest request(int size)
 {
@@ -85,7 +71,7 @@ void generatePair(benchmark::State &state)
 {
     const QTemporaryDir folder;
     platform::NoProgress progress;
-    NoPrompts prompts;
+    platform::SilentPrompts prompts;
     const graphics::FontFolders folders{folder.path() + QLatin1Char('/'), Faces};
     for (auto _ : state)
         graphics::GenerateFont(request(static_cast<int>(state.range(0))), folders, progress, prompts);

@@ -6,7 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/findings.sh"
 
 check_calls()
 {
-    local calls='\b(QMessageBox|QFileDialog|QInputDialog|QColorDialog|QFontDialog|QStandardPaths'
+    local calls='\b(QMessageBox|QFileDialog|QInputDialog|QColorDialog|QFontDialog|QDesktopServices|QStandardPaths'
     calls+='|(secure_)?getenv|qEnvironmentVariable[A-Za-z]*|qgetenv'
     calls+='|Q(Date|Time|DateTime)::current[A-Za-z]*|system_clock)\b'
     local file line code call

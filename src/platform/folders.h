@@ -30,6 +30,8 @@ struct Folders
     QString defaultLayoutFile() const { return inUserData("MORVELDefault.VGL"); }
     QString pictureFolder() const { return inUserData("ImgTemp/"); } // copies of pictures that users chose
     QString exampleGraphics() const { return program + QStringLiteral("Example Graphics/"); }
+    QString exampleLayouts() const { return program + QStringLiteral("Example Layouts/"); }
+    QString localHelp() const { return program + QStringLiteral("help/index.html"); }
     QString shippedVariablesFile() const { return program + QLatin1String(VariablesName); }
     QString seeds() const { return program + QStringLiteral("defaults/"); }
     QString shippedFaces() const { return program + QStringLiteral("fonts/"); }

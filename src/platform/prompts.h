@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/product.h"
+
 #include <QFont>
 #include <QImage>
 #include <QRgb>
 #include <QString>
+#include <QUrl>
 
 #include <functional>
 #include <optional>
@@ -22,8 +25,8 @@ struct FileRequest
     std::function<QImage(const QString &)> preview; // picture of the selected file, for opening; may be empty
 };
 
-// The only way to a message box, a question, an input box, a file, colour or font dialog. Every call is
-// modal.
+// The only way to a message box, a question, an input box, a file, colour or font dialog, all modal, and to
+// what the desktop shows pages with.
 class Prompts
 {
 public:
@@ -44,10 +47,12 @@ public:
     // Nothing when the user cancels.
     virtual std::optional<QRgb> colour(QRgb initial) = 0;
     virtual std::optional<QFont> font(const QFont &initial) = 0;
+    // In a window of another program. Throws RunTimeError that says why there is none.
+    virtual void showPage(const QUrl &page) = 0;
 };
 
 // For what runs while nobody is there: shows nothing and takes every question for declined.
-class SilentPrompts final : public Prompts
+class SilentPrompts : public Prompts
 {
 public:
     void message(Icon, const QString &, const QString &) override {}
@@ -59,9 +64,7 @@ public:
     QString saveFile(const FileRequest &) override { return {}; }
     std::optional<QRgb> colour(QRgb) override { return {}; }
     std::optional<QFont> font(const QFont &) override { return {}; }
+    void showPage(const QUrl &) override {}
 };
-
-// The program's name in the title of every box that has no title of its own.
-inline const QString ProductTitle = QStringLiteral("MORVEL Configuration Tool");
 
 } // namespace platform

@@ -3,11 +3,14 @@
 #include "common/number_text.h"
 #include "common/rounding.h"
 
+#include <QUrl>
+
 namespace platform {
 
 namespace {
 
 constexpr int NumberBuffer = 10;
+constexpr int PathBuffer = 4096;
 
 bool present(const SettingsFile &file, const NumberKey &key)
 {
@@ -44,6 +47,18 @@ QString TextKey::read(const SettingsFile &file) const
 void TextKey::write(SettingsFile &file, const QString &value) const
 {
     file.write(QLatin1String(section), QLatin1String(key), value);
+}
+
+QString PathKey::read(const SettingsFile &file) const
+{
+    const QString stored = file.read(QLatin1String(section), QLatin1String(key), {}, PathBuffer);
+    return QUrl::fromPercentEncoding(stored.toLatin1());
+}
+
+void PathKey::write(SettingsFile &file, const QString &path) const
+{
+    file.write(QLatin1String(section), QLatin1String(key),
+               QString::fromLatin1(QUrl::toPercentEncoding(path, "/")));
 }
 
 bool PanelKeys::stored(const SettingsFile &file) const

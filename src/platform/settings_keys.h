@@ -33,6 +33,16 @@ struct TextKey
     void write(SettingsFile &file, const QString &value) const;
 };
 
+// A path of any script; the file itself holds the 8-bit code page only.
+struct PathKey
+{
+    const char *section;
+    const char *key;
+
+    QString read(const SettingsFile &file) const; // empty for none
+    void write(SettingsFile &file, const QString &path) const;
+};
+
 // Left, top, width and height of a panel in twips.
 struct PanelKeys
 {
@@ -49,7 +59,16 @@ inline constexpr NumberKey ShowGrid{Tool, "SHOWGRID", 1};
 inline constexpr NumberKey SnapGrid{Tool, "SNAPGRID", 1};
 inline constexpr TextKey PalPicture{Tool, "PAL_BACKIMG", "PALVIDEOBackImg.bmp"};
 inline constexpr TextKey NtscPicture{Tool, "NTSC_BACKIMG", "NTSCVIDEOBackImg.bmp"};
-inline constexpr TextKey LayoutFolder{Tool, "LAYOUTFOLDER", "", 4096};
+inline constexpr PathKey LayoutFolder{Tool, "LAYOUTFOLDER"};
+// The newest first.
+inline constexpr std::array<PathKey, 8> RecentLayouts{{{"RECENTLAYOUTS", "1"},
+                                                       {"RECENTLAYOUTS", "2"},
+                                                       {"RECENTLAYOUTS", "3"},
+                                                       {"RECENTLAYOUTS", "4"},
+                                                       {"RECENTLAYOUTS", "5"},
+                                                       {"RECENTLAYOUTS", "6"},
+                                                       {"RECENTLAYOUTS", "7"},
+                                                       {"RECENTLAYOUTS", "8"}}};
 
 // A top below 894 becomes 854: the smaller value is deliberate.
 inline constexpr PanelKeys Library{{"CONTROL", "LEFT", 0},

@@ -10,6 +10,7 @@
 #include "recorder/dialogs/frm_start_stop_rec.h"
 #include "shell/frm_main.h"
 #include "shell/frm_start_splash.h"
+#include "shell/help.h"
 #include "surface/panel_area.h"
 
 namespace shell {
@@ -17,6 +18,22 @@ namespace shell {
 using recorder::EncodePattern;
 using recorder::VideoStandard;
 using surface::PanelId;
+
+namespace {
+
+// An entry for the recent layout of this number, counted from 0.
+template <qsizetype Index>
+constexpr Command recentLayout(const char *name)
+{
+    return {.places = FileMenu,
+            .name = name,
+            .captionOf =
+                [](const frmMain &w) { return recentCaption(Index, w.files().used().recent().value(Index)); },
+            .run = [](frmMain &w) { w.files().openRecent(Index); },
+            .isVisible = [](const frmMain &w) { return Index < w.files().used().recent().size(); }};
+}
+
+} // namespace
 
 // What a command may see of the main window.
 struct CommandTable
@@ -58,6 +75,7 @@ struct CommandTable
         w.m_design->pressKey(Key);
     }
     static forms::Context dialogContext(frmMain &w) { return {w.m_prompts, w.m_state.locale, &w}; }
+    static bool isMorvel(const frmMain &) { return platform::personality() == platform::Personality::MORVEL; }
     static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
 
     static constexpr Command Rows[] = {
@@ -79,6 +97,11 @@ struct CommandTable
          .icon = "toolbar/save",
          .shortcut = "Ctrl+S",
          .run = [](frmMain &w) { w.m_files.mnuSaveConfig(); }},
+        {.places = FileMenu,
+         .name = "mnuLoadFactoryLayout",
+         .caption = "Load factory layouts",
+         .icon = "menu/factory",
+         .run = [](frmMain &w) { w.m_files.mnuLoadFactoryLayout(); }},
         {.places = FileMenu | Toolbar},
         {.places = FileMenu,
          .name = "mnuLoadVarInfo",
@@ -98,6 +121,15 @@ struct CommandTable
          .caption = "Calculate Predictive CPU Load",
          .icon = "menu/load_estimate",
          .run = [](frmMain &w) { w.m_files.mnuPrdCPULoad(); }},
+        {.places = FileMenu},
+        recentLayout<0>("mnuRecent1"),
+        recentLayout<1>("mnuRecent2"),
+        recentLayout<2>("mnuRecent3"),
+        recentLayout<3>("mnuRecent4"),
+        recentLayout<4>("mnuRecent5"),
+        recentLayout<5>("mnuRecent6"),
+        recentLayout<6>("mnuRecent7"),
+        recentLayout<7>("mnuRecent8"),
         {.places = FileMenu},
         {.places = FileMenu,
          .name = "mnuExit",
@@ -199,6 +231,7 @@ struct CommandTable
          .caption = "Special Icons",
          .run =
              [](frmMain &w) { recorder::frmSpecialIcons(w.m_state.settings.icon, dialogContext(w)).exec(); }},
+        {.places = ConfigurationMenu, .name = "l4", .isVisible = &isMorvel},
         {.places = ConfigurationMenu,
          .name = "mnuBitRate",
          .captionOf =
@@ -207,7 +240,13 @@ struct CommandTable
          .run =
              [](frmMain &w) {
                  recorder::frmManualBitRate(w.m_state.settings.CurrentBitRate, dialogContext(w)).exec();
-             }},
+             },
+         .isVisible = &isMorvel},
+        {.places = ConfigurationMenu,
+         .name = "mnuEncodePattern",
+         .caption = "Encode Pattern",
+         .opens = EncodePatternMenu,
+         .isVisible = &isMorvel},
         {.places = EncodePatternMenu,
          .name = "mnuI",
          .caption = "I",
@@ -224,6 +263,24 @@ struct CommandTable
          .run = &setPattern<EncodePattern::IPB>,
          .isChecked = &isPattern<EncodePattern::IPB>},
 
+        {.places = HelpMenu,
+         .name = "mnuLocalHelp",
+         .caption = "Open the local help",
+         .icon = "menu/help",
+         .shortcut = "F1",
+         .run = [](frmMain &w) { openLocalHelp(w.m_state.folders, w.m_prompts); }},
+        {.places = HelpMenu,
+         .name = "mnuOnlineHelp",
+         .caption = "Open the on-line help",
+         .run = [](frmMain &w) { w.m_prompts.showPage(*onlineHelp()); },
+         .isEnabled = [](const frmMain &) { return onlineHelp().has_value(); },
+         .toolTip =
+             [](const frmMain &) {
+                 const auto page = onlineHelp();
+                 return page ? page->toString()
+                             : QStringLiteral("This version was made without the address of a help page");
+             }},
+        {.places = HelpMenu},
         {.places = HelpMenu,
          .name = "mnuAbout",
          .caption = "About Us",

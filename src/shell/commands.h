@@ -24,14 +24,17 @@ enum Place : unsigned {
 struct Command
 {
     unsigned places;
-    const char *name = ""; // of its action; empty for a separator
+    const char *name = ""; // of its action
     const char *caption = "";
     QString (*captionOf)(const frmMain &) = nullptr; // of a caption that follows the state, in its place
     const char *icon = "";                           // in the resources
     const char *shortcut = "";
-    void (*run)(frmMain &) = nullptr;
-    bool (*isChecked)(const frmMain &) = nullptr; // null for entries without a mark
-    bool (*isEnabled)(const frmMain &) = nullptr; // null for always
+    void (*run)(frmMain &) = nullptr;              // null for separators and sub-menus
+    unsigned opens = 0;                            // the place that is its sub-menu
+    bool (*isChecked)(const frmMain &) = nullptr;  // null for entries without a mark
+    bool (*isEnabled)(const frmMain &) = nullptr;  // null for always
+    bool (*isVisible)(const frmMain &) = nullptr;  // null for always
+    QString (*toolTip)(const frmMain &) = nullptr; // null for the caption
 };
 
 std::span<const Command> commands();

@@ -7,14 +7,11 @@
 #include "platform/desktop/busy.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
-#include "platform/settings_keys.h"
 #include "shell/kept_designs.h"
 #include "shell/save_rules.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QUrl>
 
 namespace shell {
 
@@ -33,7 +30,7 @@ enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
 
 FileCommands::FileCommands(ProgramState &state, platform::Prompts &prompts, surface::frmInterface &design,
                            QWidget &window)
-    : m_state(state), m_prompts(prompts), m_design(design), m_window(window)
+    : m_state(state), m_prompts(prompts), m_design(design), m_window(window), m_used(state.folders)
 {
 }
 
@@ -73,12 +70,11 @@ std::optional<layoutfile::LayoutBytes> FileCommands::layoutBytes(SaveKind kind, 
     return made.file.isEmpty() ? std::nullopt : std::optional(std::move(made));
 }
 
-void FileCommands::mnuLoadConfig()
+// Asks what becomes of the design when another layout is opened. False when none is to be.
+bool FileCommands::makeRoom()
 {
-    if (m_design.controls().isEmpty()) {
-        LoadProfile();
-        return;
-    }
+    if (m_design.controls().isEmpty())
+        return true;
     const auto option =
         m_prompts.choose(QStringLiteral("Load layout"),
                          QStringLiteral("You are about to load another layout, do you want to:"),
@@ -90,51 +86,58 @@ void FileCommands::mnuLoadConfig()
     if (chosen == SaveAndClearFirst)
         mnuSaveConfig();
     const bool clears = chosen == ClearFirst || chosen == SaveAndClearFirst;
-    if (chosen != Abort && (!clears || clearDesign()))
+    return chosen != Abort && (!clears || clearDesign());
+}
+
+void FileCommands::mnuLoadConfig()
+{
+    if (makeRoom())
         LoadProfile();
+}
+
+void FileCommands::open(const QString &path)
+{
+    if (makeRoom())
+        load(path);
+}
+
+void FileCommands::openRecent(qsizetype index)
+{
+    const QString path = m_used.recent().value(index);
+    if (platform::FileExists(path)) {
+        open(path);
+        return;
+    }
+    m_prompts.message(Icon::Information, ProductTitle,
+                      QStringLiteral("The layout\n%1\ncannot be found. It is taken off the list.").arg(path));
+    m_used.remove(path);
+}
+
+// Empty when the user cancels.
+QString FileCommands::pickLayout(const QString &title, const QString &folder)
+{
+    return m_prompts.openFile({title, folder, OpenFilter, {}, [this](const QString &file) {
+                                   return QImage(layoutfile::ExtractThumbnail(file, m_state.folders));
+                               }});
 }
 
 void FileCommands::LoadProfile()
 {
-    const platform::Folders &folders = m_state.folders;
-    const QString path = m_prompts.openFile(
-        {QStringLiteral("Load Layout"), m_lastFolder, OpenFilter, {}, [&folders](const QString &file) {
-             return QImage(layoutfile::ExtractThumbnail(file, folders));
-         }});
+    const QString path = pickLayout(QStringLiteral("Load Layout"), m_used.folder());
     if (!path.isEmpty())
         load(path);
 }
 
-// The program's own files say nothing about where a user keeps layouts.
-void FileCommands::rememberFolder(const QString &path)
+void FileCommands::mnuLoadFactoryLayout()
 {
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (folder != QDir(m_state.folders.GetAppDataFolder()))
-        m_lastFolder = folder.path();
-}
-
-void FileCommands::readLastFolder()
-{
-    const QString stored =
-        platform::keys::LayoutFolder.read(platform::SettingsFile(m_state.folders.ConfigFile()));
-    const QString folder = QUrl::fromPercentEncoding(stored.toLatin1());
-    if (QFileInfo(folder).isDir())
-        m_lastFolder = folder;
-}
-
-void FileCommands::keepLastFolder() const
-{
-    platform::SettingsFile file(m_state.folders.ConfigFile());
-    const QString stored = QString::fromLatin1(QUrl::toPercentEncoding(m_lastFolder, "/")); // of any script
-    if (stored.isEmpty() || platform::keys::LayoutFolder.read(file) == stored)
-        return;
-    platform::keys::LayoutFolder.write(file, stored);
-    file.save();
+    const QString path = pickLayout(QStringLiteral("Load factory layouts"), m_state.folders.exampleLayouts());
+    if (!path.isEmpty() && clearDesign())
+        load(path);
 }
 
 bool FileCommands::load(const QString &path)
 {
-    rememberFolder(path);
+    m_used.choose(path);
     bool isLoaded = false;
     platform::reportFailures(m_prompts, [&] {
         platform::Busy busy(&m_window);
@@ -143,9 +146,16 @@ bool FileCommands::load(const QString &path)
             m_state.folders, m_state.stamp,     m_state.screen,   m_state.locale};
         isLoaded = layoutfile::LoadVGL(path, context);
         if (isLoaded)
-            m_design.setCaption(QFileInfo(path).completeBaseName());
+            name(path);
     });
     return isLoaded;
+}
+
+// The design is what this file holds.
+void FileCommands::name(const QString &path)
+{
+    m_design.setCaption(QFileInfo(path).completeBaseName());
+    m_used.add(path);
 }
 
 double FileCommands::CalculateComplexity() const
@@ -187,17 +197,17 @@ void FileCommands::mnuSaveConfig()
 {
     if (!mayLoseVariables() || !passesComplexityGate())
         return;
-    const QString path =
-        m_prompts.saveFile({QStringLiteral("Save Layout"), m_lastFolder, SaveFilter, RecorderFileName, {}});
+    const QString path = m_prompts.saveFile(
+        {QStringLiteral("Save Layout"), m_used.folder(), SaveFilter, RecorderFileName, {}});
     if (path.isEmpty())
         return;
-    rememberFolder(path);
+    m_used.choose(path);
     for (const auto &question : {longNameQuestion(path), recorderNameQuestion(path, &isVolumeRoot)}) {
         if (question && !m_prompts.ask(Icon::Information, ProductTitle, *question))
             return;
     }
     if (save(path))
-        m_design.setCaption(QFileInfo(path).completeBaseName());
+        name(path);
 }
 
 bool FileCommands::save(const QString &path)

@@ -4,6 +4,7 @@
 #include "platform/file_replace.h"
 #include "platform/prompts.h"
 #include "shell/program_state.h"
+#include "shell/used_layouts.h"
 #include "surface/frm_interface.h"
 
 namespace shell {
@@ -30,7 +31,13 @@ public:
     void mnuNew();
     void mnuLoadConfig();
     void mnuSaveConfig();
+    void mnuLoadFactoryLayout();
     void mnuPrdCPULoad();
+
+    // Opens this layout like mnuLoadConfig one that was picked there.
+    void open(const QString &path);
+    // The same for one of the recent ones. One that is gone leaves the list.
+    void openRecent(qsizetype index);
 
     // Loads a layout without asking and without clearing. False, after a message, when that fails.
     bool load(const QString &path);
@@ -42,13 +49,14 @@ public:
     void saveRecovery();
     void removeRecovery();
 
-    // The folder of the last layout, from one run to the next. Writing throws RunTimeError.
-    void readLastFolder();
-    void keepLastFolder() const;
+    UsedLayouts &used() { return m_used; }
+    const UsedLayouts &used() const { return m_used; }
 
 private:
+    bool makeRoom();
     void LoadProfile();
-    void rememberFolder(const QString &path);
+    void name(const QString &path);
+    QString pickLayout(const QString &title, const QString &folder);
     bool clearDesign(); // false when the design could not be backed up; it stays then
     void backUpDesign();
     platform::Standing keepDesign(platform::Prompts &prompts, QByteArray &layout);
@@ -63,7 +71,7 @@ private:
     platform::Prompts &m_prompts;
     surface::frmInterface &m_design;
     QWidget &m_window;
-    QString m_lastFolder;
+    UsedLayouts m_used;
 };
 
 } // namespace shell

@@ -10,7 +10,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -21,6 +23,14 @@ namespace {
 QIcon resourceIcon(const QString &name)
 {
     return name.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/%1.png").arg(name));
+}
+
+// The one layout that is dropped; empty when it is anything else.
+QString droppedLayout(const QMimeData &dropped)
+{
+    const QList<QUrl> files = dropped.urls();
+    const QString path = files.size() == 1 ? files.first().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".VGL"), Qt::CaseInsensitive) ? path : QString();
 }
 
 } // namespace
@@ -34,6 +44,7 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(platform::ProductTitle + QStringLiteral(" - Version ") + programVersion());
     setMinimumSize(640, 480);
+    setAcceptDrops(true);
     makeActions();
     makeMenus();
     makeToolbar();
@@ -54,21 +65,33 @@ void frmMain::makeActions()
     for (const Command &command : commands()) {
         auto *action = new QAction(this);
         m_actions.append(action);
-        action->setSeparator(!*command.name);
+        action->setSeparator(!command.run && !command.opens);
         action->setObjectName(QLatin1String(command.name));
         action->setText(QLatin1String(command.caption));
         action->setIcon(resourceIcon(QLatin1String(command.icon)));
         action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
         action->setCheckable(command.isChecked != nullptr);
-        connect(action, &QAction::triggered, this, [this, run = command.run] {
-            platform::reportFailures(m_prompts, [&] { run(*this); });
-            refreshFromState();
-            m_recovery.noteChange();
-        });
+        if (command.opens)
+            action->setMenu(new QMenu(this));
+        if (command.run) {
+            connect(action, &QAction::triggered, this,
+                    [this, run = command.run] { runCommand([&] { run(*this); }); });
+        }
+    }
+    for (std::size_t i = 0; i < commands().size(); ++i) {
+        if (commands()[i].opens)
+            fill(*m_actions[static_cast<qsizetype>(i)]->menu(), commands()[i].opens);
     }
 }
 
-void frmMain::fill(QWidget &menu, Place place)
+void frmMain::runCommand(const std::function<void()> &command)
+{
+    platform::reportFailures(m_prompts, command);
+    refreshFromState();
+    m_recovery.noteChange();
+}
+
+void frmMain::fill(QWidget &menu, unsigned place)
 {
     for (std::size_t i = 0; i < commands().size(); ++i) {
         if (commands()[i].places & place)
@@ -101,13 +124,11 @@ void frmMain::makeMenus()
     fill(*addMenu(bar, new QMenu(QStringLiteral("&View"), &bar), "mnuView"), ViewMenu);
     m_addControl.setTitle(QStringLiteral("&Add Control"));
     fillAddMenu(*addMenu(bar, &m_addControl, "mnuAddControl"), QStringLiteral("mnu"));
-    QMenu *configuration =
-        addMenu(bar, new QMenu(QStringLiteral("&Configuration"), &bar), "mnuConfiguration");
-    fill(*configuration, ConfigurationMenu);
-    fill(*addMenu(*configuration, new QMenu(QStringLiteral("Encode Pattern"), configuration),
-                  "mnuEncodePattern"),
-         EncodePatternMenu);
-    fill(*addMenu(bar, new QMenu(QStringLiteral("&Help"), &bar), "mnuHelp"), HelpMenu);
+    fill(*addMenu(bar, new QMenu(QStringLiteral("&Configuration"), &bar), "mnuConfiguration"),
+         ConfigurationMenu);
+    QMenu *help = addMenu(bar, new QMenu(QStringLiteral("&Help"), &bar), "mnuHelp");
+    help->setToolTipsVisible(true);
+    fill(*help, HelpMenu);
 }
 
 void frmMain::makeToolbar()
@@ -163,10 +184,35 @@ void frmMain::refreshFromState()
             action.setChecked(command.isChecked(*this));
         if (command.isEnabled)
             action.setEnabled(command.isEnabled(*this));
+        if (command.isVisible)
+            action.setVisible(command.isVisible(*this));
+        if (command.toolTip)
+            action.setToolTip(command.toolTip(*this));
     }
     m_standard->setText(recorder::standardCaption(settings.VideoType));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QAction *load = findChild<QAction *>(QStringLiteral("mnuLoadConfig"));
+    if (load->isEnabled() && !droppedLayout(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+// The window that it comes from waits for the end of this event, not for the answers to questions.
+void frmMain::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    const QString path = droppedLayout(*event->mimeData());
+    QMetaObject::invokeMethod(
+        this,
+        [this, path] {
+            activateWindow();
+            runCommand([&] { m_files.open(path); });
+        },
+        Qt::QueuedConnection);
 }
 
 void frmMain::closeEvent(QCloseEvent *event)
@@ -183,7 +229,7 @@ void frmMain::closeEvent(QCloseEvent *event)
     m_recovery.end(parting == Parting::DesignIsSafe);
     platform::reportFailures(prompts, [this] {
         m_design->saveGeometry();
-        m_files.keepLastFolder();
+        m_files.used().keep();
     });
     platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
     event->accept();

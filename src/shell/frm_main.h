@@ -9,6 +9,8 @@
 #include <QMainWindow>
 #include <QMenu>
 
+#include <functional>
+
 namespace shell {
 
 // The main window: menus, toolbar, status bar and the design window inside. Its commands are rows of one
@@ -22,6 +24,7 @@ public:
 
     surface::frmInterface &design() { return *m_design; }
     FileCommands &files() { return m_files; }
+    const FileCommands &files() const { return m_files; }
     Recovery &recovery() { return m_recovery; }
 
     // Caption, check marks and texts of the menus and the status bar.
@@ -29,14 +32,17 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    void runCommand(const std::function<void()> &command);
     void makeActions();
     void makeMenus();
     void makeToolbar();
     void makeStatusBar();
     void makePopups();
-    void fill(QWidget &menu, Place place);
+    void fill(QWidget &menu, unsigned place);
     void fillAddMenu(QMenu &menu, const QString &prefix);
 
     ProgramState &m_state;

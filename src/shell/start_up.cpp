@@ -140,7 +140,7 @@ bool StartUp::checkExpressions()
 void StartUp::showWindows()
 {
     m_window = std::make_unique<frmMain>(m_state, m_prompts);
-    m_window->files().readLastFolder();
+    m_window->files().used().read();
     showSplashWhenLate();
     m_window->design().load();
     m_window->refreshFromState();

@@ -37,6 +37,7 @@ public:
     void expectOpenFile(const QString &path) { expect({Kind::OpenFile, {}, path}); }
     void expectSaveFile(const QString &path) { expect({Kind::SaveFile, {}, path}); }
     void expectFont(const std::optional<QFont> &font) { expect({Kind::Font, {}, QVariant::fromValue(font)}); }
+    void expectPage(const QUrl &page) { expect({Kind::Page, page.toString(), {}}); }
     void expectColour(std::optional<QRgb> rgb) { expect({Kind::Colour, {}, QVariant::fromValue(rgb)}); }
 
     // All that was shown so far, in order.
@@ -70,9 +71,21 @@ public:
     {
         return take(Kind::Font).value<std::optional<QFont>>();
     }
+    void showPage(const QUrl &page) override { take(Kind::Page, page.toString()); }
 
 private:
-    enum class Kind { Message, Question, Confirmation, Choice, Input, OpenFile, SaveFile, Colour, Font };
+    enum class Kind {
+        Message,
+        Question,
+        Confirmation,
+        Choice,
+        Input,
+        OpenFile,
+        SaveFile,
+        Colour,
+        Font,
+        Page
+    };
     struct Step
     {
         Kind kind;

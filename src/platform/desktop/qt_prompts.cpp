@@ -1,11 +1,14 @@
 #include "platform/desktop/qt_prompts.h"
 
+#include "common/run_time_error.h"
 #include "platform/desktop/file_dialog.h"
 #include "platform/faces.h"
+#include "platform/folders.h"
 
 #include <QApplication>
 #include <QButtonGroup>
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -180,6 +183,15 @@ std::optional<QFont> QtPrompts::font(const QFont &initial)
     if (withoutFoundry(chosen.family()) == withoutFoundry(shown.family()))
         chosen.setFamily(initial.family());
     return accepted ? std::optional(chosen) : std::nullopt;
+}
+
+void QtPrompts::showPage(const QUrl &page)
+{
+    const QString place = page.toDisplayString(QUrl::PreferLocalFile);
+    if (page.isLocalFile() && !FileExists(page.toLocalFile()))
+        throw common::RunTimeError(QStringLiteral("%1: there is no such file").arg(place));
+    if (!QDesktopServices::openUrl(page))
+        throw common::RunTimeError(QStringLiteral("%1: there is no program that shows it").arg(place));
 }
 
 } // namespace platform

@@ -17,6 +17,7 @@ public:
     QString saveFile(const FileRequest &request) override;
     std::optional<QRgb> colour(QRgb initial) override;
     std::optional<QFont> font(const QFont &initial) override;
+    void showPage(const QUrl &page) override;
 
 private:
     QString m_lastFolder; // of the last file that was opened by a request without a folder

@@ -1,0 +1,123 @@
+#include "platform/file_replace.h"
+#include "support/design_window.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+using test::DesignWindow;
+
+struct MainWindow : testing::Test
+{
+    QString layout(const QString &name, int bars)
+    {
+        const QString path = w.world.root.filePath(name);
+        test::writeLayout(path, bars);
+        return path;
+    }
+    QString picture(const QString &name, QSize size)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        const QString path = w.world.root.filePath(name);
+        EXPECT_TRUE(image.save(path, "BMP"));
+        return path;
+    }
+    QStringList recent()
+    {
+        QStringList captions;
+        for (int i = 1; i <= 8; ++i) {
+            const QAction &action = w.action(qPrintable(QStringLiteral("mnuRecent%1").arg(i)));
+            if (action.isVisible())
+                captions.append(action.text());
+        }
+        return captions;
+    }
+    // Lets files from a file manager go over the window.
+    bool dropFiles(const QList<QUrl> &files)
+    {
+        QMimeData carried;
+        carried.setUrls(files);
+        QDragEnterEvent enter({200, 200}, Qt::CopyAction, &carried, Qt::LeftButton, {});
+        QApplication::sendEvent(&w.canvas(), &enter);
+        QDropEvent letGo({200, 200}, Qt::CopyAction, &carried, Qt::LeftButton, {});
+        if (enter.isAccepted())
+            QApplication::sendEvent(&w.window, &letGo);
+        QCoreApplication::processEvents();
+        return enter.isAccepted();
+    }
+
+    DesignWindow w;
+    test::ScriptedPrompts &prompts = w.world.prompts;
+};
+
+TEST_F(MainWindow, KeepsTheLastEightLayoutsAndTellsOfOneThatIsGone)
+{
+    const QString first = layout("A & B \u0416.VGL", 1);
+    for (int i = 0; i < 9; ++i) {
+        const QString copy = w.world.root.filePath(QStringLiteral("L%1.VGL").arg(i));
+        QFile::copy(first, copy);
+        w.window.files().load(copy);
+    }
+    w.window.files().load(w.world.root.filePath("L3.VGL"));
+    w.window.files().load(first);
+    const QString own = w.world.state.folders.inUserData("OWN.VGL");
+    QFile::copy(first, own);
+    w.window.files().load(own);
+    EXPECT_TRUE(w.window.close());
+    shell::UsedLayouts next(w.world.state.folders);
+    next.read();
+    EXPECT_EQ(next.recent(), w.window.files().used().recent());
+    w.window.refreshFromState();
+    EXPECT_EQ(recent().size(), 8);
+    EXPECT_EQ(recent()[0], "&1 " + QString(first).replace('&', "&&"));
+    EXPECT_TRUE(recent()[1].endsWith("L3.VGL"));
+    EXPECT_TRUE(recent()[7].endsWith("L2.VGL"));
+    QFile::remove(first);
+    prompts.expectMessage("The layout\n" + first + "\ncannot be found. It is taken off the list.");
+    w.run("mnuRecent1");
+    EXPECT_EQ(recent().size(), 7);
+    prompts.expectChoice(0);
+    w.run("mnuRecent1");
+    EXPECT_EQ(w.design().caption(), "L3");
+}
+
+TEST_F(MainWindow, OpensALayoutThatIsDroppedAfterTheQuestions)
+{
+    const QUrl two = QUrl::fromLocalFile(layout("two.vgl", 2));
+    w.addBar(10, 10);
+    prompts.expectChoice(2);
+    EXPECT_TRUE(dropFiles({two}));
+    EXPECT_EQ(w.design().controls().size(), 3);
+    EXPECT_FALSE(dropFiles({two, two}));
+    EXPECT_FALSE(dropFiles({QUrl("https://example.com/two.vgl")}));
+    EXPECT_FALSE(dropFiles({QUrl::fromLocalFile(picture("a.bmp", {8, 8}))}));
+}
+
+TEST_F(MainWindow, FactoryLayoutsReplaceTheDesignAndLeaveNoTrace)
+{
+    const QString folder = w.world.state.folders.exampleLayouts();
+    QDir().mkpath(folder);
+    test::writeLayout(folder + "Road.VGL", 2);
+    for (const bool picks : {false, true}) {
+        w.design().mnuNew_Click();
+        w.addBar(10, 10);
+        prompts.expectOpenFile(picks ? folder + "Road.VGL" : QString());
+        w.run("mnuLoadFactoryLayout");
+        EXPECT_EQ(prompts.lastFileRequest().folder, folder);
+        EXPECT_EQ(w.design().controls().size(), picks ? 2 : 1);
+    }
+    EXPECT_FALSE(prompts.lastFileRequest().preview(folder + "Road.VGL").isNull());
+    EXPECT_TRUE(recent().isEmpty());
+    EXPECT_TRUE(QFile::exists(w.world.state.folders.inUserData("MORVELBackup.VGL")));
+}
+
+TEST_F(MainWindow, ShowsTheHelpThatIsInstalled)
+{
+    prompts.expectPage(QUrl::fromLocalFile(w.world.state.folders.program + "help/index.html"));
+    w.run("mnuLocalHelp");
+    EXPECT_FALSE(w.action("mnuOnlineHelp").isEnabled());
+}
+
+} // namespace
