@@ -30,6 +30,7 @@ public:
 
     QPushButton &button() const { return static_cast<QPushButton &>(widget()); }
     const QImage &picture() const { return m_chosen.picture; }
+    const QString &path() const { return m_chosen.path; }
     QWidget *cell() override { return m_cell; }
     // The size, "104 x 52"; empty without a picture.
     QString text() const override;

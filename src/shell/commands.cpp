@@ -9,6 +9,7 @@
 #include "recorder/dialogs/frm_special_icons.h"
 #include "recorder/dialogs/frm_start_stop_rec.h"
 #include "shell/frm_main.h"
+#include "shell/frm_options.h"
 #include "shell/frm_start_splash.h"
 #include "shell/help.h"
 #include "surface/panel_area.h"
@@ -138,6 +139,12 @@ struct CommandTable
          .shortcut = "Ctrl+Q",
          .run = [](frmMain &w) { w.close(); }},
 
+        {.places = ViewMenu,
+         .name = "mnuOptions",
+         .caption = "&Options",
+         .icon = "menu/options",
+         .run = [](frmMain &w) { frmOptions(*w.m_design, dialogContext(w)).exec(); }},
+        {.places = ViewMenu},
         {.places = ViewMenu,
          .name = "mnuPAL",
          .caption = "PAL",

@@ -27,7 +27,7 @@ frmInterface::frmInterface(const InterfaceContext &context)
     : m_context(context), m_canvas(new Canvas), m_canvasView(new QScrollArea),
       m_library(new LibraryPanel(context.folders)),
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
-      m_caption(UntitledCaption)
+      m_backgrounds(context.folders), m_caption(UntitledCaption)
 {
     setObjectName(QStringLiteral("frmInterface"));
     m_panels = new PanelArea(context.screen, {{{QStringLiteral("Variables"), m_variables},

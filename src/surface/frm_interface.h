@@ -4,6 +4,7 @@
 #include "controls/control_surface.h"
 #include "graphics/font_store.h"
 #include "platform/progress.h"
+#include "surface/backgrounds.h"
 #include "surface/canvas_rules.h"
 #include "surface/panel_layout.h"
 
@@ -56,6 +57,11 @@ public:
     void pressKey(Qt::Key key);
     // To the next or previous control in the order of the layout, round and round.
     void stepControl(bool forward);
+    const Grid &grid() const { return m_grid; }
+    Backgrounds &backgrounds() { return m_backgrounds; }
+    // Keeps the grid and copies of the chosen backgrounds (paths, empty for the ones before), and shows them.
+    // Throws RunTimeError, with nothing changed.
+    void setOptions(const Grid &grid, const QString &palFile, const QString &ntscFile);
     // The panels and the library's bar as a first start lays them out.
     void resetPanels();
 
@@ -107,7 +113,6 @@ private:
     CanvasRules rules() const;
     QWidget *makeDesignPanel();
     void connectCanvas();
-    void loadBackground(recorder::VideoStandard standard);
     void initGrid(const Grid &grid);
     void ShowGrid();
     void storeVisibility(PanelId id, bool visible);
@@ -119,7 +124,7 @@ private:
     LibraryPanel *m_library;
     VariableTree *m_variables;
     PanelArea *m_panels;
-    QImage m_picPAL, m_picNTSC;
+    Backgrounds m_backgrounds;
     Grid m_grid;
     quint32 m_backColour = 0;
     quint32 m_labelColour = 0;

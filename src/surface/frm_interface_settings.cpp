@@ -1,6 +1,5 @@
 // The design window's start, its background pictures and grid, and what it keeps in the settings file.
 
-#include "graphics/picture_loader.h"
 #include "surface/canvas.h"
 #include "surface/frm_interface.h"
 #include "surface/library_icons.h"
@@ -21,24 +20,11 @@ namespace {
 constexpr quint32 DefaultBackColour = 0x4A3B2F;
 constexpr quint32 DefaultLabelColour = 0xFFFFFF;
 
-struct Background
-{
-    const platform::TextKey &key;
-    const char *builtIn;
-};
-
-Background backgroundOf(VideoStandard standard)
-{
-    if (standard == VideoStandard::Pal)
-        return {keys::PalPicture, ":/pal_background.jpg"};
-    return {keys::NtscPicture, ":/ntsc_background.jpg"};
-}
-
 } // namespace
 
 void frmInterface::load()
 {
-    loadBackground(VideoType()); // a change of standard loads the other one
+    m_backgrounds.load(VideoType()); // a change of standard loads the other one
     const SettingsFile file(m_context.folders.ConfigFile());
     m_grid = {keys::GridSize.read(file), keys::ShowGrid.read(file) == 1, keys::SnapGrid.read(file) == 1};
     m_panels->restore(file);
@@ -51,18 +37,20 @@ void frmInterface::load()
     m_context.settings.ChapterList.clear();
 }
 
-// A picture that is missing leaves the previous one of its standard, at start the built-in one.
-void frmInterface::loadBackground(VideoStandard standard)
+void frmInterface::setOptions(const Grid &grid, const QString &palFile, const QString &ntscFile)
 {
-    QImage &picture = standard == VideoStandard::Pal ? m_picPAL : m_picNTSC;
-    const Background background = backgroundOf(standard);
-    const SettingsFile file(m_context.folders.ConfigFile());
-    const QString path =
-        platform::nameWithin(m_context.folders.GetAppDataFolder(), background.key.read(file));
-    if (const auto loaded = graphics::loadPicture(path))
-        picture = loaded.picture;
-    else if (picture.isNull())
-        picture.load(QLatin1String(background.builtIn));
+    SettingsFile file(m_context.folders.ConfigFile());
+    keys::GridSize.write(file, grid.spacing);
+    keys::ShowGrid.write(file, grid.shown ? 1 : 0);
+    keys::SnapGrid.write(file, grid.snaps ? 1 : 0);
+    if (!palFile.isEmpty())
+        m_backgrounds.choose(VideoStandard::Pal, palFile, file);
+    if (!ntscFile.isEmpty())
+        m_backgrounds.choose(VideoStandard::Ntsc, ntscFile, file);
+    file.save();
+    m_backgrounds.load(VideoStandard::Pal);
+    m_backgrounds.load(VideoStandard::Ntsc);
+    initGrid(grid);
 }
 
 void frmInterface::initGrid(const Grid &grid)
@@ -73,8 +61,7 @@ void frmInterface::initGrid(const Grid &grid)
 
 void frmInterface::ShowGrid()
 {
-    m_canvas->display(VideoType() == VideoStandard::Pal ? m_picPAL : m_picNTSC, rules(),
-                      m_grid.shown && !IsPlayMode());
+    m_canvas->display(m_backgrounds.picture(VideoType()), rules(), m_grid.shown && !IsPlayMode());
 }
 
 void frmInterface::setCurBackColour(quint32 backColour, quint32 labelColour)
@@ -87,7 +74,7 @@ void frmInterface::setCurBackColour(quint32 backColour, quint32 labelColour)
 
 void frmInterface::setVideoStandard(VideoStandard standard)
 {
-    loadBackground(standard);
+    m_backgrounds.load(standard);
     m_context.settings.VideoType = standard;
     for (OverlayControl *control : controls()) {
         control->standardChanged();

@@ -85,22 +85,6 @@ TEST(TextPainting, CoversWhatLiesBelowByItsOpacityAndGoesWhereItsRecordCanSay)
     }
 }
 
-// A background that its user chose for something else.
-TEST(Canvas, ABackgroundOfAnotherSizeStandsAtTheTopLeft)
-{
-    DesignWindow w;
-    for (const QSize size : {QSize(100, 700), QSize(5000, 10)}) {
-        QImage ground(size, QImage::Format_RGB32);
-        ground.fill(Blue);
-        EXPECT_TRUE(ground.save(w.world.state.folders.inUserData("PALVIDEOBackImg.bmp")));
-        w.run("mnuPAL"); // one that is too large is refused and the first one stays
-        const QImage shown = w.design().renderPreview();
-        EXPECT_EQ(shown.size(), QSize(720, 576));
-        EXPECT_EQ(shown.pixelColor(99, 575), Blue);
-        EXPECT_EQ(shown.pixelColor(100, 0), QColor(Qt::black));
-    }
-}
-
 TEST(Preview, HasTheOrderOfTheLayoutAndTheCanvasItsStack)
 {
     DesignWindow w(150);

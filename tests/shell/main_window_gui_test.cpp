@@ -113,6 +113,46 @@ TEST_F(MainWindow, FactoryLayoutsReplaceTheDesignAndLeaveNoTrace)
     EXPECT_TRUE(QFile::exists(w.world.state.folders.inUserData("MORVELBackup.VGL")));
 }
 
+TEST_F(MainWindow, OptionsAreKeptAndSeenAtOnce)
+{
+    const platform::Folders &folders = w.world.state.folders;
+    const QString wrong = "wrong.bmp\nImage should be 720 X ";
+    for (const char *size : {"19", "1001", "20"}) {
+        test::whenOpened([&](QWidget &dialog) {
+            auto &grid = test::child<QLineEdit>(dialog, "txtGridSize");
+            grid.selectAll();
+            QTest::keyClicks(&grid, QString("-%1.").arg(size));
+            EXPECT_EQ(grid.text(), size);
+            test::press(dialog, "chkShowGrid");
+            prompts.expectOpenFile(picture("wrong.bmp", {720, 480}));
+            prompts.expectMessage(wrong + "576");
+            test::press(dialog, "cmdPALImgBrowse");
+            prompts.expectOpenFile(picture("wrong.bmp", {720, 576}));
+            prompts.expectMessage(wrong + "480");
+            test::press(dialog, "cmdNTSCImgBrowse");
+            prompts.expectOpenFile(picture("PIT.bmp", {720, 576}));
+            test::press(dialog, "cmdPALImgBrowse");
+            if (QString(size) != "20")
+                prompts.expectMessage("Invalid grid size");
+            test::press(dialog, "cmdOk");
+            test::press(dialog, "cmdCancel");
+        });
+        w.run("mnuOptions");
+        EXPECT_EQ(w.design().grid().spacing, QString(size) == "20" ? 20 : 0);
+    }
+    EXPECT_EQ(w.shown({5, 5}), QColor(Qt::red));
+    EXPECT_EQ(w.design().backgrounds().fileName(recorder::VideoStandard::Pal), "PIT.bmp");
+    // A file that is gone or of the wrong size at the next start leaves the picture that came with the
+    // program.
+    for (const QSize size : {QSize(720, 480), QSize()}) {
+        QFile::remove(folders.inUserData("PIT.bmp"));
+        if (!size.isEmpty())
+            QFile::copy(picture("wrong.bmp", size), folders.inUserData("PIT.bmp"));
+        surface::Backgrounds next(folders);
+        EXPECT_EQ(next.picture(recorder::VideoStandard::Pal).size(), QSize(720, 576));
+    }
+}
+
 TEST_F(MainWindow, ShowsTheHelpThatIsInstalled)
 {
     prompts.expectPage(QUrl::fromLocalFile(w.world.state.folders.program + "help/index.html"));
