@@ -3,7 +3,10 @@
 #include "common/number_text.h"
 #include "common/rounding.h"
 
+#include <QStringList>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace platform {
 
@@ -12,9 +15,18 @@ namespace {
 constexpr int NumberBuffer = 10;
 constexpr int PathBuffer = 4096;
 
-bool present(const SettingsFile &file, const NumberKey &key)
+// The text of a key; empty when it is missing.
+QString textOf(const SettingsFile &file, const NumberKey &key)
 {
-    return !file.read(QLatin1String(key.section), QLatin1String(key.key), {}, NumberBuffer).isEmpty();
+    return file.read(QLatin1String(key.section), QLatin1String(key.key), {}, NumberBuffer);
+}
+
+bool isRubbish(QStringView text)
+{
+    text = text.trimmed();
+    const bool hasSign = text.startsWith(QLatin1Char('-')) || text.startsWith(QLatin1Char('+'));
+    const QStringView digits = text.sliced(hasSign ? 1 : 0);
+    return !text.isEmpty() && (digits.isEmpty() || !digits.front().isDigit());
 }
 
 } // namespace
@@ -63,7 +75,9 @@ void PathKey::write(SettingsFile &file, const QString &path) const
 
 bool PanelKeys::stored(const SettingsFile &file) const
 {
-    return present(file, left) || present(file, top) || present(file, width) || present(file, height);
+    const QStringList texts{textOf(file, left), textOf(file, top), textOf(file, width), textOf(file, height)};
+    return std::ranges::any_of(texts, [](const QString &text) { return !text.isEmpty(); }) &&
+           std::ranges::none_of(texts, isRubbish);
 }
 
 } // namespace platform

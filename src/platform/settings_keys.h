@@ -47,7 +47,8 @@ struct PathKey
 struct PanelKeys
 {
     NumberKey left, top, width, height;
-    bool stored(const SettingsFile &file) const; // any of the four keys stands in the file
+    // Whether any of the four stands in the file, and none of them as something that is no number.
+    bool stored(const SettingsFile &file) const;
 };
 
 namespace keys {

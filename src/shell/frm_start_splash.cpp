@@ -7,6 +7,17 @@
 
 namespace shell {
 
+namespace {
+
+constexpr int Margin = 28; // pixels
+
+const QString Licences = QStringLiteral(
+    "This program is free software under the GNU General Public License, version 3 or later. It is made with "
+    "Qt (LGPL 3), QCustomPlot (GPL 3 or later), FreeType (FreeType License), zlib (zlib License) and the "
+    "Liberation fonts (SIL Open Font License 1.1).");
+
+} // namespace
+
 frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
     : QDialog(owner, Qt::SplashScreen | Qt::WindowStaysOnTopHint)
 {
@@ -15,14 +26,37 @@ frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
     if (!platform::FileExists(replacement) || !m_picture.load(replacement))
         m_picture.load(QStringLiteral(":/splash.jpg"));
     setFixedSize(m_picture.size());
-    auto *version = new QLabel(QStringLiteral("VERSION   ") + programVersion(), this);
-    version->setStyleSheet(QStringLiteral("color: white"));
-    version->move(28, height() - 44);
-    version->resize(240, 24);
-    version->setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (m_picture.hasAlphaChannel())
+        setMask(m_picture.mask());
+    QLabel *version = addLabel(QStringLiteral("VERSION   ") + programVersion());
+    version->move(Margin, height() - 44);
     setAccessibleName(version->text());
     if (owner)
-        move(owner->frameGeometry().center() - rect().center());
+        showLicences(*owner, *version);
+}
+
+QLabel *frmStartSplash::addLabel(const QString &text)
+{
+    auto *label = new QLabel(text, this);
+    label->setStyleSheet(QStringLiteral("color: white"));
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->adjustSize();
+    return label;
+}
+
+void frmStartSplash::showLicences(const QWidget &owner, QLabel &version)
+{
+    QLabel *licences = addLabel(Licences);
+    licences->setObjectName(QStringLiteral("lblLicences"));
+    licences->setStyleSheet(QStringLiteral("color: white; background: rgba(8, 11, 20, 200)"));
+    licences->setWordWrap(true);
+    licences->setContentsMargins(Margin, 8, Margin, 8);
+    licences->setFixedWidth(width());
+    licences->adjustSize();
+    licences->move(0, height() - licences->height());
+    version.move(Margin, licences->y() - version.height() - 8);
+    setAccessibleDescription(licences->text());
+    move(owner.frameGeometry().center() - rect().center());
 }
 
 void frmStartSplash::paintEvent(QPaintEvent *) { QPainter(this).drawPixmap(0, 0, m_picture); }

@@ -4,9 +4,12 @@
 
 #include <QDialog>
 
+class QLabel;
+
 namespace shell {
 
-// The splash picture with the version; a press closes it. Also the "About Us" window.
+// The splash picture with the version, in the shape of the picture; a press closes it. With an owner it is
+// the "About Us" window, which names the licences, too.
 class frmStartSplash final : public QDialog
 {
     Q_OBJECT
@@ -19,6 +22,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QLabel *addLabel(const QString &text);
+    // Moves the version out of their way.
+    void showLicences(const QWidget &owner, QLabel &version);
+
     QPixmap m_picture;
 };
 

@@ -71,19 +71,21 @@ void PanelArea::reset()
 void PanelArea::restore(const platform::SettingsFile &file)
 {
     using Reader = int (NumberKey::*)(const platform::SettingsFile &) const;
-    const auto rect = [&](const PanelKeys &key, Reader read) {
+    const auto rect = [this](const PanelKeys &key, Reader read, const platform::SettingsFile &from) {
         const auto pixels = [&](const NumberKey &number) {
-            return m_screen.storedToPixels((number.*read)(file));
+            return m_screen.storedToPixels((number.*read)(from));
         };
         return QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
     };
+    const platform::SettingsFile nothing({});
     bool stored = false;
     PanelRects unclamped;
     for (std::size_t i = 0; i < m_panels.size(); ++i) {
         const PanelKeys &key = keysOf(i);
-        stored = stored || key.stored(file);
-        unclamped[i] = rect(key, &NumberKey::readUnclamped);
-        m_wanted[i] = rect(key, &NumberKey::read);
+        const bool isStored = key.stored(file);
+        stored = stored || isStored;
+        unclamped[i] = rect(key, &NumberKey::readUnclamped, file);
+        m_wanted[i] = rect(key, &NumberKey::read, isStored ? file : nothing);
         m_visible[i] = keys::Visible[i].read(file) != 0;
         m_panels[i]->setVisible(m_visible[i]);
     }

@@ -60,6 +60,7 @@ TEST_F(Settings, savedValuesAreThereAtTheNextStart)
     EXPECT_EQ(keys::Visible[2].read(next), 0);
     EXPECT_EQ(next.read("VISIBLE", "mine", {}, 10), "kept");
     EXPECT_TRUE(keys::Design.stored(next));
+    EXPECT_FALSE(keys::Design.stored(fileOf("[DESIGN]\nLEFT=wide\nHEIGHT=500")));
     EXPECT_FALSE(keys::Functions.stored(next));
 }
 
