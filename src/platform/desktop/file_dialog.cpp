@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileIconProvider>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QStorageInfo>
@@ -93,9 +94,14 @@ void FileDialog::addPreview(const std::function<QImage(const QString &)> &previe
     showPreview({});
     if (auto *grid = qobject_cast<QGridLayout *>(layout()))
         grid->addWidget(m_picture, 1, grid->columnCount(), Qt::AlignTop);
-    connect(this, &QFileDialog::currentChanged, this, [this, preview](const QString &path) {
+    const auto show = [this, preview](const QString &path) {
         showPreview(QFileInfo(path).isFile() ? preview(path) : QImage());
-    });
+    };
+    connect(this, &QFileDialog::currentChanged, this, show);
+    if (const auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
+        connect(name, &QLineEdit::textEdited, this,
+                [this, show](const QString &typed) { show(directory().absoluteFilePath(typed)); });
+    }
 }
 
 void FileDialog::showPreview(const QImage &picture)
