@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMouseEvent>
 
 #include <algorithm>
 
@@ -67,6 +68,52 @@ void Program::addControls(int count)
                             place);
     }
     QApplication::processEvents();
+}
+
+namespace {
+
+constexpr QPoint Grip(30, 12); // within what is dragged
+
+void sendMouse(QWidget &widget, const QWidget &canvas, QEvent::Type type, QPoint point)
+{
+    const QPoint global = canvas.mapToGlobal(point);
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, widget.mapFromGlobal(global), global, button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+} // namespace
+
+QPoint wayPoint(int step)
+{
+    constexpr int Steps = 70;
+    const int there = step % (2 * Steps);
+    const int at = there < Steps ? there : 2 * Steps - there;
+    return {8 * at, 6 * at};
+}
+
+void startDrag(QWidget &widget, const QWidget &canvas, QPoint place)
+{
+    sendMouse(widget, canvas, QEvent::MouseButtonPress, place + Grip);
+    dragTo(widget, canvas, place + QPoint(20, 20));
+}
+
+void dragTo(QWidget &widget, const QWidget &canvas, QPoint place)
+{
+    sendMouse(widget, canvas, QEvent::MouseMove, place + Grip);
+    QApplication::processEvents();
+}
+
+bool PaintCounter::eventFilter(QObject *, QEvent *event)
+{
+    m_paints += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+}
+
+void PaintCounter::expect(int steps, benchmark::State &state) const
+{
+    if (m_paints < steps * 9 / 10) // a real display may join two steps in one
+        state.SkipWithError("steps were not painted");
 }
 
 double Times::median() const

@@ -82,6 +82,30 @@ private:
     std::vector<double> m_seconds;
 };
 
+// A way to and fro over the canvas in steps of 8 and 6 pixels.
+QPoint wayPoint(int step);
+
+// Presses what stands at `place`, a pixel of the canvas, and takes it out of the dead zone. The canvas is
+// `widget` or its parent.
+void startDrag(QWidget &widget, const QWidget &canvas, QPoint place);
+// One step of that drag, painted.
+void dragTo(QWidget &widget, const QWidget &canvas, QPoint place);
+
+// Counts how often a widget is painted.
+class PaintCounter final : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+    // Fails the benchmark unless each step was painted.
+    void expect(int steps, benchmark::State &state) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    int m_paints = 0;
+};
+
 // Puts the limit beside the benchmark's time; the label says whether the median keeps it.
 void stateLimit(benchmark::State &state, const Times &own, double milliseconds);
 

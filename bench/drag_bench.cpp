@@ -11,7 +11,9 @@
 
 namespace {
 
+using bench::dragTo;
 using bench::Program;
+using bench::startDrag;
 using bench::Times;
 using controls::ControlType;
 
@@ -19,51 +21,6 @@ constexpr int Few = 200;
 constexpr int Many = 4000;
 constexpr double MostOfPeer = 1.2;
 constexpr double LimitMs = 4;
-constexpr QPoint Grip(30, 12); // within what is dragged
-
-// A way to and fro over the canvas in steps of 8 and 6 pixels.
-QPoint wayPoint(int step)
-{
-    constexpr int Steps = 70;
-    const int there = step % (2 * Steps);
-    const int at = there < Steps ? there : 2 * Steps - there;
-    return {8 * at, 6 * at};
-}
-
-// `point` is a pixel of the canvas, which is `widget` or its parent.
-void sendMouse(QWidget &widget, const QWidget &canvas, QEvent::Type type, QPoint point)
-{
-    const QPoint global = canvas.mapToGlobal(point);
-    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, widget.mapFromGlobal(global), global, button, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
-
-void dragTo(QWidget &widget, const QWidget &canvas, QPoint place)
-{
-    sendMouse(widget, canvas, QEvent::MouseMove, place + Grip);
-    QApplication::processEvents();
-}
-
-// Presses what stands at `place` and takes it out of the dead zone.
-void startDrag(QWidget &widget, const QWidget &canvas, QPoint place)
-{
-    sendMouse(widget, canvas, QEvent::MouseButtonPress, place + Grip);
-    dragTo(widget, canvas, place + QPoint(20, 20));
-}
-
-class PaintCounter final : public QObject
-{
-public:
-    int paints = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
 
 class BareWidget final : public QWidget
 {
@@ -120,8 +77,7 @@ void dragStep(benchmark::State &state, ControlType family)
     BareCanvas bare(QPixmap::fromImage(program.design().renderPreview()), all);
     const qsizetype dragged = all[0]->family().type == family ? 0 : 1;
     QWidget &peer = bare.widget(dragged);
-    PaintCounter counter;
-    canvas.installEventFilter(&counter);
+    bench::PaintCounter counter(canvas);
     canvas.choose(*all[dragged]);
     peer.raise();
     startDrag(canvas, canvas, all[dragged]->outerRect().topLeft());
@@ -130,14 +86,12 @@ void dragStep(benchmark::State &state, ControlType family)
     Times ownTimes;
     Times peerTimes;
     int step = 0;
-    counter.paints = 0;
     while (state.KeepRunning()) {
-        const QPoint place = wayPoint(++step);
+        const QPoint place = bench::wayPoint(++step);
         state.SetIterationTime(ownTimes.measure([&] { dragTo(canvas, canvas, place); }));
         peerTimes.measure([&] { dragTo(peer, bare, place); });
     }
-    if (counter.paints < step * 9 / 10) // a real display may join two steps in one
-        state.SkipWithError("steps were not painted");
+    counter.expect(step, state);
     const bool isFew = state.range(0) == Few;
     bench::stateLimit(state, ownTimes, isFew ? MostOfPeer * peerTimes.median() * 1e3 : LimitMs);
     bench::statePeer(state, ownTimes, peerTimes);

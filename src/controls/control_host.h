@@ -12,6 +12,7 @@
 
 #include <QPointF>
 #include <QRect>
+#include <QStringList>
 
 #include <memory>
 
@@ -43,6 +44,9 @@ public:
     virtual void Reposition(OverlayControl &control, QPointF corner) = 0;
     // Stacks the control above or below all others of its family, where it does not stand so already.
     virtual void restack(OverlayControl &control, bool above) = 0;
+    // Keep what a paste needs; after a cut that removes the control.
+    virtual void Copy(OverlayControl &control, const QStringList &arr) = 0;
+    virtual void Cut(OverlayControl &control, const QStringList &arr) = 0;
     virtual void Delete(OverlayControl &control) = 0;
     // The property dialog of the control's family, until it is closed.
     virtual void showProperties(OverlayControl &control) = 0;

@@ -73,6 +73,8 @@ public:
     void write(std::string_view writer, const PropertyValue &value);
     QStringList Serialise() const;
     void Deserialise(const QStringList &texts);
+    // What a copy of `source`, which is of the same family, has of it besides the serialised properties.
+    virtual void takeOver(const OverlayControl & /*source*/) {}
 
     // What the host drives
     void setColour(quint32 colour, quint32 /*unused*/) { values().backColour.setPacked(colour); }
@@ -101,6 +103,8 @@ public:
     bool takesVariable() const { return properties().reader("curVarID") != nullptr; }
     void bindVariable(qint32 variable);
 
+    void mnuCopy_Click() { m_host.Copy(*this, Serialise()); }
+    void mnuCut_Click() { m_host.Cut(*this, Serialise()); }
     void mnuDelete_Click() { m_host.Delete(*this); }
     void mnuProperties_Click();
 

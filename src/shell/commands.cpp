@@ -16,8 +16,10 @@
 
 namespace shell {
 
+using controls::OverlayControl;
 using recorder::EncodePattern;
 using recorder::VideoStandard;
+using surface::Operation;
 using surface::PanelId;
 
 namespace {
@@ -78,6 +80,39 @@ struct CommandTable
     static forms::Context dialogContext(frmMain &w) { return {w.m_prompts, w.m_state.locale, &w}; }
     static bool isMorvel(const frmMain &) { return platform::personality() == platform::Personality::MORVEL; }
     static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
+    static bool hasCurrent(const frmMain &w) { return w.m_design->currentControl() != nullptr; }
+    template <void (OverlayControl::*Act)()>
+    static void act(frmMain &w)
+    {
+        if (OverlayControl *control = w.m_design->currentControl())
+            (control->*Act)();
+    }
+    template <Operation Taking>
+    static void take(frmMain &w)
+    {
+        w.m_design->take(Taking);
+    }
+    static bool canTake(const frmMain &w) { return w.m_design->canTake(); }
+    static void paste(frmMain &w)
+    {
+        w.m_state.clipboard.GroupPastePending() ? w.m_design->PasteAllObjects()
+                                                : w.m_design->mnuPaste_Click();
+    }
+    template <Qt::Edge Edge>
+    static void align(frmMain &w)
+    {
+        w.m_design->align(Edge);
+    }
+    template <Qt::Orientation Along>
+    static void spaceEqually(frmMain &w)
+    {
+        w.m_design->spaceEqually(Along);
+    }
+    template <int Members>
+    static bool hasMembers(const frmMain &w)
+    {
+        return w.m_design->group().size() >= Members;
+    }
 
     static constexpr Command Rows[] = {
         {.places = FileMenu | Toolbar,
@@ -339,6 +374,57 @@ struct CommandTable
          .run = &sendKey<Qt::Key_Return>,
          .isEnabled = &hasControls},
 
+        {.places = CanvasPopup,
+         .name = "mnuCut",
+         .caption = "Cu&t",
+         .icon = "menu/cut",
+         .shortcut = "Ctrl+X",
+         .run = &take<Operation::Cut>,
+         .isEnabled = &canTake},
+        {.places = CanvasPopup,
+         .name = "mnuCopy",
+         .caption = "&Copy",
+         .icon = "menu/copy",
+         .shortcut = "Ctrl+C",
+         .run = &take<Operation::Copy>,
+         .isEnabled = &canTake},
+        {.places = CanvasPopup,
+         .name = "mnuPaste",
+         .caption = "&Paste",
+         .icon = "menu/paste",
+         .shortcut = "Ctrl+V",
+         .run = &paste,
+         .isEnabled = [](const frmMain &w) { return !w.m_state.clipboard.isEmpty(); }},
+        {.places = CanvasPopup,
+         .name = "mnuDelete",
+         .caption = "&Delete",
+         .icon = "menu/delete",
+         .shortcut = "Del",
+         .run = &sendKey<Qt::Key_Delete>,
+         .isEnabled = &hasCurrent},
+        {.places = CanvasPopup,
+         .name = "mnuProperties",
+         .caption = "P&roperties",
+         .icon = "toolbar/properties",
+         .run = &sendKey<Qt::Key_Return>,
+         .isEnabled = &hasCurrent},
+
+        {.places = ControlPopup,
+         .name = "mnuCut_C",
+         .caption = "Cu&t",
+         .icon = "menu/cut",
+         .run = &act<&OverlayControl::mnuCut_Click>},
+        {.places = ControlPopup,
+         .name = "mnuCopy_C",
+         .caption = "&Copy",
+         .icon = "menu/copy",
+         .run = &act<&OverlayControl::mnuCopy_Click>},
+        {.places = ControlPopup,
+         .name = "mnuPaste_C",
+         .caption = "&Paste",
+         .icon = "menu/paste",
+         .run = [](frmMain &w) { w.m_design->mnuPaste_Click(); },
+         .isEnabled = [](const frmMain &w) { return w.m_state.clipboard.control.has_value(); }},
         {.places = ControlPopup,
          .name = "mnuDelete_C",
          .caption = "&Delete",
@@ -349,6 +435,63 @@ struct CommandTable
          .caption = "P&roperties",
          .icon = "toolbar/properties",
          .run = &sendKey<Qt::Key_Return>},
+
+        {.places = GroupPopup,
+         .name = "mnuGroupCut",
+         .caption = "Cut",
+         .icon = "menu/cut",
+         .run = &take<Operation::Cut>,
+         .isEnabled = [](const frmMain &w) { return !w.m_groupMenuPastes; }},
+        {.places = GroupPopup,
+         .name = "mnuGroupCopy",
+         .caption = "Copy",
+         .icon = "menu/copy",
+         .run = &take<Operation::Copy>,
+         .isEnabled = [](const frmMain &w) { return !w.m_groupMenuPastes; }},
+        {.places = GroupPopup,
+         .name = "mnuGroupPaste",
+         .caption = "Paste",
+         .icon = "menu/paste",
+         .run = [](frmMain &w) { w.m_design->PasteAllObjects(); },
+         .isEnabled = [](const frmMain &w) { return w.m_groupMenuPastes; }},
+        {.places = GroupPopup},
+        {.places = GroupPopup,
+         .name = "mnuAlignLeft",
+         .caption = "Align &Left Edges",
+         .icon = "menu/align_left",
+         .run = &align<Qt::LeftEdge>,
+         .isEnabled = &hasMembers<2>},
+        {.places = GroupPopup,
+         .name = "mnuAlignRight",
+         .caption = "Align &Right Edges",
+         .icon = "menu/align_right",
+         .run = &align<Qt::RightEdge>,
+         .isEnabled = &hasMembers<2>},
+        {.places = GroupPopup,
+         .name = "mnuAlignTop",
+         .caption = "Align &Top Edges",
+         .icon = "menu/align_top",
+         .run = &align<Qt::TopEdge>,
+         .isEnabled = &hasMembers<2>},
+        {.places = GroupPopup,
+         .name = "mnuAlignBottom",
+         .caption = "Align &Bottom Edges",
+         .icon = "menu/align_bottom",
+         .run = &align<Qt::BottomEdge>,
+         .isEnabled = &hasMembers<2>},
+        {.places = GroupPopup},
+        {.places = GroupPopup,
+         .name = "mnuSpaceAcross",
+         .caption = "Space &Horizontally",
+         .icon = "menu/space_horizontally",
+         .run = &spaceEqually<Qt::Horizontal>,
+         .isEnabled = &hasMembers<3>},
+        {.places = GroupPopup,
+         .name = "mnuSpaceDown",
+         .caption = "Space &Vertically",
+         .icon = "menu/space_vertically",
+         .run = &spaceEqually<Qt::Vertical>,
+         .isEnabled = &hasMembers<3>},
     };
 };
 

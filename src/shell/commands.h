@@ -16,7 +16,9 @@ enum Place : unsigned {
     EncodePatternMenu = 1U << 3U,
     HelpMenu = 1U << 4U,
     Toolbar = 1U << 5U,
-    ControlPopup = 1U << 6U
+    CanvasPopup = 1U << 6U, // the shortcuts of its entries are keys of the canvas
+    ControlPopup = 1U << 7U,
+    GroupPopup = 1U << 8U
 };
 
 // One entry: where it stands, how it looks, what it does, and what it shows of the program's state. In each

@@ -37,8 +37,9 @@ QString droppedLayout(const QMimeData &dropped)
 
 frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     : m_state(state), m_prompts(prompts),
-      m_design(new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
-                                          state.fonts, prompts, state.locale, state.screen})),
+      m_design(
+          new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
+                                     state.fonts, state.clipboard, prompts, state.locale, state.screen})),
       m_files(state, prompts, *m_design, *this), m_variables(state, prompts, *m_design)
 {
     setObjectName(QStringLiteral("frmMain"));
@@ -55,7 +56,9 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
     for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
         connect(m_design, change, &m_recovery, &Recovery::noteChange);
-    connect(m_design, &surface::frmInterface::controlsChanged, this, &frmMain::refreshFromState);
+    for (const auto change :
+         {&surface::frmInterface::controlsChanged, &surface::frmInterface::selectionChanged})
+        connect(m_design, change, this, &frmMain::refreshFromState);
     connect(&m_design->panels(), &surface::PanelArea::visibilityChanged, this, &frmMain::refreshFromState);
     refreshFromState();
 }
@@ -70,6 +73,8 @@ void frmMain::makeActions()
         action->setText(QLatin1String(command.caption));
         action->setIcon(resourceIcon(QLatin1String(command.icon)));
         action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+        if (command.places & CanvasPopup)
+            action->setShortcutContext(Qt::WidgetShortcut);
         action->setCheckable(command.isChecked != nullptr);
         if (command.opens)
             action->setMenu(new QMenu(this));
@@ -164,12 +169,22 @@ void frmMain::makePopups()
 {
     m_canvasPopup.setObjectName(QStringLiteral("mnuDropDown"));
     fillAddMenu(*m_canvasPopup.addMenu(QStringLiteral("&Add Control")), QStringLiteral("mnuDD"));
+    fill(m_canvasPopup, CanvasPopup);
+    fill(m_design->canvas(), CanvasPopup);
     connect(m_design, &surface::frmInterface::canvasMenuRequested, this,
             [this](const QPoint &position) { m_canvasPopup.popup(position); });
     m_controlPopup.setObjectName(QStringLiteral("mnuDropDown3"));
     fill(m_controlPopup, ControlPopup);
     connect(m_design, &surface::frmInterface::controlMenuRequested, this,
             [this](const QPoint &position) { m_controlPopup.popup(position); });
+    m_groupPopup.setObjectName(QStringLiteral("mnuGroupControl"));
+    fill(m_groupPopup, GroupPopup);
+    connect(m_design, &surface::frmInterface::groupMenuRequested, this,
+            [this](const QPoint &position, bool pastes) {
+                m_groupMenuPastes = pastes;
+                refreshFromState();
+                m_groupPopup.popup(position);
+            });
 }
 
 void frmMain::refreshFromState()

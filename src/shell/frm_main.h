@@ -55,6 +55,8 @@ private:
     QMenu m_addControl;         // shared by the menu bar and the canvas popup
     QMenu m_canvasPopup;        // mnuDropDown
     QMenu m_controlPopup;       // mnuDropDown3
+    QMenu m_groupPopup;         // mnuGroupControl
+    bool m_groupMenuPastes = false;
     QLabel *m_position;
     QLabel *m_standard;
     QLabel *m_bitRate;

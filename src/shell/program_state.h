@@ -6,6 +6,7 @@
 #include "platform/screen.h"
 #include "platform/stamp.h"
 #include "recorder/recorder_settings.h"
+#include "surface/clipboard.h"
 #include "variables/catalogue.h"
 
 namespace shell {
@@ -19,6 +20,7 @@ struct ProgramState
     platform::Screen screen;
     platform::Stamp stamp;
     variables::Catalogue catalogue;
+    surface::Clipboard clipboard;
     recorder::RecorderSettings settings;
     recorder::MessageTable startMessages{}; // as read at start
     bool sessionEnds = false;               // the windows close without anybody to answer a question

@@ -121,10 +121,7 @@ void Canvas::showMenu(const OverlayControl &control, const QPoint &globalPositio
 void Canvas::showCanvasMenu(QPointF at, const QPoint &globalPosition)
 {
     emit pressed(at);
-    if (hasGroup())
-        emit groupMenuRequested(globalPosition);
-    else
-        emit canvasMenuRequested(globalPosition);
+    emit canvasMenuRequested(globalPosition);
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent *event)
@@ -211,6 +208,8 @@ void Canvas::escape()
         return;
     }
     skipFailures([&] { m_gesture.takeBack(); });
+    if (const auto control = m_gesture.control())
+        showPosition(*control);
     endGesture();
 }
 

@@ -59,8 +59,9 @@ void frmInterface::connectCanvas()
     connect(m_canvas, &Canvas::stepped, this, &frmInterface::stepControl);
     connect(m_canvas, &Canvas::positionShown, this, &frmInterface::positionShown);
     connect(m_canvas, &Canvas::controlMenuRequested, this, &frmInterface::controlMenuRequested);
-    connect(m_canvas, &Canvas::groupMenuRequested, this, &frmInterface::groupMenuRequested);
-    connect(m_canvas, &Canvas::canvasMenuRequested, this, &frmInterface::canvasMenuRequested);
+    connect(m_canvas, &Canvas::groupMenuRequested, this,
+            [this](const QPoint &at) { emit groupMenuRequested(at, false); });
+    connect(m_canvas, &Canvas::canvasMenuRequested, this, &frmInterface::showCanvasMenu);
     connect(m_canvas, &Canvas::designChanged, this, &frmInterface::designChanged);
     connect(m_canvas, &Canvas::selectionChanged, this, &frmInterface::selectionChanged);
     const auto addByKey = [this](const QString &key, QPointF twips) {
@@ -113,6 +114,8 @@ void frmInterface::addControl(controls::ControlType family, QPointF twips)
 }
 
 bool frmInterface::IsPlayMode() const { return m_canvas->isPlayMode(); }
+
+QWidget &frmInterface::canvas() { return *m_canvas; }
 
 OverlayControl *frmInterface::currentControl() const { return m_canvas->current(); }
 

@@ -6,7 +6,9 @@
 #include "platform/progress.h"
 #include "surface/backgrounds.h"
 #include "surface/canvas_rules.h"
+#include "surface/clipboard.h"
 #include "surface/panel_layout.h"
+#include "surface/selection.h"
 
 #include <QWidget>
 
@@ -28,6 +30,7 @@ struct InterfaceContext
     const recorder::MessageTable &startMessages; // as read at start
     const platform::Folders &folders;
     graphics::FontStore &fonts;
+    Clipboard &clipboard;
     platform::Prompts &prompts;
     const platform::NumberLocale &locale;
     platform::Screen screen;
@@ -53,6 +56,19 @@ public:
 
     // The control that was chosen last; null when it is gone or the choice was taken back.
     controls::OverlayControl *currentControl() const;
+    // The canvas, where the keys of its commands work.
+    QWidget &canvas();
+    // The members of the group in the order of the layout.
+    ControlList group() const { return groupOf(controls()); }
+    // Takes the group, or without one the current control, to the clipboard.
+    bool canTake() const;
+    void take(Operation operation);
+    // Both paste at the last mouse position.
+    void mnuPaste_Click();
+    void PasteAllObjects();
+    // Of the group, as far as the canvas goes.
+    void align(Qt::Edge edge);
+    void spaceEqually(Qt::Orientation along);
     // Acts on the current control as the key does.
     void pressKey(Qt::Key key);
     // To the next or previous control in the order of the layout, round and round.
@@ -94,6 +110,8 @@ public:
     }
     void Reposition(controls::OverlayControl &control, QPointF corner) override;
     void restack(controls::OverlayControl &control, bool above) override;
+    void Copy(controls::OverlayControl &control, const QStringList &arr) override;
+    void Cut(controls::OverlayControl &control, const QStringList &arr) override;
     void Delete(controls::OverlayControl &control) override;
     void showProperties(controls::OverlayControl &control) override;
     void UserControlChanged() override { emit designChanged(); }
@@ -103,7 +121,7 @@ signals:
     void positionShown(const QString &text);
     void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void canvasMenuRequested(const QPoint &globalPosition);
-    void groupMenuRequested(const QPoint &globalPosition);
+    void groupMenuRequested(const QPoint &globalPosition, bool pastes);
     void designChanged(); // by a user's hand
     void selectionChanged();
     void controlsChanged(); // one was added or deleted
@@ -111,6 +129,9 @@ signals:
 
 private:
     CanvasRules rules() const;
+    void showCanvasMenu(const QPoint &globalPosition);
+    controls::OverlayControl &paste(const CopiedControl &copied);
+    void rearrange(const ControlList &group, const QList<Box> &boxes);
     QWidget *makeDesignPanel();
     void connectCanvas();
     void initGrid(const Grid &grid);

@@ -118,6 +118,18 @@ void Bitmap::settle()
     // A box from a damaged store may be as large as numbers go.
     const QSize size = planeSize(box(), screen()).boundedTo(graphics::paddedSize(picture.size()));
     m_values.picture = PlanePicture::ofSize(picture, keptPicture(folder, m_values.curAlfaFileName), size);
+    host().restack(*this, m_values.curZorder != 0);
+}
+
+// The copies of its pictures may be gone, and planes that came from a layout are not made of them.
+void Bitmap::takeOver(const OverlayControl &source)
+{
+    const BitmapValues &from = static_cast<const Bitmap &>(source).get();
+    m_values.picture = from.picture;
+    m_values.curFileName = from.curFileName;
+    m_values.curAlfaFileName = from.curAlfaFileName;
+    m_values.curZorder = from.curZorder;
+    AssignProperties();
 }
 
 void Bitmap::paint(Composition &onto) const

@@ -37,6 +37,7 @@ public:
 
     void AssignProperties() override;
 
+    void takeOver(const OverlayControl &source) override;
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1650, 1650}; }
     void paint(Composition &onto) const override;

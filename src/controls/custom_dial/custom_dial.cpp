@@ -168,6 +168,13 @@ void CustomDial::keepFace(const graphics::PlanePicture &face)
     m_kept = {m_values, faceRect(box(), screen()).size(), face};
 }
 
+void CustomDial::takeOver(const OverlayControl &source)
+{
+    const auto &from = static_cast<const CustomDial &>(source);
+    m_kept = from.m_kept;
+    m_face = from.m_face;
+}
+
 void CustomDial::AssignProperties()
 {
     const CustomDialValues standing = placed(m_values, host().VideoType(), screen());

@@ -51,6 +51,7 @@ public:
 
     void AssignProperties() override;
 
+    void takeOver(const OverlayControl &source) override;
     void applyResize() override { updatePosition(); }
     Box resizedBox(const Box &wanted, Handle handle) const override;
     void standardChanged() override;

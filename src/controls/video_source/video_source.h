@@ -65,6 +65,7 @@ public:
 protected:
     const PropertyTable &properties() const override { return videoSourceProperties(); }
     GripSet grips() const override { return GripSet::None; } // the divisor decides the size
+    void settle() override { standardChanged(); }            // another one may be in force now
     Corner corner() override { return {m_values.curLeftCoord, m_values.curTopCoord}; }
     float inset() const override { return 0; }
 };

@@ -1,0 +1,104 @@
+// Copy, cut and paste of controls and groups, and the arrangement of a group.
+
+#include "platform/guards.h"
+#include "surface/alignment.h"
+#include "surface/canvas.h"
+#include "surface/frm_interface.h"
+#include "surface/placing.h"
+
+namespace surface {
+
+using controls::OverlayControl;
+using platform::skipFailures;
+
+void frmInterface::Copy(OverlayControl &control, const QStringList &arr)
+{
+    m_context.clipboard.take(control, Operation::Copy, arr);
+}
+
+void frmInterface::Cut(OverlayControl &control, const QStringList &arr)
+{
+    m_context.clipboard.take(control, Operation::Cut, arr);
+}
+
+bool frmInterface::canTake() const { return m_canvas->hasGroup() || m_canvas->current(); }
+
+void frmInterface::take(Operation operation)
+{
+    if (m_canvas->hasGroup())
+        m_context.clipboard.ReSetGroupCtrlArr(group(), operation);
+    else if (OverlayControl *control = m_canvas->current())
+        operation == Operation::Copy ? control->mnuCopy_Click() : control->mnuCut_Click();
+}
+
+OverlayControl &frmInterface::paste(const CopiedControl &copied)
+{
+    OverlayControl &control = loadControl(copied.type);
+    showControl(control);
+    skipFailures([&] { control.Deserialise(copied.strings); });
+    const auto source = copied.control.lock();
+    if (source)
+        skipFailures([&] { control.takeOver(*source); });
+    MoveTo(control, m_lastMousePosition + copied.offset, rules());
+    if (source && copied.operation == Operation::Cut)
+        m_canvas->unload(*source);
+    m_canvas->chooseNone();
+    return control;
+}
+
+void frmInterface::mnuPaste_Click()
+{
+    const auto &copied = m_context.clipboard.control;
+    if (!copied)
+        return;
+    m_canvas->choose(paste(*copied));
+    emit controlsChanged();
+    emit designChanged();
+}
+
+void frmInterface::PasteAllObjects()
+{
+    for (const CopiedControl &member : std::exchange(m_context.clipboard.group, {}))
+        paste(member);
+    emit controlsChanged();
+    emit designChanged();
+}
+
+// A group that waits for its paste comes before one that is marked.
+void frmInterface::showCanvasMenu(const QPoint &globalPosition)
+{
+    if (m_context.clipboard.GroupPastePending())
+        emit groupMenuRequested(globalPosition, true);
+    else if (m_canvas->hasGroup())
+        emit groupMenuRequested(globalPosition, false);
+    else
+        emit canvasMenuRequested(globalPosition);
+}
+
+namespace {
+
+QList<Box> boxesOf(const ControlList &group)
+{
+    QList<Box> boxes;
+    for (const OverlayControl *control : group)
+        boxes.append(control->box());
+    return boxes;
+}
+
+} // namespace
+
+void frmInterface::align(Qt::Edge edge) { rearrange(group(), aligned(boxesOf(group()), edge)); }
+
+void frmInterface::spaceEqually(Qt::Orientation along)
+{
+    rearrange(group(), spaced(boxesOf(group()), along));
+}
+
+void frmInterface::rearrange(const ControlList &group, const QList<Box> &boxes)
+{
+    for (qsizetype i = 0; i < group.size(); ++i)
+        MoveTo(*group[i], {boxes[i].Left, boxes[i].Top}, rules());
+    emit designChanged();
+}
+
+} // namespace surface
