@@ -1,5 +1,6 @@
 // Makes the data files that ship with the program from their text and vector sources.
 
+#include "common/canvas_size.h"
 #include "make_data/catalogue_builder.h"
 #include "make_data/message_builder.h"
 #include "make_data/output_file.h"
@@ -88,6 +89,34 @@ bool makeIcons(const QStringList &arguments)
     return true;
 }
 
+// The size of an example picture on this standard's canvas: as it is drawn for PAL, and flattened for NTSC,
+// so that what is round stays round on the screen. Empty when a bitmap would ask questions about it.
+QSize exampleSize(const QString &svg, const QString &standard)
+{
+    const QSize drawn = drawnSize(svg);
+    if (drawn.width() % 8 != 0 || drawn.height() % 2 != 0)
+        return {};
+    const int rows = drawn.height() / 2;
+    const bool isNtsc = standard == QLatin1String("NTSC");
+    return {drawn.width(), 2 * (isNtsc ? rows * common::NtscHeight / common::PalHeight : rows)};
+}
+
+// A drawing as NAME.bmp and, beside it, "NAME Alpha.bmp".
+bool makeExample(const QStringList &arguments)
+{
+    const QString &svg = arguments[0], &path = arguments[2];
+    const QSize size = exampleSize(svg, arguments[1]);
+    if (size.isEmpty())
+        return fail(svg + QLatin1String(": the width must be divisible by 8 and the height by 2"));
+    const auto pair = renderPair(svg, size);
+    const QFileInfo file(path);
+    const QString alphaPath =
+        file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String(" Alpha.bmp");
+    if (!pair)
+        return fail(svg + QLatin1String(": cannot be drawn"));
+    return write(path, pair->colours) && write(alphaPath, pair->alpha);
+}
+
 struct Command
 {
     const char *name;
@@ -101,6 +130,7 @@ constexpr Command Commands[] = {
     {"variables", "<units.txt> <variables.txt> <out>", 3, false, makeVariables},
     {"messages", "<messages.txt> <out>", 2, false, makeMessages},
     {"picture", "<in.svg> <width> <height> <out.png|bmp|jpg|ico>", 4, false, makeOnePicture},
+    {"example", "<in.svg> <PAL|NTSC> <out.bmp>", 3, false, makeExample},
     {"icons", "<size> <out folder> <in.svg>...", 3, true, makeIcons},
 };
 
