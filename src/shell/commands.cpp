@@ -14,6 +14,8 @@
 #include "shell/help.h"
 #include "surface/panel_area.h"
 
+#include <algorithm>
+
 namespace shell {
 
 using controls::OverlayControl;
@@ -137,7 +139,8 @@ struct CommandTable
          .name = "mnuLoadFactoryLayout",
          .caption = "Load factory layouts",
          .icon = "menu/factory",
-         .run = [](frmMain &w) { w.m_files.mnuLoadFactoryLayout(); }},
+         .run = [](frmMain &w) { w.m_files.mnuLoadFactoryLayout(); },
+         .inPreview = true},
         {.places = FileMenu | Toolbar},
         {.places = FileMenu,
          .name = "mnuLoadVarInfo",
@@ -152,6 +155,21 @@ struct CommandTable
          .caption = "&Restore Default Variable Information",
          .run = [](frmMain &w) { w.m_variables.mnuRestoreDefaultVar(); }},
         {.places = FileMenu},
+        {.places = FileMenu | Toolbar,
+         .name = "mnuPlayMode",
+         .caption = "&Preview Mode",
+         .icon = "toolbar/preview",
+         .shortcut = "F5",
+         .run = [](frmMain &w) { w.m_design->mnuPlayMode_Click(); }},
+        {.places = FileMenu | Toolbar,
+         .name = "mnuEditMode",
+         .caption = "&Edit Mode",
+         .icon = "toolbar/edit",
+         .shortcut = "F5", // of the one that is enabled
+         .run = [](frmMain &w) { w.m_design->mnuEditMode_Click(); },
+         .isEnabled = [](const frmMain &w) { return w.m_design->IsPlayMode(); },
+         .inPreview = true},
+        {.places = FileMenu | Toolbar},
         {.places = FileMenu,
          .name = "mnuPrdCPULoad",
          .caption = "Calculate Predictive CPU Load",
@@ -172,7 +190,8 @@ struct CommandTable
          .caption = "E&xit",
          .icon = "menu/exit",
          .shortcut = "Ctrl+Q",
-         .run = [](frmMain &w) { w.close(); }},
+         .run = [](frmMain &w) { w.close(); },
+         .inPreview = true},
 
         {.places = ViewMenu,
          .name = "mnuOptions",
@@ -496,5 +515,12 @@ struct CommandTable
 };
 
 std::span<const Command> commands() { return CommandTable::Rows; }
+
+bool livesInPreview(unsigned places)
+{
+    const auto rows = commands();
+    return std::any_of(rows.begin(), rows.end(),
+                       [places](const Command &row) { return row.inPreview && (row.places & places); });
+}
 
 } // namespace shell

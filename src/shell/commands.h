@@ -35,10 +35,14 @@ struct Command
     unsigned opens = 0;                            // the place that is its sub-menu
     bool (*isChecked)(const frmMain &) = nullptr;  // null for entries without a mark
     bool (*isEnabled)(const frmMain &) = nullptr;  // null for always
+    bool inPreview = false;                        // whether it can be used in Preview, too
     bool (*isVisible)(const frmMain &) = nullptr;  // null for always
     QString (*toolTip)(const frmMain &) = nullptr; // null for the caption
 };
 
 std::span<const Command> commands();
+
+// Whether any entry of these places can be used in Preview.
+bool livesInPreview(unsigned places);
 
 } // namespace shell

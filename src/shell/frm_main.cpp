@@ -117,23 +117,24 @@ void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
     }
 }
 
+QMenu *frmMain::addMenu(QMenu *menu, const char *name, unsigned place)
+{
+    menu->setObjectName(QLatin1String(name));
+    fill(*menu, place);
+    menuBar()->addMenu(menu);
+    m_menus.emplace_back(menu, place);
+    return menu;
+}
+
 void frmMain::makeMenus()
 {
-    const auto addMenu = [](QWidget &owner, QMenu *menu, const char *name) {
-        menu->setObjectName(QLatin1String(name));
-        owner.addAction(menu->menuAction());
-        return menu;
-    };
-    QMenuBar &bar = *menuBar();
-    fill(*addMenu(bar, new QMenu(QStringLiteral("&File"), &bar), "mnuFile"), FileMenu);
-    fill(*addMenu(bar, new QMenu(QStringLiteral("&View"), &bar), "mnuView"), ViewMenu);
+    QMenuBar *bar = menuBar();
+    addMenu(new QMenu(QStringLiteral("&File"), bar), "mnuFile", FileMenu);
+    addMenu(new QMenu(QStringLiteral("&View"), bar), "mnuView", ViewMenu);
     m_addControl.setTitle(QStringLiteral("&Add Control"));
-    fillAddMenu(*addMenu(bar, &m_addControl, "mnuAddControl"), QStringLiteral("mnu"));
-    fill(*addMenu(bar, new QMenu(QStringLiteral("&Configuration"), &bar), "mnuConfiguration"),
-         ConfigurationMenu);
-    QMenu *help = addMenu(bar, new QMenu(QStringLiteral("&Help"), &bar), "mnuHelp");
-    help->setToolTipsVisible(true);
-    fill(*help, HelpMenu);
+    fillAddMenu(*addMenu(&m_addControl, "mnuAddControl", 0), QStringLiteral("mnu"));
+    addMenu(new QMenu(QStringLiteral("&Configuration"), bar), "mnuConfiguration", ConfigurationMenu);
+    addMenu(new QMenu(QStringLiteral("&Help"), bar), "mnuHelp", HelpMenu)->setToolTipsVisible(true);
 }
 
 void frmMain::makeToolbar()
@@ -197,13 +198,15 @@ void frmMain::refreshFromState()
             action.setText(command.captionOf(*this));
         if (command.isChecked)
             action.setChecked(command.isChecked(*this));
-        if (command.isEnabled)
-            action.setEnabled(command.isEnabled(*this));
+        action.setEnabled((command.inPreview || !m_design->IsPlayMode()) &&
+                          (!command.isEnabled || command.isEnabled(*this)));
         if (command.isVisible)
             action.setVisible(command.isVisible(*this));
         if (command.toolTip)
             action.setToolTip(command.toolTip(*this));
     }
+    for (const auto &[menu, place] : m_menus)
+        menu->setEnabled(livesInPreview(place) || !m_design->IsPlayMode());
     m_standard->setText(recorder::standardCaption(settings.VideoType));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());

@@ -39,6 +39,8 @@ private:
     void runCommand(const std::function<void()> &command);
     void makeActions();
     void makeMenus();
+    // A menu of the menu bar with the entries of this place.
+    QMenu *addMenu(QMenu *menu, const char *name, unsigned place);
     void makeToolbar();
     void makeStatusBar();
     void makePopups();
@@ -52,10 +54,12 @@ private:
     Recovery m_recovery{m_files};
     VariableCommands m_variables;
     QList<QAction *> m_actions; // of commands(), in its order
-    QMenu m_addControl;         // shared by the menu bar and the canvas popup
-    QMenu m_canvasPopup;        // mnuDropDown
-    QMenu m_controlPopup;       // mnuDropDown3
-    QMenu m_groupPopup;         // mnuGroupControl
+    // Of the menu bar, with the place of their entries.
+    std::vector<std::pair<QMenu *, unsigned>> m_menus;
+    QMenu m_addControl;   // shared by the menu bar and the canvas popup
+    QMenu m_canvasPopup;  // mnuDropDown
+    QMenu m_controlPopup; // mnuDropDown3
+    QMenu m_groupPopup;   // mnuGroupControl
     bool m_groupMenuPastes = false;
     QLabel *m_position;
     QLabel *m_standard;

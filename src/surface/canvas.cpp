@@ -6,6 +6,7 @@
 
 namespace surface {
 
+using controls::Drawing;
 using controls::OverlayControl;
 
 namespace {
@@ -63,8 +64,18 @@ void Canvas::display(const QImage &background, const CanvasRules &rules, bool do
         painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
         paintDots(painter, size, rules);
     }
-    m_picture.reset(dotted, FramePainter(rules.screen, palette().color(QPalette::Active, QPalette::Dark)));
+    m_picture.reset(dotted, FramePainter(rules.screen, palette().color(QPalette::Active, QPalette::Dark)),
+                    m_isPlayMode ? Drawing::Recorded : Drawing::Designed);
     update();
+}
+
+void Canvas::setPlayMode(bool playMode)
+{
+    endGesture();
+    unsetCursor();
+    m_isPlayMode = playMode;
+    for (OverlayControl *control : m_controls.controls())
+        control->setMode(playMode ? OverlayControl::Mode::Play : OverlayControl::Mode::Design);
 }
 
 void Canvas::choose(OverlayControl &control)
@@ -148,7 +159,8 @@ void Canvas::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     m_liftedArea = {};
-    m_picture.paint(painter, event->rect(), m_controls.stack(), m_lifted);
+    const ControlList &order = m_isPlayMode ? m_controls.controls() : m_controls.stack();
+    m_picture.paint(painter, event->rect(), order, m_lifted);
     paintBand(painter);
 }
 

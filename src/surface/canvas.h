@@ -27,8 +27,9 @@ public:
     // Sizes the canvas to the rules' standard and draws everything anew, with the dots of the grid if they
     // are to be seen.
     void display(const QImage &background, const CanvasRules &rules, bool dots);
-    // In play mode the canvas takes neither mouse nor keys.
-    void setPlayMode(bool playMode) { m_isPlayMode = playMode; }
+    // In play mode the canvas shows the overlay as the recorder draws it and takes neither mouse nor keys.
+    // To be displayed anew.
+    void setPlayMode(bool playMode);
     bool isPlayMode() const { return m_isPlayMode; }
     // The overlay in the order of the layout, without frames and grid.
     QImage preview() const { return overlayPicture(m_ground, m_controls.controls()); }

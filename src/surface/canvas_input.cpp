@@ -299,10 +299,10 @@ void Canvas::contextMenuEvent(QContextMenuEvent *event)
         showCanvasMenu(twips(rect().center()), mapToGlobal(rect().center()));
 }
 
-// A canvas without controls, or one that is being closed, lets the focus go.
+// A canvas without controls to step to, or one that is being closed, lets the focus go.
 bool Canvas::focusNextPrevChild(bool forward)
 {
-    if (!isVisible() || m_controls.controls().isEmpty())
+    if (!isVisible() || m_isPlayMode || m_controls.controls().isEmpty())
         return QWidget::focusNextPrevChild(forward);
     emit stepped(forward);
     return true;

@@ -11,12 +11,13 @@ constexpr int MostPieces = 16; // of a touched region, before its bounds take th
 
 } // namespace
 
-void CanvasPicture::reset(const QImage &ground, const FramePainter &frames)
+void CanvasPicture::reset(const QImage &ground, const FramePainter &frames, controls::Drawing drawing)
 {
     m_ground = ground;
     m_composed = ground;
     m_frames = {};
     m_framePainter = frames;
+    m_drawing = drawing;
     m_touched = ground.rect();
 }
 
@@ -37,7 +38,7 @@ void CanvasPicture::refresh(const ControlList &resting, double ratio)
     }
     const QRegion touched = std::exchange(m_touched, {});
     for (const QRect &area : touched) {
-        const Composition part = composed(m_ground, area, resting, controls::Drawing::Designed);
+        const Composition part = composed(m_ground, area, resting, m_drawing);
         QPainter(&m_composed).drawImage(part.corner, part.picture);
         refreshFrames(resting, area);
     }
@@ -56,12 +57,12 @@ void CanvasPicture::refreshFrames(const ControlList &resting, const QRect &area)
     }
 }
 
-void CanvasPicture::paint(QPainter &painter, const QRect &area, const ControlList &stack,
+void CanvasPicture::paint(QPainter &painter, const QRect &area, const ControlList &order,
                           const ControlList &lifted)
 {
     const double ratio = painter.device()->devicePixelRatioF();
     if (!m_touched.isEmpty() || m_frames.devicePixelRatio() != ratio) {
-        ControlList resting = stack;
+        ControlList resting = order;
         resting.removeIf([&lifted](OverlayControl *control) { return lifted.contains(control); });
         refresh(resting, ratio);
     }
@@ -78,7 +79,7 @@ void CanvasPicture::paintOverlay(QPainter &painter, const QRect &area, const Con
     QRect drawn;
     for (const OverlayControl *control : lifted)
         drawn |= control->drawnArea();
-    const Composition part = composed(m_composed, area & drawn, lifted, controls::Drawing::Designed);
+    const Composition part = composed(m_composed, area & drawn, lifted, m_drawing);
     painter.drawImage(part.corner, part.picture);
 }
 

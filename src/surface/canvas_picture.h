@@ -14,11 +14,12 @@ class CanvasPicture
 {
 public:
     // Draws everything anew upon this picture of the canvas.
-    void reset(const QImage &ground, const FramePainter &frames);
+    void reset(const QImage &ground, const FramePainter &frames, controls::Drawing drawing);
     // Something that is not lifted, or is no longer, looks different here. Canvas pixels.
     void touch(const QRect &area);
-    // `lifted` are some of the stack, in its order. The painter's coordinates are canvas pixels.
-    void paint(QPainter &painter, const QRect &area, const ControlList &stack, const ControlList &lifted);
+    // `order` is from the first to the last, `lifted` some of it in the same order. The painter's coordinates
+    // are canvas pixels.
+    void paint(QPainter &painter, const QRect &area, const ControlList &order, const ControlList &lifted);
 
 private:
     void refresh(const ControlList &resting, double ratio);
@@ -29,6 +30,7 @@ private:
     QImage m_composed; // canvas pixels
     QImage m_frames;   // screen pixels, transparent where there is no frame
     FramePainter m_framePainter{{}, {}};
+    controls::Drawing m_drawing = controls::Drawing::Designed;
     QRegion m_touched;
 };
 

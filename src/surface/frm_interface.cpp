@@ -119,10 +119,22 @@ QWidget &frmInterface::canvas() { return *m_canvas; }
 
 OverlayControl *frmInterface::currentControl() const { return m_canvas->current(); }
 
+void frmInterface::setPlayMode(bool playMode)
+{
+    m_canvas->setFocus();
+    m_canvas->setPlayMode(playMode);
+    for (const PanelId id : {PanelId::Functions, PanelId::Library})
+        m_panels->panel(id).setEnabled(!playMode);
+    ShowGrid();
+    emit layoutChanged();
+}
+
 void frmInterface::pressKey(Qt::Key key) { m_canvas->pressKey(key); }
 
 void frmInterface::stepControl(bool forward)
 {
+    if (IsPlayMode())
+        return;
     const QList<OverlayControl *> all = controls();
     const qsizetype next = stepInRing(all.size(), all.indexOf(m_canvas->current()), forward);
     if (next < 0)
@@ -175,6 +187,8 @@ QImage frmInterface::renderPreview() const { return m_canvas->preview(); }
 
 void frmInterface::mnuNew_Click()
 {
+    if (IsPlayMode())
+        mnuEditMode_Click();
     m_canvas->clear();
     recorder::resetForNewLayout(m_context.settings, m_context.startMessages);
     setCaption(UntitledCaption);

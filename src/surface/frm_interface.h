@@ -50,6 +50,9 @@ public:
     void GenerateIcons(platform::Progress &progress);
     void saveGeometry();
     void mnuNew_Click();
+    // To Preview and back. Panels that have nothing to do there are disabled.
+    void mnuPlayMode_Click() { setPlayMode(true); }
+    void mnuEditMode_Click() { setPlayMode(false); }
     // Adds a control of the family with its corner at this point of the canvas (twips).
     void addControl(controls::ControlType family, QPointF twips);
     void addControlAtLastPosition(controls::ControlType family) { addControl(family, m_lastMousePosition); }
@@ -129,6 +132,7 @@ signals:
 
 private:
     CanvasRules rules() const;
+    void setPlayMode(bool playMode);
     void showCanvasMenu(const QPoint &globalPosition);
     controls::OverlayControl &paste(const CopiedControl &copied);
     void rearrange(const ControlList &group, const QList<Box> &boxes);
