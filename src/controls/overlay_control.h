@@ -64,8 +64,12 @@ public:
     QRect outerRect() const { return pixelRect(box(), screen()); }
     QRect innerRect() const;
     QRect area() const { return outerRect().united(drawnArea()); }
-    // The grip boxes, for painting and for the pointer alike.
-    HandleTable handles() const { return handleTable(box().Width, box().Height, grips()); }
+    // The grip boxes, for painting and for the pointer alike: twips of the screen within a control that is
+    // shown enlarged by this factor.
+    HandleTable handles(float zoom = 1) const
+    {
+        return handleTable(box().Width * zoom, box().Height * zoom, grips());
+    }
 
     // Properties by the names of their readers and writers. Unknown names and values that do not fit throw
     // RunTimeError. A writer stores, and nothing else: redraw() or AssignProperties() shows what it stored.

@@ -58,6 +58,7 @@ inline constexpr NumberKey VideoType{Tool, "VIDEOTYPE", 1};
 inline constexpr NumberKey GridSize{Tool, "GRIDSIZE", 80, -32768, -32768, 32767};
 inline constexpr NumberKey ShowGrid{Tool, "SHOWGRID", 1};
 inline constexpr NumberKey SnapGrid{Tool, "SNAPGRID", 1};
+inline constexpr NumberKey SafeAreas{Tool, "SAFEAREAS", 0};
 inline constexpr TextKey PalPicture{Tool, "PAL_BACKIMG", "PALVIDEOBackImg.bmp"};
 inline constexpr TextKey NtscPicture{Tool, "NTSC_BACKIMG", "NTSCVIDEOBackImg.bmp"};
 inline constexpr PathKey LayoutFolder{Tool, "LAYOUTFOLDER"};

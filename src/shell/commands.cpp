@@ -12,6 +12,7 @@
 #include "shell/frm_options.h"
 #include "shell/frm_start_splash.h"
 #include "shell/help.h"
+#include "surface/canvas_view.h"
 #include "surface/panel_area.h"
 
 #include <algorithm>
@@ -63,6 +64,16 @@ struct CommandTable
     static bool isStandard(const frmMain &w)
     {
         return w.m_state.settings.VideoType == Standard;
+    }
+    template <int Percent>
+    static void setZoom(frmMain &w)
+    {
+        w.m_design->view().setZoom(Percent);
+    }
+    template <int Percent>
+    static bool isZoom(const frmMain &w)
+    {
+        return w.m_design->view().zoom() == Percent;
     }
     template <EncodePattern Pattern>
     static void setPattern(frmMain &w)
@@ -209,6 +220,39 @@ struct CommandTable
          .caption = "NTSC",
          .run = &setStandard<VideoStandard::Ntsc>,
          .isChecked = &isStandard<VideoStandard::Ntsc>},
+        {.places = ViewMenu},
+        {.places = ViewMenu,
+         .name = "mnuZoomIn",
+         .caption = "Zoom &In",
+         .shortcut = "Ctrl++; Ctrl+=",
+         .run = [](frmMain &w) { w.m_design->view().stepZoom(true); }},
+        {.places = ViewMenu,
+         .name = "mnuZoomOut",
+         .caption = "Zoom O&ut",
+         .shortcut = "Ctrl+-",
+         .run = [](frmMain &w) { w.m_design->view().stepZoom(false); }},
+        {.places = ViewMenu,
+         .name = "mnuZoom100",
+         .caption = "&100 %",
+         .shortcut = "Ctrl+0",
+         .run = &setZoom<100>,
+         .isChecked = &isZoom<100>},
+        {.places = ViewMenu,
+         .name = "mnuZoom200",
+         .caption = "&200 %",
+         .run = &setZoom<200>,
+         .isChecked = &isZoom<200>},
+        {.places = ViewMenu,
+         .name = "mnuZoomFit",
+         .caption = "&Fit to Panel",
+         .shortcut = "Ctrl+9",
+         .run = [](frmMain &w) { w.m_design->view().setFitting(!w.m_design->view().isFitting()); },
+         .isChecked = [](const frmMain &w) { return w.m_design->view().isFitting(); }},
+        {.places = ViewMenu,
+         .name = "mnuSafeAreas",
+         .caption = "&Safe Areas",
+         .run = [](frmMain &w) { w.m_design->showSafeAreas(!w.m_design->showsSafeAreas()); },
+         .isChecked = [](const frmMain &w) { return w.m_design->showsSafeAreas(); }},
         {.places = ViewMenu},
         {.places = ViewMenu,
          .name = "mnuPanelDesign",

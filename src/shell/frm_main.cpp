@@ -5,6 +5,7 @@
 #include "recorder/bit_rate.h"
 #include "shell/version.h"
 #include "surface/canvas_rules.h"
+#include "surface/canvas_view.h"
 #include "surface/panel_area.h"
 #include "variables/edit_cycle.h"
 
@@ -53,7 +54,9 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     makePopups();
     setCentralWidget(m_design);
     connect(m_design, &surface::frmInterface::positionShown, m_position, &QLabel::setText);
+    connect(m_design, &surface::frmInterface::currentShown, m_current, &ElidedLabel::setText);
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
+    connect(m_design, &surface::frmInterface::viewChanged, this, &frmMain::refreshFromState);
     for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
         connect(m_design, change, &m_recovery, &Recovery::noteChange);
     for (const auto change :
@@ -72,7 +75,7 @@ void frmMain::makeActions()
         action->setObjectName(QLatin1String(command.name));
         action->setText(QLatin1String(command.caption));
         action->setIcon(resourceIcon(QLatin1String(command.icon)));
-        action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.shortcut)));
         if (command.places & CanvasPopup)
             action->setShortcutContext(Qt::WidgetShortcut);
         action->setCheckable(command.isChecked != nullptr);
@@ -151,17 +154,24 @@ void frmMain::makeToolbar()
 void frmMain::makeStatusBar()
 {
     m_position = new QLabel;
+    m_current = new ElidedLabel;
+    m_zoom = new QLabel;
     m_standard = new QLabel;
     m_bitRate = new QLabel;
     m_position->setObjectName(QStringLiteral("lblPosition"));
     m_bitRate->setObjectName(QStringLiteral("lblBitRate"));
-    for (QLabel *pane : {m_position, m_standard, m_bitRate})
+    m_current->setObjectName(QStringLiteral("lblCurrent"));
+    m_zoom->setObjectName(QStringLiteral("lblZoom"));
+    for (QWidget *pane :
+         std::initializer_list<QWidget *>{m_position, m_current, m_zoom, m_standard, m_bitRate})
         pane->setContentsMargins(8, 2, 8, 2);
     // Of a fixed size, so that a new text at each movement of the mouse does not lay out the window.
     m_position->setText(surface::positionText({-99999, -99999}, m_state.screen));
     m_position->setFixedSize(m_position->sizeHint());
     m_position->clear();
     statusBar()->addWidget(m_position);
+    statusBar()->addPermanentWidget(m_current, 1);
+    statusBar()->addPermanentWidget(m_zoom);
     statusBar()->addPermanentWidget(m_standard);
     statusBar()->addPermanentWidget(m_bitRate);
 }
@@ -207,6 +217,7 @@ void frmMain::refreshFromState()
     }
     for (const auto &[menu, place] : m_menus)
         menu->setEnabled(livesInPreview(place) || !m_design->IsPlayMode());
+    m_zoom->setText(QStringLiteral("%1 %").arg(m_design->view().zoom()));
     m_standard->setText(recorder::standardCaption(settings.VideoType));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/commands.h"
+#include "shell/elided_label.h"
 #include "shell/file_commands.h"
 #include "shell/recovery.h"
 #include "shell/variable_commands.h"
@@ -62,6 +63,8 @@ private:
     QMenu m_groupPopup;   // mnuGroupControl
     bool m_groupMenuPastes = false;
     QLabel *m_position;
+    ElidedLabel *m_current; // family, variable and place of the current control
+    QLabel *m_zoom;
     QLabel *m_standard;
     QLabel *m_bitRate;
 

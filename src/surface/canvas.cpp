@@ -1,8 +1,12 @@
 #include "surface/canvas.h"
 
 #include "surface/canvas_accessible.h"
+#include "surface/control_text.h"
+#include "surface/safe_areas.h"
 
 #include <QPaintEvent>
+
+#include <utility>
 
 namespace surface {
 
@@ -50,13 +54,14 @@ Canvas::Canvas()
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(this, &Canvas::selectionChanged, this, &Canvas::tellCurrent);
 }
 
 void Canvas::display(const QImage &background, const CanvasRules &rules, bool dots)
 {
     m_rules = rules;
     const QSize size(recorder::CanvasWidth, recorder::canvasHeight(rules.standard));
-    setFixedSize(size);
+    setFixedSize(m_zoom.shown(QRect(QPoint(), size)).size());
     m_ground = groundOf(size, background);
     QImage dotted = m_ground;
     if (dots) {
@@ -78,6 +83,20 @@ void Canvas::setPlayMode(bool playMode)
         control->setMode(playMode ? OverlayControl::Mode::Play : OverlayControl::Mode::Design);
 }
 
+void Canvas::setZoom(int percent)
+{
+    m_zoom = Zoom(percent);
+    m_picture.setZoom(m_zoom);
+    setFixedSize(m_zoom.shown(m_ground.rect()).size());
+    update();
+}
+
+void Canvas::setSafeAreas(bool shown)
+{
+    m_showsSafeAreas = shown;
+    update();
+}
+
 void Canvas::choose(OverlayControl &control)
 {
     m_selection.select(control);
@@ -91,6 +110,14 @@ void Canvas::BringToFront(OverlayControl &control)
     m_selection.setCurrent(control);
     tellFocus(*this, control);
     emit selectionChanged();
+}
+
+void Canvas::tellCurrent()
+{
+    const OverlayControl *control = current();
+    const QString text = control ? controlText(*control) : QString();
+    if (text != std::exchange(m_currentText, text))
+        emit currentShown(text);
 }
 
 void Canvas::chooseNone()
@@ -115,7 +142,7 @@ void Canvas::unload(OverlayControl &control)
     m_controls.unload(control);
     m_selection.dropCurrent();
     m_picture.touch(area);
-    update(area);
+    updateShown(area);
     emit selectionChanged();
 }
 
@@ -124,7 +151,7 @@ void Canvas::clear()
     endGesture();
     m_controls.clear();
     m_selection.dropCurrent();
-    m_picture.touch(rect());
+    m_picture.touch(m_ground.rect());
     update();
     emit selectionChanged();
 }
@@ -133,12 +160,16 @@ void Canvas::redrawControl(const OverlayControl &control, const QRect &area)
 {
     if (!m_lifted.contains(&control)) {
         m_picture.touch(area);
-        update(area);
-        return;
+        updateShown(area);
+    } else {
+        m_liftedArea |= area; // one rectangle is painted faster than those of all members of a group
+        updateShown(m_liftedArea);
     }
-    m_liftedArea |= area; // one rectangle is painted faster than those of all members of a group
-    update(m_liftedArea);
+    if (current() == &control)
+        tellCurrent();
 }
+
+void Canvas::updateShown(const QRect &area) { update(m_zoom.shown(area.adjusted(-Seam, -Seam, Seam, Seam))); }
 
 void Canvas::showPosition(const OverlayControl &control)
 {
@@ -150,7 +181,7 @@ void Canvas::setBand(const std::optional<QRect> &band)
     // Only the old and the new outline are painted again.
     for (const auto &outline : {m_band, band}) {
         if (outline)
-            update(outline->adjusted(-1, -1, 2, 2));
+            update(m_zoom.shown(*outline).adjusted(-1, -1, 2, 2));
     }
     m_band = band;
 }
@@ -161,6 +192,8 @@ void Canvas::paintEvent(QPaintEvent *event)
     m_liftedArea = {};
     const ControlList &order = m_isPlayMode ? m_controls.controls() : m_controls.stack();
     m_picture.paint(painter, event->rect(), order, m_lifted);
+    if (m_showsSafeAreas && !m_isPlayMode)
+        paintSafeAreas(painter, size());
     paintBand(painter);
 }
 
@@ -168,10 +201,11 @@ void Canvas::paintBand(QPainter &painter) const
 {
     if (!m_band)
         return;
+    const QRect outline = m_zoom.shown(*m_band);
     painter.setPen(QPen(Qt::white, 1));
-    painter.drawRect(*m_band);
+    painter.drawRect(outline);
     painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
-    painter.drawRect(*m_band);
+    painter.drawRect(outline);
 }
 
 } // namespace surface

@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+class QHelpEvent;
+
 namespace surface {
 
 // What a drag from the library carries: the key of the entry.
@@ -31,6 +33,12 @@ public:
     // To be displayed anew.
     void setPlayMode(bool playMode);
     bool isPlayMode() const { return m_isPlayMode; }
+    void setZoom(int percent);
+    const Zoom &zoom() const { return m_zoom; }
+    QSize canvasSize() const { return m_ground.size(); }
+    // The overlay of the picture's safe areas; not in play mode.
+    void setSafeAreas(bool shown);
+    bool showsSafeAreas() const { return m_showsSafeAreas; }
     // The overlay in the order of the layout, without frames and grid.
     QImage preview() const { return overlayPicture(m_ground, m_controls.controls()); }
 
@@ -58,6 +66,7 @@ signals:
     void pressed(QPointF twips); // on an empty place, with the left or the right button
     void dropped(const QString &key, QPointF twips);
     void positionShown(const QString &text);
+    void currentShown(const QString &text); // family, variable and place; empty when none is current
     void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void groupMenuRequested(const QPoint &globalPosition);
     void canvasMenuRequested(const QPoint &globalPosition);
@@ -81,11 +90,15 @@ protected:
 private:
     QPointF twips(QPointF pixels) const;
     controls::OverlayControl *controlAt(QPointF pixels) const;
-    std::optional<controls::Handle> handleAt(const controls::OverlayControl &control, QPointF twips) const;
+    std::optional<controls::Handle> handleAt(const controls::OverlayControl &control, QPointF pixels) const;
+    void updateShown(const QRect &area);
+    void tellCurrent();
+    bool mouseEvent(QMouseEvent &event);
+    void showToolTip(const QHelpEvent &event);
 
     void pressControl(controls::OverlayControl &control, const QMouseEvent &event);
     // Where no grip is, a drag begins only if `drags`.
-    void startGesture(controls::OverlayControl &control, QPointF twips, bool drags);
+    void startGesture(controls::OverlayControl &control, QPointF pixels, bool drags);
     // What is dragged along with the control.
     GroupDrag ResetControlGroup(const controls::OverlayControl &control) const;
     void BringToFront(controls::OverlayControl &control);
@@ -106,6 +119,7 @@ private:
 
     ControlRegistry m_controls;
     CanvasRules m_rules;
+    Zoom m_zoom;
     QImage m_ground; // background without dots
     CanvasPicture m_picture;
     Selection m_selection;
@@ -114,6 +128,8 @@ private:
     QRect m_liftedArea;          // pixels, to be painted again
     std::optional<QRect> m_band; // pixels
     bool m_isPlayMode = false;
+    bool m_showsSafeAreas = false;
+    QString m_currentText; // as it was told last
 };
 
 } // namespace surface

@@ -1,6 +1,7 @@
 #include "surface/canvas_accessible.h"
 
 #include "surface/canvas.h"
+#include "surface/control_text.h"
 
 #include <QAccessibleWidget>
 
@@ -57,11 +58,11 @@ QRect ControlAccessible::rect() const
     const auto control = m_control.lock();
     if (!control)
         return {};
-    const QRect place = control->outerRect();
+    const QRect place = m_canvas.zoom().shown(control->outerRect());
     return {m_canvas.mapToGlobal(place.topLeft()), place.size()};
 }
 
-// "Analogue Dial, Speed [GPS]"; the place is its description.
+// The place is the description.
 QString ControlAccessible::text(QAccessible::Text kind) const
 {
     const auto control = m_control.lock();
@@ -71,14 +72,7 @@ QString ControlAccessible::text(QAccessible::Text kind) const
         const Box &box = control->box();
         return positionText(QPointF(box.Left, box.Top), control->host().screen());
     }
-    if (kind != QAccessible::Name)
-        return {};
-    QString name = QLatin1String(control->family().caption);
-    const variables::VariableTable &table = control->host().catalogue().live;
-    const qint32 variable = control->takesVariable() ? std::get<qint32>(control->read("curVarID")) : 0;
-    if (variable > 0 && variable < table.size())
-        name += QStringLiteral(", ") + table[variable].DisplayName;
-    return name;
+    return kind == QAccessible::Name ? controlName(*control) : QString();
 }
 
 class CanvasAccessible final : public QAccessibleWidget
@@ -129,7 +123,7 @@ QAccessibleInterface *CanvasAccessible::childAt(int x, int y) const
     const ControlList &stack = m_canvas.registry().stack();
     const QPoint at = m_canvas.mapFromGlobal(QPoint(x, y));
     for (auto control = stack.rbegin(); control != stack.rend(); ++control) {
-        if ((*control)->outerRect().contains(at))
+        if (m_canvas.zoom().shown((*control)->outerRect()).contains(at))
             return child(static_cast<int>(all().indexOf(*control)));
     }
     return nullptr;

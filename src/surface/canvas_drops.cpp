@@ -14,7 +14,7 @@ bool Canvas::takesDrop(const QDropEvent &event) const
         return false;
     if (!event.mimeData()->hasFormat(VariableMime))
         return event.mimeData()->hasFormat(LibraryMime);
-    const controls::OverlayControl *control = controlAt(event.position());
+    const controls::OverlayControl *control = controlAt(m_zoom.toCanvas(event.position()));
     return control && control->takesVariable();
 }
 
@@ -37,12 +37,12 @@ void Canvas::dropEvent(QDropEvent *event)
     if (!takesDrop(*event))
         return;
     event->acceptProposedAction();
+    const QPointF at = m_zoom.toCanvas(event->position());
     const QMimeData &carried = *event->mimeData();
     if (carried.hasFormat(LibraryMime))
-        emit dropped(QString::fromUtf8(carried.data(LibraryMime)), twips(event->position()));
+        emit dropped(QString::fromUtf8(carried.data(LibraryMime)), twips(at));
     else
-        platform::skipFailures(
-            [&] { controlAt(event->position())->bindVariable(carried.data(VariableMime).toInt()); });
+        platform::skipFailures([&] { controlAt(at)->bindVariable(carried.data(VariableMime).toInt()); });
 }
 
 } // namespace surface

@@ -2,10 +2,12 @@
 
 #include "platform/guards.h"
 #include "surface/canvas.h"
+#include "surface/control_text.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -52,9 +54,13 @@ OverlayControl *Canvas::controlAt(QPointF pixels) const
     return top == stack.rend() ? nullptr : *top;
 }
 
-std::optional<Handle> Canvas::handleAt(const OverlayControl &control, QPointF at) const
+// The grips are as large at every zoom.
+std::optional<Handle> Canvas::handleAt(const OverlayControl &control, QPointF pixels) const
 {
-    return controls::handleAt(control.handles(), at - QPointF(control.box().Left, control.box().Top));
+    const auto factor = static_cast<float>(m_zoom.factor());
+    const QPointF at = m_rules.screen.toTwips(m_zoom.shown(pixels));
+    return controls::handleAt(control.handles(factor),
+                              at - QPointF(control.box().Left, control.box().Top) * m_zoom.factor());
 }
 
 void Canvas::mousePressEvent(QMouseEvent *event)
@@ -81,12 +87,13 @@ void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
     if (opensMenu)
         showMenu(control, event.globalPosition().toPoint());
     else
-        startGesture(control, twips(event.position()), !toggles || control.IsSelectedToGroup());
+        startGesture(control, event.position(), !toggles || control.IsSelectedToGroup());
 }
 
-void Canvas::startGesture(OverlayControl &control, QPointF at, bool drags)
+void Canvas::startGesture(OverlayControl &control, QPointF pixels, bool drags)
 {
-    if (const auto handle = handleAt(control, at))
+    const QPointF at = twips(pixels);
+    if (const auto handle = handleAt(control, pixels))
         m_gesture = Gesture::resizing(control, *handle, at);
     else if (drags)
         m_gesture = Gesture::dragging(control, at, ResetControlGroup(control));
@@ -138,7 +145,7 @@ void Canvas::hover(QPointF pixels)
 {
     const OverlayControl *control = m_isPlayMode ? nullptr : controlAt(pixels);
     if (control) {
-        setCursor(pointerOf(handleAt(*control, twips(pixels))));
+        setCursor(pointerOf(handleAt(*control, pixels)));
         return;
     }
     unsetCursor();
@@ -293,10 +300,13 @@ void Canvas::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() != QContextMenuEvent::Keyboard || m_isPlayMode)
         return;
-    if (const OverlayControl *control = current())
-        showMenu(*control, mapToGlobal(control->outerRect().center()));
+    const OverlayControl *control = current();
+    const QPoint middle = (control ? control->outerRect() : m_ground.rect()).center();
+    const QPoint place = mapToGlobal(m_zoom.shown(QPointF(middle))).toPoint();
+    if (control)
+        showMenu(*control, place);
     else
-        showCanvasMenu(twips(rect().center()), mapToGlobal(rect().center()));
+        showCanvasMenu(twips(middle), place);
 }
 
 // A canvas without controls to step to, or one that is being closed, lets the focus go.
@@ -308,9 +318,42 @@ bool Canvas::focusNextPrevChild(bool forward)
     return true;
 }
 
+void Canvas::showToolTip(const QHelpEvent &event)
+{
+    const OverlayControl *control = m_isPlayMode ? nullptr : controlAt(m_zoom.toCanvas(event.pos()));
+    if (control)
+        QToolTip::showText(event.globalPos(), controlText(*control), this,
+                           m_zoom.shown(control->outerRect()));
+    else
+        QToolTip::hideText();
+}
+
+// The handlers of the mouse are told canvas pixels.
+bool Canvas::mouseEvent(QMouseEvent &event)
+{
+    QMouseEvent onCanvas(event.type(), m_zoom.toCanvas(event.position()), event.scenePosition(),
+                         event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
+                         event.source(), event.pointingDevice());
+    const bool isHandled = QWidget::event(&onCanvas);
+    event.setAccepted(onCanvas.isAccepted());
+    return isHandled;
+}
+
 // Keys of the current control are no shortcuts.
 bool Canvas::event(QEvent *event)
 {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        return mouseEvent(*static_cast<QMouseEvent *>(event));
+    case QEvent::ToolTip:
+        showToolTip(*static_cast<QHelpEvent *>(event));
+        return true;
+    default:
+        break;
+    }
     if (event->type() == QEvent::ShortcutOverride && current() && !m_isPlayMode) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if ((key >= Qt::Key_Left && key <= Qt::Key_Down) || key == Qt::Key_Delete) {

@@ -1,5 +1,8 @@
 #include "surface/canvas_picture.h"
 
+#include <cmath>
+#include <utility>
+
 namespace surface {
 
 using controls::Composition;
@@ -8,6 +11,22 @@ using controls::OverlayControl;
 namespace {
 
 constexpr int MostPieces = 16; // of a touched region, before its bounds take their place
+
+void add(QRegion &region, const QRect &area)
+{
+    region += area;
+    if (region.rectCount() > MostPieces)
+        region = region.boundingRect();
+}
+
+QRegion taken(QRegion &region, const QRect &area)
+{
+    const QRegion part = region & area;
+    region -= part;
+    return part;
+}
+
+bool isWhole(double factor) { return factor == std::floor(factor); }
 
 } // namespace
 
@@ -21,66 +40,77 @@ void CanvasPicture::reset(const QImage &ground, const FramePainter &frames, cont
     m_touched = ground.rect();
 }
 
+void CanvasPicture::setZoom(const Zoom &zoom)
+{
+    m_zoom = zoom;
+    m_frames = {};
+}
+
 void CanvasPicture::touch(const QRect &area)
 {
-    m_touched += area & m_ground.rect();
-    if (m_touched.rectCount() > MostPieces)
-        m_touched = m_touched.boundingRect();
+    for (QRegion *region : {&m_touched, &m_touchedFrames})
+        add(*region, area & m_ground.rect());
 }
 
-void CanvasPicture::refresh(const ControlList &resting, double ratio)
+void CanvasPicture::refresh(const ControlList &resting, const QRect &area)
 {
-    const QSize screenSize = (QSizeF(m_ground.size()) * ratio).toSize();
-    if (m_frames.size() != screenSize) {
-        m_frames = QImage(screenSize, QImage::Format_ARGB32_Premultiplied);
-        m_frames.setDevicePixelRatio(ratio);
-        m_touched = m_ground.rect();
+    for (const QRect &part : taken(m_touched, area)) {
+        const Composition fresh = composed(m_ground, part, resting, m_drawing);
+        QPainter(&m_composed).drawImage(fresh.corner, fresh.picture);
     }
-    const QRegion touched = std::exchange(m_touched, {});
-    for (const QRect &area : touched) {
-        const Composition part = composed(m_ground, area, resting, m_drawing);
-        QPainter(&m_composed).drawImage(part.corner, part.picture);
-        refreshFrames(resting, area);
-    }
+    for (const QRect &part : taken(m_touchedFrames, area))
+        refreshFrames(resting, m_zoom.shown(part));
 }
 
-void CanvasPicture::refreshFrames(const ControlList &resting, const QRect &area)
+void CanvasPicture::refreshFrames(const ControlList &resting, const QRect &shown)
 {
     QPainter painter(&m_frames);
-    painter.setClipRect(area);
+    painter.setClipRect(shown);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(area, Qt::transparent);
+    painter.fillRect(shown, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     for (const OverlayControl *control : resting) {
-        if (control->outerRect().intersects(area))
-            m_framePainter.paint(painter, *control);
+        if (m_zoom.shown(control->outerRect()).intersects(shown))
+            m_framePainter.paint(painter, *control, m_zoom);
     }
 }
 
-void CanvasPicture::paint(QPainter &painter, const QRect &area, const ControlList &order,
+void CanvasPicture::paint(QPainter &painter, const QRect &shown, const ControlList &order,
                           const ControlList &lifted)
 {
     const double ratio = painter.device()->devicePixelRatioF();
-    if (!m_touched.isEmpty() || m_frames.devicePixelRatio() != ratio) {
+    const QRect whole = m_zoom.shown(m_ground.rect());
+    if (m_frames.isNull() || m_frames.devicePixelRatio() != ratio) {
+        m_frames = QImage((QSizeF(whole.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+        m_frames.setDevicePixelRatio(ratio);
+        m_touchedFrames = m_ground.rect();
+    }
+    const QRect area = m_zoom.toCanvas(shown).adjusted(-Seam, -Seam, Seam, Seam).intersected(m_ground.rect());
+    if (m_touched.intersects(area) || m_touchedFrames.intersects(area)) {
         ControlList resting = order;
         resting.removeIf([&lifted](OverlayControl *control) { return lifted.contains(control); });
-        refresh(resting, ratio);
+        refresh(resting, area);
     }
     paintOverlay(painter, area, lifted);
-    painter.drawImage(QRectF(area), m_frames,
-                      QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio));
+    painter.drawImage(QRectF(shown), m_frames,
+                      QRectF(QPointF(shown.topLeft()) * ratio, QSizeF(shown.size()) * ratio));
     for (const OverlayControl *control : lifted)
-        m_framePainter.paint(painter, *control);
+        m_framePainter.paint(painter, *control, m_zoom);
 }
 
 void CanvasPicture::paintOverlay(QPainter &painter, const QRect &area, const ControlList &lifted) const
 {
-    painter.drawImage(area, m_composed, area);
     QRect drawn;
     for (const OverlayControl *control : lifted)
         drawn |= control->drawnArea();
     const Composition part = composed(m_composed, area & drawn, lifted, m_drawing);
+    painter.save();
+    painter.scale(m_zoom.factor(), m_zoom.factor());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform,
+                          !isWhole(m_zoom.factor() * painter.device()->devicePixelRatioF()));
+    painter.drawImage(area, m_composed, area);
     painter.drawImage(part.corner, part.picture);
+    painter.restore();
 }
 
 } // namespace surface

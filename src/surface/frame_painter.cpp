@@ -1,5 +1,7 @@
 #include "surface/frame_painter.h"
 
+#include <algorithm>
+
 namespace surface {
 
 using controls::OverlayControl;
@@ -54,10 +56,11 @@ void paintHatch(QPainter &painter, const QPixmap &hatch, QSize period, const QRe
     }
 }
 
-void paintGrips(QPainter &painter, const OverlayControl &control, const platform::Screen &screen)
+void paintGrips(QPainter &painter, const OverlayControl &control, const platform::Screen &screen,
+                const Zoom &zoom)
 {
-    const QPoint corner = control.outerRect().topLeft();
-    for (const controls::GripBox &grip : control.handles()) {
+    const QPoint corner = zoom.shown(control.outerRect()).topLeft();
+    for (const controls::GripBox &grip : control.handles(static_cast<float>(zoom.factor()))) {
         if (!grip.isFilled())
             continue;
         const QRect box(screen.toPixels(QPointF(grip.Left, grip.Top)).toPoint(),
@@ -80,15 +83,20 @@ const QPixmap &FramePainter::hatch(quint32 gridColour, double ratio)
     return hatch;
 }
 
-void FramePainter::paint(QPainter &painter, const OverlayControl &control)
+void FramePainter::paint(QPainter &painter, const OverlayControl &control, const Zoom &zoom)
 {
     if (control.mode() == OverlayControl::Mode::Play)
         return;
     const QPixmap &picture = hatch(control.gridColour(), painter.device()->devicePixelRatioF());
-    const QRect outer = control.outerRect();
-    for (const QRect &strip : QRegion(outer) - control.innerRect())
+    const QRect outer = zoom.shown(control.outerRect());
+    // Never thicker, and where the control is shown smaller, no wider than beside its graphic.
+    const QPoint width =
+        (m_screen.toPixels({controls::FrameTwips, controls::FrameTwips}) * std::min(zoom.factor(), 1.0))
+            .toPoint();
+    const QRect inner = outer.adjusted(width.x(), width.y(), -width.x(), -width.y());
+    for (const QRect &strip : QRegion(outer) - inner)
         paintHatch(painter, picture, hatchPeriod(m_screen), strip, outer.topLeft());
-    paintGrips(painter, control, m_screen);
+    paintGrips(painter, control, m_screen, zoom);
 }
 
 } // namespace surface

@@ -4,12 +4,12 @@
 #include "graphics/dialogs/frm_font_gen.h"
 #include "platform/guards.h"
 #include "surface/canvas.h"
+#include "surface/canvas_view.h"
 #include "surface/library_panel.h"
 #include "surface/panel_area.h"
 #include "surface/placing.h"
 #include "surface/variable_tree.h"
 
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace surface {
@@ -24,7 +24,7 @@ const QString UntitledCaption = QStringLiteral("Untitled");
 } // namespace
 
 frmInterface::frmInterface(const InterfaceContext &context)
-    : m_context(context), m_canvas(new Canvas), m_canvasView(new QScrollArea),
+    : m_context(context), m_canvas(new Canvas), m_canvasView(new CanvasView(*m_canvas)),
       m_library(new LibraryPanel(context.folders)),
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
       m_backgrounds(context.folders), m_caption(UntitledCaption)
@@ -32,7 +32,7 @@ frmInterface::frmInterface(const InterfaceContext &context)
     setObjectName(QStringLiteral("frmInterface"));
     m_panels = new PanelArea(context.screen, {{{QStringLiteral("Variables"), m_variables},
                                                {QStringLiteral("Control library"), m_library},
-                                               {m_caption, makeDesignPanel()}}});
+                                               {m_caption, m_canvasView}}});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_panels);
@@ -43,21 +43,13 @@ frmInterface::frmInterface(const InterfaceContext &context)
 
 frmInterface::~frmInterface() = default;
 
-QWidget *frmInterface::makeDesignPanel()
-{
-    m_canvasView->setWidget(m_canvas);
-    m_canvasView->setAlignment(Qt::AlignCenter);
-    m_canvasView->setFrameShape(QFrame::NoFrame);
-    m_canvasView->setBackgroundRole(QPalette::Mid);
-    m_canvasView->setFocusProxy(m_canvas);
-    return m_canvasView;
-}
-
 void frmInterface::connectCanvas()
 {
     connect(m_canvas, &Canvas::pressed, this, [this](QPointF twips) { m_lastMousePosition = twips; });
     connect(m_canvas, &Canvas::stepped, this, &frmInterface::stepControl);
     connect(m_canvas, &Canvas::positionShown, this, &frmInterface::positionShown);
+    connect(m_canvas, &Canvas::currentShown, this, &frmInterface::currentShown);
+    connect(m_canvasView, &CanvasView::zoomChanged, this, &frmInterface::viewChanged);
     connect(m_canvas, &Canvas::controlMenuRequested, this, &frmInterface::controlMenuRequested);
     connect(m_canvas, &Canvas::groupMenuRequested, this,
             [this](const QPoint &at) { emit groupMenuRequested(at, false); });
@@ -141,9 +133,7 @@ void frmInterface::stepControl(bool forward)
         return;
     m_canvas->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     m_canvas->choose(*all[next]);
-    const QRect place = all[next]->outerRect();
-    const QPoint middle = place.center();
-    m_canvasView->ensureVisible(middle.x(), middle.y(), place.width() / 2 + 1, place.height() / 2 + 1);
+    m_canvasView->reveal(all[next]->outerRect());
 }
 
 void frmInterface::Reposition(OverlayControl &control, QPointF corner)

@@ -12,11 +12,10 @@
 
 #include <QWidget>
 
-class QScrollArea;
-
 namespace surface {
 
 class Canvas;
+class CanvasView;
 class LibraryPanel;
 class Panel;
 class PanelArea;
@@ -88,6 +87,10 @@ public:
     const QString &caption() const { return m_caption; }
     void setCaption(const QString &name);
     PanelArea &panels() { return *m_panels; }
+    CanvasView &view() { return *m_canvasView; }
+    // Outlines of the picture's safe areas, from now on and at the next start.
+    void showSafeAreas(bool shown);
+    bool showsSafeAreas() const;
 
     // ControlSurface
     QList<controls::OverlayControl *> controls() const override;
@@ -122,6 +125,8 @@ public:
 
 signals:
     void positionShown(const QString &text);
+    void currentShown(const QString &text); // family, variable and place; empty when none is current
+    void viewChanged();                     // by zooming
     void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void canvasMenuRequested(const QPoint &globalPosition);
     void groupMenuRequested(const QPoint &globalPosition, bool pastes);
@@ -136,7 +141,6 @@ private:
     void showCanvasMenu(const QPoint &globalPosition);
     controls::OverlayControl &paste(const CopiedControl &copied);
     void rearrange(const ControlList &group, const QList<Box> &boxes);
-    QWidget *makeDesignPanel();
     void connectCanvas();
     void initGrid(const Grid &grid);
     void ShowGrid();
@@ -145,7 +149,7 @@ private:
 
     InterfaceContext m_context;
     Canvas *m_canvas;
-    QScrollArea *m_canvasView;
+    CanvasView *m_canvasView;
     LibraryPanel *m_library;
     VariableTree *m_variables;
     PanelArea *m_panels;

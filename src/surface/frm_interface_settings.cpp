@@ -1,6 +1,7 @@
 // The design window's start, its background pictures and grid, and what it keeps in the settings file.
 
 #include "surface/canvas.h"
+#include "surface/canvas_view.h"
 #include "surface/frm_interface.h"
 #include "surface/library_icons.h"
 #include "surface/library_panel.h"
@@ -31,6 +32,7 @@ void frmInterface::load()
     m_library->restoreBar(file, screen());
     setCurBackColour(DefaultBackColour, DefaultLabelColour);
     m_canvas->setPlayMode(false);
+    m_canvas->setSafeAreas(keys::SafeAreas.read(file) == 1);
     initGrid(m_grid);
     m_library->loadControlTree();
     m_variables->RegenerateVariableTree();
@@ -64,6 +66,16 @@ void frmInterface::ShowGrid()
     m_canvas->display(m_backgrounds.picture(VideoType()), rules(), m_grid.shown && !IsPlayMode());
 }
 
+void frmInterface::showSafeAreas(bool shown)
+{
+    m_canvas->setSafeAreas(shown);
+    SettingsFile file(m_context.folders.ConfigFile());
+    keys::SafeAreas.write(file, shown ? 1 : 0);
+    file.save();
+}
+
+bool frmInterface::showsSafeAreas() const { return m_canvas->showsSafeAreas(); }
+
 void frmInterface::setCurBackColour(quint32 backColour, quint32 labelColour)
 {
     m_backColour = backColour;
@@ -82,6 +94,7 @@ void frmInterface::setVideoStandard(VideoStandard standard)
             control->fitCanvasHeight(rules().height());
     }
     ShowGrid();
+    m_canvasView->setFitting(m_canvasView->isFitting());
     emit layoutChanged();
 }
 
