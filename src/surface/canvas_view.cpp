@@ -16,6 +16,7 @@ CanvasView::CanvasView(Canvas &canvas) : m_canvas(canvas)
     setFrameShape(QFrame::NoFrame);
     setBackgroundRole(QPalette::Mid);
     setFocusProxy(&canvas);
+    setAccessibleName(QStringLiteral("Design canvas, scrolled"));
 }
 
 int CanvasView::zoom() const { return m_canvas.zoom().percent(); }
