@@ -298,7 +298,8 @@ struct CommandTable
                  recorder::frmStartStopRec(settings.autoStart, settings.autoStop, w.m_state.catalogue.live,
                                            dialogContext(w))
                      .exec();
-             }},
+             },
+         .isVisible = &isMorvel},
         {.places = ConfigurationMenu,
          .name = "mnuAutoChapterMark",
          .caption = "Auto Chapter Markers",
@@ -306,7 +307,9 @@ struct CommandTable
              [](frmMain &w) {
                  recorder::frmAutoChapterMark(w.m_state.settings, w.m_state.catalogue.live, dialogContext(w))
                      .exec();
-             }},
+             },
+         .isVisible = &isMorvel},
+        {.places = ConfigurationMenu, .name = "dashsp", .isVisible = &isMorvel},
         {.places = ConfigurationMenu,
          .name = "mnuSetMsgFrequency",
          .caption = "Message Frequency",

@@ -53,6 +53,7 @@ bool StartUp::run()
     showWindows();
     tellOfKeptFiles();
     chooseFirstLayout();
+    m_window->refreshFromState(); // it may be the newest of the recent layouts now
     if (m_mayReplaceRecovery)
         m_window->recovery().begin();
     return true;
