@@ -223,10 +223,16 @@ void frmMain::refreshFromState()
     m_bitRate->setToolTip(m_bitRate->text());
 }
 
-void frmMain::dragEnterEvent(QDragEnterEvent *event)
+// Not while a dialog or a long task works on the design.
+bool frmMain::takesDrops() const
 {
     const QAction *load = findChild<QAction *>(QStringLiteral("mnuLoadConfig"));
-    if (load->isEnabled() && !droppedLayout(*event->mimeData()).isEmpty())
+    return load->isEnabled() && !QApplication::activeModalWidget() && !QApplication::overrideCursor();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (takesDrops() && !droppedLayout(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
@@ -239,7 +245,8 @@ void frmMain::dropEvent(QDropEvent *event)
         this,
         [this, path] {
             activateWindow();
-            runCommand([&] { m_files.open(path); });
+            if (takesDrops())
+                runCommand([&] { m_files.open(path); });
         },
         Qt::QueuedConnection);
 }

@@ -37,6 +37,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    bool takesDrops() const;
     void runCommand(const std::function<void()> &command);
     void makeActions();
     void makeMenus();

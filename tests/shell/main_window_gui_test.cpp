@@ -90,6 +90,11 @@ TEST_F(MainWindow, OpensALayoutThatIsDroppedAfterTheQuestions)
     prompts.expectChoice(2);
     EXPECT_TRUE(dropFiles({two}));
     EXPECT_EQ(w.design().controls().size(), 3);
+    test::whenOpened([&](QWidget &dialog) {
+        EXPECT_FALSE(dropFiles({two}));
+        test::press(dialog, "cmdCancel");
+    });
+    w.run("mnuOptions");
     EXPECT_FALSE(dropFiles({two, two}));
     EXPECT_FALSE(dropFiles({QUrl("https://example.com/two.vgl")}));
     EXPECT_FALSE(dropFiles({QUrl::fromLocalFile(picture("a.bmp", {8, 8}))}));
