@@ -124,20 +124,27 @@ OverlayControl *added(const QString &family, surface::frmInterface &design)
     throw common::RunTimeError(family + QStringLiteral(": no such family"));
 }
 
+recorder::VideoStandard standardOf(const QString &name)
+{
+    using recorder::VideoStandard;
+    return name == QLatin1String("NTSC") ? VideoStandard::Ntsc : VideoStandard::Pal;
+}
+
 void compose(const make_data::TextTable &table, Workshop &workshop, make_data::Problems &problems)
 {
     OverlayControl *control = nullptr;
     const auto apply = [&](RowReader &row) {
-        if (row.isHeading())
+        if (row.isHeading()) {
             control = added(row.text(0), workshop.design());
-        else if (row.hasCells(2) && control && row.text(0) == QLatin1String("place"))
+        } else if (!row.hasCells(2)) {
+            return;
+        } else if (!control) {
+            workshop.design().setVideoStandard(standardOf(row.text(1)));
+        } else if (row.text(0) == QLatin1String("place")) {
             place(*control, row.text(1), workshop.design().screen());
-        else if (row.hasCells(2) && control)
+        } else {
             control->write(row.text(0).toStdString(), valueOf(row.text(1), workshop.catalogue()));
-        else if (row.hasCells(2))
-            workshop.design().setVideoStandard(row.text(1) == QLatin1String("NTSC")
-                                                   ? recorder::VideoStandard::Ntsc
-                                                   : recorder::VideoStandard::Pal);
+        }
     };
     for (const make_data::Row &line : table.rows) {
         RowReader row(table, line, problems);
