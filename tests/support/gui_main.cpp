@@ -8,7 +8,8 @@
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", "1");
+    if (!qEnvironmentVariableIsSet("MORVEL_TEST_SCALED"))
+        qputenv("QT_SCALE_FACTOR", "1");
     QLocale::setDefault(QLocale::c());
     QApplication application(argc, argv);
     platform::applyAppearance(application);
