@@ -158,14 +158,14 @@ void Canvas::clear()
 
 void Canvas::redrawControl(const OverlayControl &control, const QRect &area)
 {
-    if (!m_lifted.contains(&control)) {
-        m_picture.touch(area);
-        updateShown(area);
-    } else {
+    if (m_lifted.contains(&control)) {
         m_liftedArea |= area; // one rectangle is painted faster than those of all members of a group
         updateShown(m_liftedArea);
+        return;
     }
-    if (current() == &control)
+    m_picture.touch(area);
+    updateShown(area);
+    if (current() == &control) // one that is lifted tells its place when it has landed
         tellCurrent();
 }
 
