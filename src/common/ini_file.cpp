@@ -2,6 +2,8 @@
 
 #include "common/code_page.h"
 
+#include <algorithm>
+
 namespace common {
 
 namespace {
@@ -15,7 +17,7 @@ std::optional<QString> sectionOf(const QString &line)
     return trimmed.mid(1, end < 0 ? -1 : end - 1).trimmed();
 }
 
-bool sameName(const QString &a, const QString &b) { return a.compare(b.trimmed(), Qt::CaseInsensitive) == 0; }
+bool sameName(QStringView a, QStringView b) { return a.compare(b.trimmed(), Qt::CaseInsensitive) == 0; }
 
 QString unquoted(const QString &value)
 {
@@ -41,6 +43,46 @@ bool readableKey(const QString &key)
            !key.trimmed().startsWith(QLatin1Char('[')) && !key.trimmed().startsWith(QLatin1Char(';'));
 }
 
+QString headerOf(const QString &section) { return QLatin1Char('[') + section.trimmed() + QLatin1Char(']'); }
+
+// Empty for a line that is no pair of key and value.
+QStringView keyOf(QStringView line)
+{
+    return line.first(qMax<qsizetype>(line.indexOf(QLatin1Char('=')), 0)).trimmed();
+}
+
+QString valueOf(const QString &line)
+{
+    return unquoted(line.mid(line.indexOf(QLatin1Char('=')) + 1).trimmed());
+}
+
+// Below a section's header; -1 when it has no such key.
+qsizetype lineOf(const QStringList &lines, const QString &key)
+{
+    for (qsizetype i = 1; i < lines.size(); ++i) {
+        const QStringView known = keyOf(lines[i]);
+        if (!known.isEmpty() && sameName(known, key))
+            return i;
+    }
+    return -1;
+}
+
+// Where a section's next line goes: before the blank ones at its end.
+qsizetype endOf(const QStringList &lines)
+{
+    qsizetype end = lines.size();
+    while (end > 1 && lines[end - 1].trimmed().isEmpty())
+        --end;
+    return end;
+}
+
+// As much of a value as a buffer takes, up to its first NUL.
+QString buffered(const QString &value, int bufferSize)
+{
+    const qsizetype nul = value.indexOf(QChar(0));
+    return value.left(nul < 0 ? bufferSize - 1 : qMin<qsizetype>(nul, bufferSize - 1));
+}
+
 // Blanks at the ends and a pair of quotes would be stripped by the next reading, so they are quoted once
 // more.
 QString protectedValue(const QString &value)
@@ -56,45 +98,41 @@ IniFile IniFile::parse(const QByteArray &bytes)
     IniFile file;
     QString text = fromCodePage(bytes);
     text.remove(QLatin1Char('\r'));
-    file.m_lines = text.split(QLatin1Char('\n'));
-    while (!file.m_lines.isEmpty() && file.m_lines.back().trimmed().isEmpty())
-        file.m_lines.removeLast();
+    QStringList lines = text.split(QLatin1Char('\n'));
+    while (!lines.isEmpty() && lines.back().trimmed().isEmpty())
+        lines.removeLast();
+    for (const QString &line : lines) {
+        if (const auto name = sectionOf(line))
+            file.m_sections.append({*name, {}});
+        (file.m_sections.isEmpty() ? file.m_preamble : file.m_sections.back().lines).append(line);
+    }
     return file;
 }
 
-std::optional<IniFile::Place> IniFile::find(const QString &section, const QString &key) const
+const IniFile::Section *IniFile::find(const QString &section) const
 {
-    std::optional<qsizetype> end;
-    for (qsizetype i = 0; i < m_lines.size(); ++i) {
-        if (const auto name = sectionOf(m_lines[i])) {
-            if (end)
-                break; // only the first section of a name counts
-            if (sameName(*name, section))
-                end = i + 1;
-            continue;
-        }
-        if (!end || m_lines[i].trimmed().isEmpty())
-            continue;
-        const qsizetype equals = m_lines[i].indexOf(QLatin1Char('='));
-        if (equals >= 0 && sameName(m_lines[i].left(equals).trimmed(), key))
-            return Place{i, true};
-        end = i + 1;
-    }
-    if (!end)
-        return std::nullopt;
-    return Place{*end, false};
+    const auto found = std::find_if(m_sections.begin(), m_sections.end(),
+                                    [&](const Section &known) { return sameName(known.name, section); });
+    return found == m_sections.end() ? nullptr : &*found;
 }
 
 QString IniFile::read(const QString &section, const QString &key, const QString &fallback,
                       int bufferSize) const
 {
-    QString value = fallback;
-    if (const auto place = find(section, key); place && place->found) {
-        const QString &line = m_lines[place->line];
-        value = unquoted(line.mid(line.indexOf(QLatin1Char('=')) + 1).trimmed());
+    const Section *found = find(section);
+    const qsizetype line = found ? lineOf(found->lines, key) : -1;
+    return buffered(line < 0 ? fallback : valueOf(found->lines[line]), bufferSize);
+}
+
+QList<std::pair<QString, QString>> IniFile::entries(const QString &section, int bufferSize) const
+{
+    QList<std::pair<QString, QString>> entries;
+    const Section *found = find(section);
+    for (const QString &line : found ? found->lines.sliced(1) : QStringList()) {
+        if (const QStringView key = keyOf(line); !key.isEmpty())
+            entries.append({key.toString(), buffered(valueOf(line), bufferSize)});
     }
-    const qsizetype nul = value.indexOf(QChar(0));
-    return value.left(nul < 0 ? bufferSize - 1 : qMin<qsizetype>(nul, bufferSize - 1));
+    return entries;
 }
 
 bool IniFile::write(const QString &section, const QString &key, const std::optional<QString> &value)
@@ -102,37 +140,44 @@ bool IniFile::write(const QString &section, const QString &key, const std::optio
     if (!readableName(section) || section.contains(QLatin1Char(']')) || !readableKey(key) ||
         (value && hasLineBreak(*value)))
         return false;
-    const auto place = find(section, key);
-    if (!value) {
-        if (place && place->found)
-            m_lines.removeAt(place->line);
+    const Section *found = find(section);
+    if (!found && !value)
         return true;
-    }
-    const QString line = key.trimmed() + QLatin1Char('=') + protectedValue(*value);
-    if (place && place->found) {
-        m_lines[place->line] = line;
-    } else if (place) {
-        m_lines.insert(place->line, line);
-    } else {
-        m_lines.append(QLatin1Char('[') + section.trimmed() + QLatin1Char(']'));
-        m_lines.append(line);
-    }
+    if (!found)
+        m_sections.append({section.trimmed(), {headerOf(section)}});
+    QStringList &lines = m_sections[found ? found - m_sections.constData() : m_sections.size() - 1].lines;
+    const qsizetype line = lineOf(lines, key);
+    const auto text = [&] { return key.trimmed() + QLatin1Char('=') + protectedValue(*value); };
+    if (line < 0 && value)
+        lines.insert(endOf(lines), text());
+    else if (value)
+        lines[line] = text();
+    else if (line >= 0)
+        lines.removeAt(line);
     return true;
 }
 
 void IniFile::removeSection(const QString &section)
 {
-    bool inside = false;
-    m_lines.removeIf([&](const QString &line) {
-        if (const auto name = sectionOf(line))
-            inside = sameName(*name, section);
-        return inside;
-    });
+    m_sections.removeIf([&](const Section &known) { return sameName(known.name, section); });
+}
+
+void IniFile::renameSection(const QString &section, const QString &name)
+{
+    for (Section &known : m_sections) {
+        if (sameName(known.name, section)) {
+            known.name = name;
+            known.lines[0] = headerOf(name);
+        }
+    }
 }
 
 QByteArray IniFile::bytes() const
 {
-    return m_lines.isEmpty() ? QByteArray() : toCodePage(m_lines.join(QLatin1String("\r\n"))) + "\r\n";
+    QStringList lines = m_preamble;
+    for (const Section &section : m_sections)
+        lines += section.lines;
+    return lines.isEmpty() ? QByteArray() : toCodePage(lines.join(QLatin1String("\r\n"))) + "\r\n";
 }
 
 } // namespace common

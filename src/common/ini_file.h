@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 
 namespace common {
 
@@ -26,20 +28,26 @@ public:
     // in a key, "]" in a section) and a value with line breaks. Characters of a value that the code page
     // does not have become "?".
     bool write(const QString &section, const QString &key, const std::optional<QString> &value);
+    bool hasSection(const QString &section) const { return find(section) != nullptr; }
+    // The keys of a section with the values that read() gives for such a buffer, in their order.
+    QList<std::pair<QString, QString>> entries(const QString &section, int bufferSize) const;
     void removeSection(const QString &section);
+    // Gives a section another name; its lines stay as they are.
+    void renameSection(const QString &section, const QString &name);
 
     QByteArray bytes() const;
 
 private:
-    struct Place
+    struct Section
     {
-        qsizetype line;
-        bool found;
+        QString name;
+        QStringList lines; // its header first
     };
-    // The line of the key, or the line after the section's last one.
-    std::optional<Place> find(const QString &section, const QString &key) const;
+    // The first section of the name; null when there is none.
+    const Section *find(const QString &section) const;
 
-    QStringList m_lines;
+    QStringList m_preamble; // the lines before the first section
+    QList<Section> m_sections;
 };
 
 } // namespace common

@@ -21,7 +21,8 @@ public:
     {
         return m_ini.write(section, key, value);
     }
-    void removeSection(const QString &section) { m_ini.removeSection(section); }
+    common::IniFile &ini() { return m_ini; }
+    const common::IniFile &ini() const { return m_ini; }
 
     // Throws RunTimeError when the file cannot be written, or when it could not be read: what it holds would
     // be lost.
