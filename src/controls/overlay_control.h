@@ -20,6 +20,9 @@ inline constexpr quint32 FrameGrouped = 0xFF0000;  // blue
 
 QColor toQColor(quint32 packed);
 
+// A reading for samples, two thirds up the scale.
+inline float sampleReading(float low, float high) { return low + (high - low) * 2 / 3; }
+
 // One graphic of the overlay: its values, its place on the canvas, its rules and its painting. It is no
 // window; the canvas shows it, with an editing frame round it, and acts on it as the user's mouse and keys
 // want.
@@ -79,6 +82,8 @@ public:
     void Deserialise(const QStringList &texts);
     // What a copy of `source`, which is of the same family, has of it besides the serialised properties.
     virtual void takeOver(const OverlayControl & /*source*/) {}
+    // The elements of Serialise() that are names of files in the picture folder.
+    QList<CopyElement> copies() const { return copyElements(properties()); }
 
     // What the host drives
     void setColour(quint32 colour, quint32 /*unused*/) { values().backColour.setPacked(colour); }
@@ -91,6 +96,8 @@ public:
     bool IsSelectedToGroup() const { return m_isGrouped; }
     // The values of a control that was just placed; Left and Top stand already.
     virtual void applyInitialProperties() = 0;
+    // Gives a control with its initial values something to show in an icon.
+    virtual void showSample() {}
     // The outer size of a control that was just created, twips.
     virtual QSizeF startSize() const = 0;
     // Draws the graphic upon what the composition shows already, as the recorder would.

@@ -88,6 +88,18 @@ const PropertyRow *PropertyTable::writer(std::string_view name) const
     return findRow<&PropertyRow::writer>(rows, name);
 }
 
+QList<CopyElement> copyElements(const PropertyTable &table)
+{
+    QList<CopyElement> elements;
+    qsizetype element = SizeEntries;
+    for (const PropertyRow &row : table.rows) {
+        if (!row.picture.empty())
+            elements.append({element, row.picture});
+        element += row.isSerialised ? 1 : 0;
+    }
+    return elements;
+}
+
 QStringList serialise(const PropertyTable &table, const ControlValues &values, const platform::Screen &screen,
                       const QString &decimalMark)
 {

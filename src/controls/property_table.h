@@ -7,6 +7,7 @@
 #include "platform/screen.h"
 
 #include <QImage>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,7 @@ struct PropertyRow
     bool isSerialised;
     PropertyValue (*get)(const ControlValues &, const platform::Screen &);
     void (*set)(ControlValues &, const PropertyValue &) = nullptr; // throws RunTimeError when it does not fit
+    std::string_view picture{}; // reader of the picture of which it names a copy in the picture folder
 
     // The same row with another way of reading.
     constexpr PropertyRow readBy(PropertyValue (*reading)(const ControlValues &,
@@ -44,6 +46,13 @@ struct PropertyRow
     {
         PropertyRow row = *this;
         row.get = reading;
+        return row;
+    }
+    // The same row, as the file name of a picture's copy.
+    constexpr PropertyRow namesCopyOf(std::string_view pictureReader) const
+    {
+        PropertyRow row = *this;
+        row.picture = pictureReader;
         return row;
     }
     // The same row, left out of the serialised array.
@@ -64,6 +73,14 @@ struct PropertyTable
     const PropertyRow *reader(std::string_view name) const;
     const PropertyRow *writer(std::string_view name) const;
 };
+
+// An element of the serialised array that names a picture's copy.
+struct CopyElement
+{
+    qsizetype element;
+    std::string_view picture; // its reader
+};
+QList<CopyElement> copyElements(const PropertyTable &table);
 
 // The flat array of texts: outer width and height in twips, then the serialised rows.
 QStringList serialise(const PropertyTable &table, const ControlValues &values, const platform::Screen &screen,

@@ -55,6 +55,7 @@ public:
     Box resizedBox(const Box &wanted, Handle handle) const override;
     void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
+    void showSample() override { m_values.curDefaultVal = sampleReading(m_values.curMin, m_values.curMax); }
     QSizeF startSize() const override { return {1950, 450}; }
     void paint(Composition &onto) const override;
     double complexity() const override;

@@ -57,8 +57,8 @@ void setAlphaImage(ControlValues &values, const PropertyValue &image)
 using V = BitmapValues;
 constexpr std::array Rows{
     property<&V::curAlfa>("curAlfa", "newAlfa"),
-    property<&V::curFileName>("curFileName", "newFileName"),
-    property<&V::curAlfaFileName>("curAlfaFileName", "newAlfaFileName"),
+    property<&V::curFileName>("curFileName", "newFileName").namesCopyOf("curSourceImg"),
+    property<&V::curAlfaFileName>("curAlfaFileName", "newAlfaFileName").namesCopyOf("curAlfaImg"),
     property<&V::curVarID>("curVarID", "newVarID"),
     property<&V::curLowerLimit>("curLowerLimit", "newLowerLimit"),
     property<&V::curUpperLimit>("curUpperLimit", "newUpperLimit"),
@@ -78,6 +78,23 @@ QSize planeSize(const Box &box, const platform::Screen &screen)
 {
     return {common::toIntegerClamped<qint16>(double{innerWidth(box, screen)}),
             common::toIntegerClamped<qint16>(double{innerHeight(box, screen)})};
+}
+
+// Hills under the sun.
+QImage samplePicture()
+{
+    QImage picture(104, 104, QImage::Format_RGB32);
+    picture.fill(QColor(0x8f, 0xc4, 0xe8));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xff, 0xd8, 0x4d));
+    painter.drawEllipse(68, 12, 24, 24);
+    painter.setBrush(QColor(0x3f, 0x8f, 0x5a));
+    painter.drawPolygon(QPolygon({{0, 104}, {0, 70}, {36, 34}, {104, 104}}));
+    painter.setBrush(QColor(0x2e, 0x6d, 0x45));
+    painter.drawPolygon(QPolygon({{30, 104}, {74, 56}, {104, 84}, {104, 104}}));
+    return picture;
 }
 
 } // namespace
@@ -107,6 +124,14 @@ void Bitmap::applyInitialProperties()
 {
     set(BitmapValues());
     updatePosition();
+}
+
+void Bitmap::showSample()
+{
+    const QImage picture = samplePicture();
+    QImage opaque(picture.size(), picture.format());
+    opaque.fill(Qt::white);
+    m_values.picture = PlanePicture::chosen(picture, opaque);
 }
 
 // The planes do not travel with the texts, they are made of the copies again. A copy that is missing leaves

@@ -39,6 +39,7 @@ public:
 
     void takeOver(const OverlayControl &source) override;
     void applyInitialProperties() override;
+    void showSample() override;
     QSizeF startSize() const override { return {1650, 1650}; }
     void paint(Composition &onto) const override;
     QRect drawnArea() const override;

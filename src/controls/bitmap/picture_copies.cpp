@@ -11,10 +11,14 @@ namespace controls {
 
 namespace {
 
+constexpr int LongestName = 150; // the library keeps 199 characters, a number may be added
+
+bool isTaken(const QString &path) { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); }
+
 // Whether the name is free for these bytes.
 bool mayHold(const QString &path, const QByteArray &bytes)
 {
-    if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
+    if (!isTaken(path))
         return true;
     QByteArray held;
     return platform::skipFailures([&] { held = platform::readFile(path); }) && held == bytes;
@@ -24,20 +28,33 @@ bool mayHold(const QString &path, const QByteArray &bytes)
 QString plainName(const QString &wanted)
 {
     static const QRegularExpression Unfit(QStringLiteral("^\\.+|[\\x00-\\x1F/\\\\:?]"));
-    return common::fromCodePage(common::toCodePage(wanted)).replace(Unfit, QStringLiteral("_"));
+    return common::fromCodePage(common::toCodePage(wanted))
+        .right(LongestName)
+        .replace(Unfit, QStringLiteral("_"));
+}
+
+// The plain name, with the first number from 2 on under which it serves.
+template <typename Test>
+QString numbered(const QString &wanted, Test serves)
+{
+    const QString plain = plainName(wanted);
+    const QFileInfo parts(plain);
+    QString name = plain;
+    for (int number = 2; !serves(name); ++number)
+        name = QStringLiteral("%1 %2.%3").arg(parts.completeBaseName()).arg(number).arg(parts.suffix());
+    return name;
 }
 
 } // namespace
 
 QString copyName(const QString &folder, const QString &wanted, const QByteArray &bytes)
 {
-    const QString plain = plainName(wanted);
-    QString name = plain;
-    for (int number = 2; !mayHold(folder + name, bytes); ++number) {
-        const QFileInfo parts(plain);
-        name = QStringLiteral("%1 %2.%3").arg(parts.completeBaseName()).arg(number).arg(parts.suffix());
-    }
-    return name;
+    return numbered(wanted, [&](const QString &name) { return mayHold(folder + name, bytes); });
+}
+
+QString ownCopyName(const QString &folder, const QString &wanted)
+{
+    return numbered(wanted, [&](const QString &name) { return !isTaken(folder + name); });
 }
 
 void keepCopy(const QString &folder, const QString &name, const QByteArray &bytes, platform::Flush flush)

@@ -57,6 +57,7 @@ public:
     void standardChanged() override;
     void fitCanvasHeight(float height) override { pullUp(height); }
     void applyInitialProperties() override;
+    void showSample() override { m_values.curDefaultVal = sampleReading(m_values.curMin, m_values.curMax); }
     QSizeF startSize() const override { return {3150, 3150}; }
     void paint(Composition &onto) const override;
     QRect drawnArea() const override;

@@ -62,6 +62,7 @@ public:
     void fitCanvasHeight(float height) override;
     void nudge(int dx, int dy) override;
     void applyInitialProperties() override;
+    void showSample() override { m_values.curDefaultVal = sampleReading(m_values.curMin, m_values.curMax); }
     QSizeF startSize() const override { return {1950, 1950}; }
     void paint(Composition &onto) const override;
     QRect drawnArea() const override;

@@ -28,6 +28,7 @@ public:
     using ControlOf::ControlOf;
 
     void applyInitialProperties() override;
+    void showSample() override { m_values.curColour.setPacked(0xFFFFFF); }
     double complexity() const override;
 
 protected:
