@@ -90,6 +90,8 @@ qint64 startOfData(const BmpHeader &header)
     return std::max(start, header.dataOffset);
 }
 
+qint64 rowBytes(const BmpHeader &header) { return (header.width * header.bitsPerPixel + 31) / 32 * 4; }
+
 // Whether run-length codes reach their end mark before the bytes end.
 bool endsProperly(QByteArrayView codes, bool fourBits)
 {
@@ -134,8 +136,20 @@ PictureFault checkBmp(QByteArrayView bytes, int maxSide)
     const QByteArrayView data = bytes.sliced(start);
     if (header.isRunLength())
         return endsProperly(data, header.compression == RunLength4) ? PictureFault::None : PictureFault::Cut;
-    const qint64 rowBytes = (header.width * header.bitsPerPixel + 31) / 32 * 4;
-    return rowBytes * header.rows() <= data.size() ? PictureFault::None : PictureFault::Cut;
+    return rowBytes(header) * header.rows() <= data.size() ? PictureFault::None : PictureFault::Cut;
+}
+
+QImage trueColourPicture(QByteArrayView bytes)
+{
+    constexpr int Depth = 24;
+    const BmpHeader header = readHeader(bytes);
+    if (header.bitsPerPixel != Depth || header.compression != Uncompressed)
+        return {};
+    const QByteArrayView data = bytes.sliced(startOfData(header));
+    const QImage stored(reinterpret_cast<const uchar *>(data.data()), static_cast<int>(header.width),
+                        static_cast<int>(header.rows()), rowBytes(header), QImage::Format_BGR888);
+    QImage picture = stored.convertToFormat(QImage::Format_RGB32);
+    return header.height < 0 ? picture : std::move(picture).mirrored();
 }
 
 std::array<int, 3> channelBits(QByteArrayView bytes)

@@ -92,7 +92,9 @@ LoadedPicture readPicture(QByteArrayView bytes, int maxSide)
     reader.setAutoDetectImageFormat(false);
     if (const auto fault = checkBeforeDecoding(reader, bytes, maxSide); fault != PictureFault::None)
         return refused(fault);
-    QImage picture = reader.read();
+    QImage picture = format == "bmp" ? trueColourPicture(bytes) : QImage();
+    if (picture.isNull())
+        picture = reader.read();
     if (picture.isNull())
         return refused(PictureFault::Cut);
     picture.convertTo(QImage::Format_RGB32);
