@@ -13,6 +13,7 @@
 #include "shell/frm_start_splash.h"
 #include "shell/help.h"
 #include "surface/canvas_view.h"
+#include "surface/library_panel.h"
 #include "surface/panel_area.h"
 
 #include <algorithm>
@@ -501,6 +502,15 @@ struct CommandTable
          .caption = "P&roperties",
          .icon = "toolbar/properties",
          .run = &sendKey<Qt::Key_Return>},
+        {.places = ControlPopup,
+         .name = "mnuDefineCustom_C",
+         .caption = "D&efine as custom....",
+         .icon = "families/entry",
+         .run =
+             [](frmMain &w) {
+                 if (const controls::OverlayControl *control = w.m_design->currentControl())
+                     w.m_design->library().mnuDefineCustom_Click(*control);
+             }},
 
         {.places = GroupPopup,
          .name = "mnuGroupCut",
@@ -558,6 +568,16 @@ struct CommandTable
          .icon = "menu/space_vertically",
          .run = &spaceEqually<Qt::Vertical>,
          .isEnabled = &hasMembers<3>},
+
+        {.places = LibraryPopup,
+         .name = "mnuRenameControl",
+         .caption = "Rename Control",
+         .run = [](frmMain &w) { w.m_design->library().mnuRenameControl_Click(); }},
+        {.places = LibraryPopup,
+         .name = "mnuDeleteControl",
+         .caption = "Delete Control",
+         .icon = "menu/delete",
+         .run = [](frmMain &w) { w.m_design->library().mnuDeleteControl_Click(); }},
     };
 };
 

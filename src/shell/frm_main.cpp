@@ -1,6 +1,7 @@
 #include "shell/frm_main.h"
 
 #include "controls/families.h"
+#include "platform/desktop/art_icon.h"
 #include "platform/guards.h"
 #include "recorder/bit_rate.h"
 #include "shell/version.h"
@@ -21,11 +22,6 @@ namespace shell {
 
 namespace {
 
-QIcon resourceIcon(const QString &name)
-{
-    return name.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/%1.png").arg(name));
-}
-
 // The one layout that is dropped; empty when it is anything else.
 QString droppedLayout(const QMimeData &dropped)
 {
@@ -38,9 +34,9 @@ QString droppedLayout(const QMimeData &dropped)
 
 frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     : m_state(state), m_prompts(prompts),
-      m_design(
-          new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
-                                     state.fonts, state.clipboard, prompts, state.locale, state.screen})),
+      m_design(new surface::frmInterface({state.catalogue, state.settings, state.startMessages, state.folders,
+                                          state.fonts, state.clipboard, prompts, state.locale, state.screen,
+                                          state.stamp})),
       m_files(state, prompts, *m_design, *this), m_variables(state, prompts, *m_design)
 {
     setObjectName(QStringLiteral("frmMain"));
@@ -74,7 +70,8 @@ void frmMain::makeActions()
         action->setSeparator(!command.run && !command.opens);
         action->setObjectName(QLatin1String(command.name));
         action->setText(QLatin1String(command.caption));
-        action->setIcon(resourceIcon(QLatin1String(command.icon)));
+        if (*command.icon)
+            action->setIcon(platform::artIcon(QLatin1String(command.icon)));
         action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.shortcut)));
         if (command.places & CanvasPopup)
             action->setShortcutContext(Qt::WidgetShortcut);
@@ -110,8 +107,9 @@ void frmMain::fill(QWidget &menu, unsigned place)
 void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
 {
     for (const controls::Family &family : controls::families()) {
-        QAction *add = menu.addAction(resourceIcon(QStringLiteral("families/") + QLatin1String(family.art)),
-                                      QLatin1String(family.menuCaption));
+        QAction *add =
+            menu.addAction(platform::artIcon(QStringLiteral("families/") + QLatin1String(family.art)),
+                           QLatin1String(family.menuCaption));
         add->setObjectName(prefix + QLatin1String(family.menuItem).mid(3));
         const controls::ControlType type = family.type;
         connect(add, &QAction::triggered, this, [this, type] {
@@ -196,6 +194,10 @@ void frmMain::makePopups()
                 refreshFromState();
                 m_groupPopup.popup(position);
             });
+    m_libraryPopup.setObjectName(QStringLiteral("mnuControl"));
+    fill(m_libraryPopup, LibraryPopup);
+    connect(m_design, &surface::frmInterface::libraryMenuRequested, this,
+            [this](const QPoint &position) { m_libraryPopup.popup(position); });
 }
 
 void frmMain::refreshFromState()

@@ -62,6 +62,7 @@ private:
     QMenu m_canvasPopup;  // mnuDropDown
     QMenu m_controlPopup; // mnuDropDown3
     QMenu m_groupPopup;   // mnuGroupControl
+    QMenu m_libraryPopup; // mnuControl
     bool m_groupMenuPastes = false;
     QLabel *m_position;
     ElidedLabel *m_current; // family, variable and place of the current control

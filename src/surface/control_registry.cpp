@@ -30,15 +30,10 @@ OverlayControl &ControlRegistry::loadControl(ControlType type, controls::Control
         ++index;
     const auto control = controls::factoryOf(type)(*controls::familyOf(type), host);
     control->setIndex(index);
-    add(control);
-    return *control;
-}
-
-void ControlRegistry::add(const std::shared_ptr<OverlayControl> &control)
-{
     m_owned.push_back(control);
     m_controls.append(control.get());
-    m_indices[control->family().type].insert(control->Index());
+    m_indices[type].insert(index);
+    return *control;
 }
 
 int ControlRegistry::count(ControlType type) const

@@ -24,7 +24,6 @@ public:
 
     // Creates a control of the family at the next free index; it is not shown yet.
     controls::OverlayControl &loadControl(controls::ControlType family, controls::ControlHost &host);
-    void add(const std::shared_ptr<controls::OverlayControl> &control);
     // How many elements the family has, its template counted.
     int count(controls::ControlType family) const;
     // Puts a control that was loaded on the top of the stack.

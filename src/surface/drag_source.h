@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/desktop/art_icon.h"
+
+#include <QContextMenuEvent>
 #include <QDrag>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QMimeData>
 
 #include <functional>
@@ -16,6 +18,7 @@ class DragSource final : public View
 {
 public:
     using TextOf = std::function<QString(const Item &)>;
+    using Menu = std::function<void(const Item &, const QPoint &globalPosition)>;
 
     DragSource(const QString &format, TextOf textOf) : m_format(format), m_textOf(std::move(textOf))
     {
@@ -23,7 +26,19 @@ public:
         this->setDragDropMode(View::DragOnly);
     }
 
+    // What opens the menu of an item, asked for by the right button or by key.
+    void setMenu(Menu menu) { m_menu = std::move(menu); }
+
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override
+    {
+        const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+        const Item *item = byKey ? this->currentItem() : this->itemAt(event->pos());
+        if (item && m_menu)
+            m_menu(*item, byKey ? this->viewport()->mapToGlobal(this->visualItemRect(item).center())
+                                : event->globalPos());
+    }
+
     void startDrag(Qt::DropActions) override
     {
         if (!(QGuiApplication::mouseButtons() & Qt::LeftButton))
@@ -36,7 +51,7 @@ protected:
         carried->setData(m_format, text.toUtf8());
         auto *drag = new QDrag(this);
         drag->setMimeData(carried);
-        drag->setPixmap(QIcon(QStringLiteral(":/variables/drag.png")).pixmap(32, 32));
+        drag->setPixmap(platform::artIcon(QStringLiteral("variables/drag")).pixmap(32, 32));
         drag->setHotSpot({3, 6});
         drag->exec(Qt::CopyAction);
     }
@@ -44,6 +59,7 @@ protected:
 private:
     QString m_format;
     TextOf m_textOf;
+    Menu m_menu;
 };
 
 } // namespace surface

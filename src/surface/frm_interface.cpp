@@ -25,7 +25,7 @@ const QString UntitledCaption = QStringLiteral("Untitled");
 
 frmInterface::frmInterface(const InterfaceContext &context)
     : m_context(context), m_canvas(new Canvas), m_canvasView(new CanvasView(*m_canvas)),
-      m_library(new LibraryPanel(context.folders)),
+      m_library(new LibraryPanel(*this, context.stamp)),
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
       m_backgrounds(context.folders), m_caption(UntitledCaption)
 {
@@ -59,11 +59,13 @@ void frmInterface::connectCanvas()
     const auto addByKey = [this](const QString &key, QPointF twips) {
         m_canvas->chooseNone();
         if (const controls::Family *family = controls::familyOfKey(key))
-            addControl(family->type, twips);
+            addFilled(family->type, twips,
+                      [this, key](OverlayControl &control) { m_library->configure(control, key); });
     };
     connect(m_canvas, &Canvas::dropped, this, addByKey);
     connect(m_library, &LibraryPanel::activated, this,
             [this, addByKey](const QString &key) { addByKey(key, m_lastMousePosition); });
+    connect(m_library, &LibraryPanel::menuRequested, this, &frmInterface::libraryMenuRequested);
     connect(m_library, &LibraryPanel::used, m_canvas, &Canvas::chooseNone);
     connect(m_variables, &VariableTree::used, m_canvas, &Canvas::chooseNone);
 }
@@ -92,12 +94,18 @@ void frmInterface::showControl(OverlayControl &control)
 
 void frmInterface::addControl(controls::ControlType family, QPointF twips)
 {
+    addFilled(family, twips, &OverlayControl::applyInitialProperties);
+}
+
+void frmInterface::addFilled(controls::ControlType family, QPointF twips,
+                             const std::function<void(OverlayControl &)> &fill)
+{
     OverlayControl &control = loadControl(family);
     const QSizeF size = control.startSize();
     control.setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
     MoveTo(control, twips, rules());
-    skipFailures([&] { control.applyInitialProperties(); });
-    MoveTo(control, cornerOf(control), rules()); // the initial properties may have sized it
+    skipFailures([&] { fill(control); });
+    MoveTo(control, cornerOf(control), rules()); // the properties may have sized it
     showControl(control);
     m_canvas->setFocus();
     m_canvas->choose(control);

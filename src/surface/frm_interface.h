@@ -4,6 +4,7 @@
 #include "controls/control_surface.h"
 #include "graphics/font_store.h"
 #include "platform/progress.h"
+#include "platform/stamp.h"
 #include "surface/backgrounds.h"
 #include "surface/canvas_rules.h"
 #include "surface/clipboard.h"
@@ -11,6 +12,8 @@
 #include "surface/selection.h"
 
 #include <QWidget>
+
+#include <functional>
 
 namespace surface {
 
@@ -33,6 +36,7 @@ struct InterfaceContext
     platform::Prompts &prompts;
     const platform::NumberLocale &locale;
     platform::Screen screen;
+    const platform::Stamp &stamp;
 };
 
 // The design window: canvas, control library and variable tree. The controls on the canvas are the layout.
@@ -87,6 +91,7 @@ public:
     const QString &caption() const { return m_caption; }
     void setCaption(const QString &name);
     PanelArea &panels() { return *m_panels; }
+    LibraryPanel &library() { return *m_library; }
     CanvasView &view() { return *m_canvasView; }
     // Outlines of the picture's safe areas, from now on and at the next start.
     void showSafeAreas(bool shown);
@@ -130,7 +135,8 @@ signals:
     void controlMenuRequested(const QPoint &globalPosition); // of the current control
     void canvasMenuRequested(const QPoint &globalPosition);
     void groupMenuRequested(const QPoint &globalPosition, bool pastes);
-    void designChanged(); // by a user's hand
+    void libraryMenuRequested(const QPoint &globalPosition); // of a custom entry
+    void designChanged();                                    // by a user's hand
     void selectionChanged();
     void controlsChanged(); // one was added or deleted
     void layoutChanged();   // the layout's caption, standard or settings may differ now
@@ -142,6 +148,9 @@ private:
     controls::OverlayControl &paste(const CopiedControl &copied);
     void rearrange(const ControlList &group, const QList<Box> &boxes);
     void connectCanvas();
+    // Adds a control that `fill` gives its properties.
+    void addFilled(controls::ControlType family, QPointF twips,
+                   const std::function<void(controls::OverlayControl &)> &fill);
     void initGrid(const Grid &grid);
     void ShowGrid();
     void storeVisibility(PanelId id, bool visible);

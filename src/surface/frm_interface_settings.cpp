@@ -3,7 +3,6 @@
 #include "surface/canvas.h"
 #include "surface/canvas_view.h"
 #include "surface/frm_interface.h"
-#include "surface/library_icons.h"
 #include "surface/library_panel.h"
 #include "surface/panel_area.h"
 #include "surface/variable_tree.h"
@@ -104,11 +103,7 @@ void frmInterface::resetPanels()
     m_library->resetBar();
 }
 
-void frmInterface::GenerateIcons(platform::Progress &progress)
-{
-    surface::GenerateIcons(*this, m_context.folders, progress);
-    m_library->showFirstEntries();
-}
+void frmInterface::GenerateIcons(platform::Progress &progress) { m_library->GenerateIcons(progress); }
 
 void frmInterface::storeVisibility(PanelId id, bool visible)
 {

@@ -1,98 +1,132 @@
 #include "surface/library_icons.h"
 
 #include "controls/factories.h"
+#include "graphics/picture_loader.h"
 #include "platform/guards.h"
 #include "surface/overlay_picture.h"
 
-#include <algorithm>
+#include <QFileInfo>
 
 namespace surface {
 
+using controls::Box;
+using controls::OverlayControl;
+
 namespace {
 
-constexpr int PictureSide = 183; // pixels: 203 less the editing frame
+constexpr int PictureSide = 183;    // pixels: 203 less the editing frame
+constexpr int LargestControl = 146; // in it: the rest is margin
+constexpr QSize LargestShown(recorder::CanvasWidth, recorder::canvasHeight(recorder::VideoStandard::Pal));
 const QColor Plate(0x2f, 0x3b, 0x4a);
 
-// Hills under the sun.
-QImage samplePicture()
+// What the host tells a control counts, what the control tells the host does not: it stands nowhere.
+class Nowhere final : public controls::ControlHost
 {
-    QImage picture(104, 104, QImage::Format_RGB32);
-    picture.fill(QColor(0x8f, 0xc4, 0xe8));
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0xff, 0xd8, 0x4d));
-    painter.drawEllipse(68, 12, 24, 24);
-    painter.setBrush(QColor(0x3f, 0x8f, 0x5a));
-    painter.drawPolygon(QPolygon({{0, 104}, {0, 70}, {36, 34}, {104, 104}}));
-    painter.setBrush(QColor(0x2e, 0x6d, 0x45));
-    painter.drawPolygon(QPolygon({{30, 104}, {74, 56}, {104, 84}, {104, 104}}));
-    return picture;
+public:
+    explicit Nowhere(ControlHost &host) : m_host(host) {}
+
+    const platform::Screen &screen() const override { return m_host.screen(); }
+    const platform::NumberLocale &locale() const override { return m_host.locale(); }
+    platform::Prompts &prompts() override { return m_host.prompts(); }
+    const variables::Catalogue &catalogue() const override { return m_host.catalogue(); }
+    const platform::Folders &folders() const override { return m_host.folders(); }
+    recorder::VideoStandard VideoType() const override { return m_host.VideoType(); }
+    std::shared_ptr<const graphics::TextFont> textFont(const graphics::FontRequest &request,
+                                                       int usualSize) override
+    {
+        return m_host.textFont(request, usualSize);
+    }
+    std::shared_ptr<const graphics::OutlineFont> outlineFont(const QString &face,
+                                                             const graphics::FontStyle &style) override
+    {
+        return m_host.outlineFont(face, style);
+    }
+    void Reposition(OverlayControl &, QPointF) override {}
+    void restack(OverlayControl &, bool) override {}
+    void Copy(OverlayControl &, const QStringList &) override {}
+    void Cut(OverlayControl &, const QStringList &) override {}
+    void Delete(OverlayControl &) override {}
+    void showProperties(OverlayControl &) override {}
+    void UserControlChanged() override {}
+    void redrawControl(const OverlayControl &, const QRect &) override {}
+
+private:
+    ControlHost &m_host;
+};
+
+void setStartSize(OverlayControl &control, const Box &place)
+{
+    const QSizeF size = control.startSize();
+    control.setBox(
+        {place.Left, place.Top, static_cast<float>(size.width()), static_cast<float>(size.height())});
 }
 
-// So that there is something to see, the icon shows two thirds of the scale, black writing in white, and a
-// picture.
-void showWell(controls::OverlayControl &control)
+void moveTo(OverlayControl &control, QPoint corner)
 {
-    platform::skipFailures([&] { control.write("newForeColour", 0xFFFFFF); });
-    platform::skipFailures([&] {
-        const QImage picture = samplePicture();
-        QImage opaque(picture.size(), picture.format());
-        opaque.fill(Qt::white);
-        control.write("newSourceImg", picture);
-        control.write("newAlfaImg", opaque);
-    });
-    platform::skipFailures([&] {
-        const float low = std::get<float>(control.read("curMin"));
-        const float high = std::get<float>(control.read("curMax"));
-        control.write("newDefaultVal", low + (high - low) * 2 / 3);
-    });
+    const QPointF twips = control.host().screen().toTwips(QPointF(corner));
+    control.moveTo(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
+    control.updatePosition();
 }
 
-// The square round a control and a little more: small ones are shown larger.
-QRect withMargin(const QRect &control)
+// The control alone, as the recorder would draw it.
+QImage picture(OverlayControl &control)
 {
-    const int side = std::max(control.width(), control.height()) * 5 / 4;
-    QRect square(0, 0, side, side);
-    square.moveCenter(control.center());
-    return square;
+    moveTo(control, {0, 0});
+    moveTo(control, -control.area().topLeft());
+    QImage ground(control.area().size().boundedTo(LargestShown).expandedTo({1, 1}), QImage::Format_RGB32);
+    ground.fill(Plate);
+    return overlayPicture(ground, {&control});
 }
 
-QImage standardPicture(const controls::Family &family, controls::ControlHost &host)
+bool isUsual(const Box &box, const platform::Screen &screen)
 {
-    const auto control = controls::factoryOf(family.type)(family, host);
-    const float side = host.screen().toTwipsX(PictureSide);
-    const QSizeF start = control->startSize();
-    const auto width = static_cast<float>(start.width());
-    const auto height = static_cast<float>(start.height());
-    control->setBox({(side - width) / 2, (side - height) / 2, width, height});
-    control->applyInitialProperties();
-    const controls::Box box = control->box();
-    control->moveTo((side - box.Width) / 2, (side - box.Height) / 2);
-    control->updatePosition();
-    showWell(*control);
-
-    QImage plate(PictureSide, PictureSide, QImage::Format_RGB32);
-    plate.fill(Plate);
-    const QRect middle = withMargin(control->outerRect()) & plate.rect();
-    return overlayPicture(plate, {control.get()})
-        .copy(middle)
-        .scaled(plate.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const float most = screen.toTwipsX(graphics::MaxPictureSide) + controls::BothFrames;
+    return box.Width >= 0 && box.Width <= most && box.Height >= 0 && box.Height <= most;
 }
 
 } // namespace
 
-void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders,
-                   platform::Progress &progress)
+QImage libraryIcon(const controls::Family &family, controls::ControlHost &host, const IconFilling &fill)
 {
-    platform::ProgressScope scope(progress, QStringLiteral("Preparing the control library....."));
-    const std::span<const controls::Family> families = controls::families();
-    for (std::size_t i = 0; i < families.size(); ++i) {
-        const controls::Family &family = families[i];
-        platform::skipFailures([&] {
-            standardPicture(family, host).save(folders.cache + QLatin1String(family.iconFile), "BMP");
-        });
-        scope.advance(0, 100, static_cast<qsizetype>(i) + 1, static_cast<qsizetype>(families.size()));
+    Nowhere nowhere(host);
+    const auto control = controls::factoryOf(family.type)(family, nowhere);
+    setStartSize(*control, {});
+    fill(*control);
+    const QImage alone = picture(*control);
+    QRect place({}, alone.size().scaled(LargestControl, LargestControl, Qt::KeepAspectRatio));
+    QImage icon(PictureSide, PictureSide, QImage::Format_RGB32);
+    icon.fill(Plate);
+    place.moveCenter(icon.rect().center());
+    QPainter(&icon).drawImage(place.topLeft(),
+                              alone.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return icon;
+}
+
+void fillStandard(OverlayControl &control)
+{
+    control.applyInitialProperties();
+    control.showSample();
+}
+
+void fillConfigured(OverlayControl &control, const QStringList &texts)
+{
+    const Box place = control.box();
+    if (platform::skipFailures([&] { control.Deserialise(texts); }) &&
+        isUsual(control.box(), control.host().screen())) {
+        control.moveTo(place.Left, place.Top); // some texts hold another one
+        return;
+    }
+    setStartSize(control, place);
+    control.applyInitialProperties();
+}
+
+QString thumbnailName(const QString &folder, QDateTime now)
+{
+    for (;; now = now.addSecs(1)) {
+        const QString name = now.toString(QStringLiteral("yy")) + QString::number(now.date().dayOfYear()) +
+                             now.toString(QStringLiteral("hhmmss'.bmp'"));
+        if (!QFileInfo::exists(folder + name))
+            return name;
     }
 }
 

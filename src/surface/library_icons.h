@@ -1,14 +1,26 @@
 #pragma once
 
-#include "controls/control_host.h"
-#include "platform/folders.h"
-#include "platform/progress.h"
+#include "controls/overlay_control.h"
+
+#include <QDateTime>
+
+#include <functional>
 
 namespace surface {
 
-// Makes the standard thumbnail of each family, drawn from its initial properties, in the cache folder. What
-// cannot be written is left out.
-void GenerateIcons(controls::ControlHost &host, const platform::Folders &folders,
-                   platform::Progress &progress);
+using IconFilling = std::function<void(controls::OverlayControl &)>; // gives a control its properties
+
+// The picture of a control of this family that stands nowhere.
+QImage libraryIcon(const controls::Family &family, controls::ControlHost &host, const IconFilling &fill);
+
+// A new control, with something to show.
+void fillStandard(controls::OverlayControl &control);
+
+// Gives a fresh control a stored configuration where it stands; its initial properties where that cannot be
+// one.
+void fillConfigured(controls::OverlayControl &control, const QStringList &texts);
+
+// The name of a thumbnail that is made now, or of the next second whose name is free in this folder.
+QString thumbnailName(const QString &folder, QDateTime now);
 
 } // namespace surface

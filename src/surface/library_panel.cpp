@@ -1,10 +1,14 @@
 #include "surface/library_panel.h"
 
-#include "controls/families.h"
+#include "platform/desktop/art_icon.h"
+#include "platform/guards.h"
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
 #include "surface/panel.h"
+
+#include <QShortcut>
+#include <QTreeWidgetItemIterator>
 
 namespace surface {
 
@@ -15,24 +19,50 @@ constexpr int KeyRole = Qt::UserRole;
 constexpr QSize PictureSize(72, 72);
 constexpr int TreeShare = 1; // of the panel, beside the list
 constexpr int ListShare = 2;
-
 using Tree = DragSource<QTreeWidget, QTreeWidgetItem>;
 using List = DragSource<QListWidget, QListWidgetItem>;
 
+QString keyIn(const QTreeWidgetItem &item) { return item.data(0, KeyRole).toString(); }
+QString keyIn(const QListWidgetItem &item) { return item.data(KeyRole).toString(); }
+
+template <typename Source, typename Item>
+Source *makeView()
+{
+    return new Source(LibraryMime, [](const Item &item) { return keyIn(item); });
+}
+
+// Whether it is the key of a custom entry, and not of a family.
+bool isCustom(const QString &key)
+{
+    const controls::Family *family = controls::familyOfKey(key);
+    return family && key != QLatin1String(family->rootKey);
+}
+
+QIcon familyIcon(const char *art)
+{
+    return platform::artIcon(QStringLiteral("families/") + QLatin1String(art));
+}
+
+QTreeWidgetItem *newItem(const QString &key, const QString &text, const QIcon &icon)
+{
+    auto *item = new QTreeWidgetItem({text});
+    item->setData(0, KeyRole, key);
+    item->setIcon(0, icon);
+    item->setToolTip(0, text); // may be too long for the panel
+    return item;
+}
+
 } // namespace
 
-LibraryPanel::LibraryPanel(const platform::Folders &folders)
-    : QSplitter(Qt::Horizontal), m_folders(folders),
-      m_tree(new Tree(LibraryMime,
-                      [](const QTreeWidgetItem &item) { return item.data(0, KeyRole).toString(); })),
-      m_list(new List(LibraryMime, [](const QListWidgetItem &item) { return item.data(KeyRole).toString(); }))
+LibraryPanel::LibraryPanel(controls::ControlHost &host, const platform::Stamp &stamp)
+    : QSplitter(Qt::Horizontal), m_host(host), m_custom(host, stamp),
+      m_tree(makeView<Tree, QTreeWidgetItem>()), m_list(makeView<List, QListWidgetItem>())
 {
     setChildrenCollapsible(false);
     m_tree->setObjectName(QStringLiteral("trvControl"));
     m_tree->setAccessibleName(QStringLiteral("Control library"));
     m_tree->setHeaderHidden(true);
     m_tree->setIndentation(12);
-    m_tree->setFont(panelFont());
     m_list->setObjectName(QStringLiteral("lvControl"));
     m_list->setAccessibleName(QStringLiteral("Entries of the chosen kind"));
     m_list->setViewMode(QListView::IconMode);
@@ -41,32 +71,74 @@ LibraryPanel::LibraryPanel(const platform::Folders &folders)
     m_list->setMovement(QListView::Static);
     m_list->setDragEnabled(true); // out of the list, which the line above forbids as well
     m_list->setSpacing(4);
-    m_list->setFont(panelFont());
-    addWidget(m_tree);
-    addWidget(m_list);
+    connectView(static_cast<Tree &>(*m_tree));
+    connectView(static_cast<List &>(*m_list));
     setStretchFactor(0, TreeShare);
     setStretchFactor(1, ListShare);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &LibraryPanel::loadControlList);
-    connect(m_tree, &QTreeWidget::itemActivated, this,
-            [this](const QTreeWidgetItem *item) { emit activated(item->data(0, KeyRole).toString()); });
-    connect(m_list, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem *item) { emit activated(item->data(KeyRole).toString()); });
-    connect(m_tree, &QTreeWidget::itemPressed, this, &LibraryPanel::used);
-    connect(m_list, &QListWidget::itemPressed, this, &LibraryPanel::used);
+}
+
+// What both views have in common.
+template <typename View>
+void LibraryPanel::connectView(View &view)
+{
+    addWidget(&view);
+    view.setFont(panelFont());
+    connect(&view, &View::itemActivated, this, [this](const auto *item) { emit activated(keyIn(*item)); });
+    connect(&view, &View::itemPressed, this, &LibraryPanel::used);
+    view.setMenu([this](const auto &item, const QPoint &at) { showMenu(keyIn(item), at); });
+    const auto onKey = [&](Qt::Key key, void (LibraryPanel::*command)(const QString &)) {
+        auto *shortcut = new QShortcut(key, &view);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, &view, command] {
+            if (const auto *item = view.currentItem())
+                platform::reportFailures(m_host.prompts(), [&] { (this->*command)(keyIn(*item)); });
+        });
+    };
+    onKey(Qt::Key_Delete, &LibraryPanel::remove);
+    onKey(Qt::Key_F2, &LibraryPanel::rename);
 }
 
 void LibraryPanel::loadControlTree()
 {
     m_tree->clear();
     for (const controls::Family &family : controls::families()) {
-        auto *root = new QTreeWidgetItem(m_tree, {QLatin1String(family.caption)});
-        root->setData(0, KeyRole, QLatin1String(family.rootKey));
-        root->setIcon(0, QIcon(QStringLiteral(":/families/%1.png").arg(QLatin1String(family.art))));
-        root->setExpanded(true);
+        m_tree->addTopLevelItem(
+            newItem(QLatin1String(family.rootKey), QLatin1String(family.caption), familyIcon(family.art)));
+        loadEntries(family);
     }
+    m_tree->expandAll();
 }
 
-void LibraryPanel::showFirstEntries() { m_tree->setCurrentItem(m_tree->topLevelItem(0)); }
+QTreeWidgetItem *LibraryPanel::rootOf(const controls::Family &family) const
+{
+    return itemOf(QLatin1String(family.rootKey));
+}
+
+QTreeWidgetItem *LibraryPanel::itemOf(const QString &key) const
+{
+    for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
+        if (keyIn(**item) == key)
+            return *item;
+    }
+    return nullptr;
+}
+
+void LibraryPanel::loadEntries(const controls::Family &family)
+{
+    QTreeWidgetItem &root = *rootOf(family);
+    qDeleteAll(root.takeChildren());
+    const QIcon icon = familyIcon("entry");
+    for (const CustomEntry &entry : m_custom.entries(family))
+        root.addChild(newItem(entry.key, entry.name(), icon));
+}
+
+void LibraryPanel::GenerateIcons(platform::Progress &progress)
+{
+    m_custom.GenerateIcons(progress);
+    m_tree->setCurrentItem(m_tree->topLevelItem(0));
+    loadControlList();
+}
 
 void LibraryPanel::restoreBar(const platform::SettingsFile &file, const platform::Screen &screen)
 {
@@ -95,23 +167,96 @@ void LibraryPanel::saveBar(platform::SettingsFile &file, const platform::Screen 
     Bar.height.write(file, screen.pixelsToStored(bar.height()));
 }
 
-QString LibraryPanel::selectedKey() const
-{
-    const QTreeWidgetItem *item = m_tree->currentItem();
-    return item ? item->data(0, KeyRole).toString() : QString();
-}
-
 void LibraryPanel::loadControlList()
 {
     m_list->clear();
-    const QString key = selectedKey();
-    const controls::Family *family = controls::familyOfKey(key);
-    if (!family) // nothing is chosen
+    const QTreeWidgetItem *node = m_tree->currentItem();
+    if (!node)
         return;
-    // A picture that is missing leaves the entry without one.
-    const QPixmap picture(m_folders.cache + QLatin1String(family->iconFile));
-    auto *entry = new QListWidgetItem(QIcon(picture), QLatin1String(family->caption), m_list);
-    entry->setData(KeyRole, key);
+    const QString key = keyIn(*node);
+    const controls::Family &family = *controls::familyOfKey(key);
+    if (!isCustom(key))
+        addToList(key, QLatin1String(family.caption), QLatin1String(family.iconFile));
+    for (const CustomEntry &entry : m_custom.entries(family)) {
+        if (!isCustom(key) || entry.key == key)
+            addToList(entry.key, entry.name(), entry.thumbnail);
+    }
+}
+
+// A picture that is missing leaves the entry without one.
+void LibraryPanel::addToList(const QString &key, const QString &caption, const QString &thumbnail)
+{
+    const QPixmap picture(platform::nameWithin(m_host.folders().cache, thumbnail));
+    auto *item = new QListWidgetItem(QIcon(picture), caption, m_list);
+    item->setData(KeyRole, key);
+    item->setToolTip(caption);
+}
+
+void LibraryPanel::showMenu(const QString &key, const QPoint &globalPosition)
+{
+    if (!isCustom(key))
+        return;
+    m_menuKey = key;
+    emit menuRequested(globalPosition);
+}
+
+void LibraryPanel::mnuDefineCustom_Click(const controls::OverlayControl &control)
+{
+    const controls::Family &family = control.family();
+    const QString name =
+        m_host.prompts().input(platform::ProductTitle, QStringLiteral("Enter configuration name"), {});
+    const QString key = customKey(family, name.toLower());
+    if (name.trimmed().isEmpty())
+        return;
+    if (ControlNameExists(key)) {
+        m_host.prompts().message(platform::Icon::Critical, platform::ProductTitle,
+                                 QStringLiteral("Configuration name already exists"));
+        return;
+    }
+    m_custom.define(key, control);
+    loadEntries(family);
+    if (const QTreeWidgetItem *made = itemOf(key))
+        m_tree->scrollToItem(made);
+    loadControlList();
+}
+
+void LibraryPanel::rename(const QString &key)
+{
+    if (!isCustom(key))
+        return;
+    const controls::Family &family = *controls::familyOfKey(key);
+    const QString name = m_host.prompts().input(platform::ProductTitle,
+                                                QStringLiteral("Please eneter the control name"), key.mid(1));
+    const QString newKey = customKey(family, name);
+    if (name.trimmed().isEmpty())
+        return;
+    if (ControlNameExists(newKey)) {
+        m_host.prompts().message(platform::Icon::Critical, platform::ProductTitle,
+                                 QStringLiteral("Control name already exists"));
+        return;
+    }
+    m_custom.rename(key, newKey);
+    loadEntries(family);
+    m_tree->setCurrentItem(itemOf(newKey));
+}
+
+void LibraryPanel::remove(const QString &key)
+{
+    if (!isCustom(key) || !m_host.prompts().ask(platform::Icon::Question, platform::ProductTitle,
+                                                QStringLiteral("Are you sure you wish to delete ?")))
+        return;
+    const controls::Family &family = *controls::familyOfKey(key);
+    m_custom.remove(key);
+    loadEntries(family);
+    m_tree->setCurrentItem(rootOf(family));
+}
+
+void LibraryPanel::configure(controls::OverlayControl &control, const QString &key) const
+{
+    if (isCustom(key))
+        m_custom.configure(control, key);
+    else
+        control.applyInitialProperties();
 }
 
 } // namespace surface

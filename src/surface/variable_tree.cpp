@@ -1,5 +1,6 @@
 #include "surface/variable_tree.h"
 
+#include "platform/desktop/art_icon.h"
 #include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/drag_source.h"
@@ -18,7 +19,7 @@ const QIcon &VariableIcons::of(const char *art)
     const QLatin1String name(art);
     QIcon &icon = m_icons[name];
     if (icon.isNull())
-        icon = QIcon(QStringLiteral(":/variables/%1.png").arg(name));
+        icon = platform::artIcon(QStringLiteral("variables/") + name);
     return icon;
 }
 
