@@ -126,6 +126,37 @@ double Times::median() const
 
 double Times::best() const { return *std::min_element(m_seconds.begin(), m_seconds.end()); }
 
+Comparison measureSaves(benchmark::State &state, Program &program,
+                        const std::function<void(const QByteArray &)> &peer)
+{
+    program.files().mnuSaveConfig();
+    const QByteArray bytes = platform::readFile(program.savePath());
+    Comparison times;
+    while (state.KeepRunning()) {
+        state.SetIterationTime(times.own.measure([&] { program.files().mnuSaveConfig(); }));
+        times.peer.measure([&] { peer(bytes); });
+    }
+    state.counters["bytes"] = static_cast<double>(bytes.size());
+    return times;
+}
+
+Comparison measureLoads(benchmark::State &state, Program &writer, const std::function<void()> &peer)
+{
+    writer.files().mnuSaveConfig();
+    Comparison times;
+    while (state.KeepRunning()) {
+        Program reader;
+        state.SetIterationTime(times.own.measure([&] {
+            reader.files().load(writer.savePath());
+            QApplication::processEvents(); // what was loaded is painted
+        }));
+        times.peer.measure(peer);
+        if (reader.design().controls().size() != writer.design().controls().size())
+            state.SkipWithError("controls are missing");
+    }
+    return times;
+}
+
 void stateLimit(benchmark::State &state, const Times &own, double milliseconds)
 {
     state.counters["best_ms"] = own.best() * 1e3;

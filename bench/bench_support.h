@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -105,6 +106,20 @@ protected:
 private:
     int m_paints = 0;
 };
+
+// What a task and its peer took, in turn.
+struct Comparison
+{
+    Times own;
+    Times peer;
+};
+
+// Saves the design again and again; `peer` is to do its part with the same bytes.
+Comparison measureSaves(benchmark::State &state, Program &program,
+                        const std::function<void(const QByteArray &)> &peer);
+
+// Loads what `writer` saves into one fresh program after the other, until it is painted.
+Comparison measureLoads(benchmark::State &state, Program &writer, const std::function<void()> &peer);
 
 // Puts the limit beside the benchmark's time; the label says whether the median keeps it.
 void stateLimit(benchmark::State &state, const Times &own, double milliseconds);

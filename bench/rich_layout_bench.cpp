@@ -16,7 +16,6 @@
 namespace {
 
 using bench::Program;
-using bench::Times;
 using controls::ControlType;
 
 constexpr double MostOfWriting = 2;
@@ -100,43 +99,23 @@ void saveRichLayout(benchmark::State &state)
 {
     Program program;
     addAll(program);
-    program.files().mnuSaveConfig();
-    const QByteArray bytes = platform::readFile(program.savePath());
-    Times own;
-    Times peer;
-    while (state.KeepRunning()) {
-        state.SetIterationTime(own.measure([&] { program.files().mnuSaveConfig(); }));
-        peer.measure([&] {
-            benchmark::DoNotOptimize(layoutfile::modCRC(bytes));
-            platform::replaceFile(program.savePath(), bytes);
-        });
-    }
+    const auto [own, peer] = bench::measureSaves(state, program, [&](const QByteArray &bytes) {
+        benchmark::DoNotOptimize(layoutfile::modCRC(bytes));
+        platform::replaceFile(program.savePath(), bytes);
+    });
     bench::stateLimit(state, own, MostOfWriting * peer.median() * 1e3);
     bench::statePeer(state, own, peer);
-    state.counters["bytes"] = static_cast<double>(bytes.size());
 }
 
 void loadRichLayout(benchmark::State &state)
 {
     Program writer;
     addAll(writer);
-    writer.files().mnuSaveConfig();
     const std::vector<graphics::Planes> planes = planesOf(writer);
-    Times own;
-    Times peer;
-    while (state.KeepRunning()) {
-        Program reader;
-        state.SetIterationTime(own.measure([&] {
-            reader.files().load(writer.savePath());
-            QApplication::processEvents(); // what was loaded is painted
-        }));
-        peer.measure([&] {
-            for (const graphics::Planes &picture : planes)
-                benchmark::DoNotOptimize(graphics::toPicture(picture));
-        });
-        if (reader.design().controls().size() != writer.design().controls().size())
-            state.SkipWithError("controls are missing");
-    }
+    const auto [own, peer] = bench::measureLoads(state, writer, [&] {
+        for (const graphics::Planes &picture : planes)
+            benchmark::DoNotOptimize(graphics::toPicture(picture));
+    });
     bench::stateLimit(state, own, std::min(LoadMs, MostOfDecoding * peer.median() * 1e3));
     bench::statePeer(state, own, peer);
 }

@@ -31,18 +31,11 @@ void saveLayout(benchmark::State &state)
     const int controls = static_cast<int>(state.range(0));
     Program program;
     program.addControls(controls);
-    program.files().mnuSaveConfig();
-    const QByteArray bytes = platform::readFile(program.savePath());
-    Times own;
-    Times peer;
-    for (auto _ : state) {
-        state.SetIterationTime(own.measure([&] { program.files().mnuSaveConfig(); }));
-        peer.measure([&] { platform::replaceFile(program.savePath(), bytes); });
-    }
+    const auto [own, peer] = bench::measureSaves(
+        state, program, [&](const QByteArray &bytes) { platform::replaceFile(program.savePath(), bytes); });
     const double limit = controls == Few ? peer.median() * 1e3 + MoreThanWritingMs : SaveManyMs;
     bench::stateLimit(state, own, limit);
     bench::statePeer(state, own, peer);
-    state.counters["bytes"] = static_cast<double>(bytes.size());
 }
 
 void loadLayout(benchmark::State &state)
@@ -50,18 +43,8 @@ void loadLayout(benchmark::State &state)
     const int controls = static_cast<int>(state.range(0));
     Program writer;
     writer.addControls(controls);
-    writer.files().mnuSaveConfig();
-    Times times;
-    for (auto _ : state) {
-        Program reader;
-        state.SetIterationTime(times.measure([&] {
-            reader.files().load(writer.savePath());
-            QApplication::processEvents(); // what was loaded is painted
-        }));
-        if (reader.design().controls().size() != controls)
-            state.SkipWithError("controls are missing");
-    }
-    bench::stateLimit(state, times, controls == Few ? LoadFewMs : LoadManyMs);
+    bench::stateLimit(state, bench::measureLoads(state, writer, [] {}).own,
+                      controls == Few ? LoadFewMs : LoadManyMs);
 }
 
 // What one control costs in each task.

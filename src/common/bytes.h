@@ -24,6 +24,12 @@ public:
     // A fixed text field of `width` bytes: at most width - 1 characters in the code page, one NUL, then
     // blanks.
     void putFixedText(const QByteArray &codePageText, int width);
+    // Puts the value over what stands at `place`, which must hold as many bytes.
+    template <Scalar T>
+    void putOver(qsizetype place, T value)
+    {
+        m_bytes.replace(place, sizeof value, reinterpret_cast<const char *>(&value), sizeof value);
+    }
 
     qsizetype size() const { return m_bytes.size(); }
     const QByteArray &bytes() const { return m_bytes; }

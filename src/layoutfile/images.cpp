@@ -34,7 +34,8 @@ StoredImage takeImage(common::ByteReader &planes, const BitmapRecord &bitmap, in
 void ImageList::add(const graphics::PlanePicture &image)
 {
     const graphics::Planes &colours = image.planes();
-    m_planes += colours.y + colours.u + colours.v + image.alpha().values;
+    for (const QByteArray &plane : {colours.y, colours.u, colours.v, image.alpha().values})
+        m_planes += plane;
 }
 
 void ImageList::addRecord(RecordGroups &groups) const

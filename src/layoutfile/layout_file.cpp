@@ -78,13 +78,15 @@ quint16 recordSum(const QByteArray &file, qsizetype statedSize)
 
 void putRecord(ByteWriter &out, const LayoutRecord &record)
 {
-    const QByteArray payload = encodePayload(record.body);
-    const qint32 size = statedSize(record.body, payload.size());
     out.put(Sync);
     out.put(static_cast<qint16>(record.type()));
-    out.put(size);
+    const qsizetype placeOfSize = out.size();
+    out.put(qint32{});
     out.put(record.object);
-    out.put(QByteArrayView(payload));
+    const qsizetype begin = out.size();
+    encodePayload(record.body, out);
+    const qint32 size = statedSize(record.body, out.size() - begin);
+    out.putOver(placeOfSize, size);
     out.put(recordSum(out.bytes(), size));
 }
 

@@ -146,8 +146,13 @@ RecordType LayoutRecord::type() const
 QByteArray encodePayload(const RecordBody &body)
 {
     ByteWriter writer;
-    std::visit([&](const auto &record) { record.visit(record, FieldWriter(writer)); }, body);
+    encodePayload(body, writer);
     return writer.bytes();
+}
+
+void encodePayload(const RecordBody &body, ByteWriter &out)
+{
+    std::visit([&](const auto &record) { record.visit(record, FieldWriter(out)); }, body);
 }
 
 qint32 statedSize(const RecordBody &body, qsizetype payloadSize)

@@ -23,8 +23,9 @@ struct LayoutRecord
     RecordType type() const;
 };
 
-// The payload's bytes.
+// The payload's bytes, by themselves or at the end of what `out` holds.
 QByteArray encodePayload(const RecordBody &body);
+void encodePayload(const RecordBody &body, common::ByteWriter &out);
 
 // The length that the frame states for a payload: its own, but for the two types whose stated size is off on
 // purpose (special icon and custom dial).
