@@ -1,10 +1,8 @@
 #include "graphics/modDrawFont.h"
 
-#include "common/canvas_size.h"
 #include "common/colour.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace graphics {
 
@@ -72,18 +70,6 @@ void drawGlyph(const Glyph &glyph, int left, int top, const Ink &ink, const Pixe
     }
 }
 
-void fillLine(const QImage &background, const QRect &line, QImage &surface)
-{
-    const QRect area = line & surface.rect() & background.rect();
-    if (area.isEmpty())
-        return;
-    const QImage source = background.convertToFormat(surface.format());
-    const auto bytes = static_cast<std::size_t>(area.width()) * sizeof(quint32);
-    const qsizetype start = area.left() * static_cast<qsizetype>(sizeof(quint32));
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        std::memcpy(surface.scanLine(y) + start, source.constScanLine(y) + start, bytes);
-}
-
 } // namespace
 
 TextExtent drawText(const TextFont &font, const QString &text, const TextLook &look, QImage &surface)
@@ -92,9 +78,6 @@ TextExtent drawText(const TextFont &font, const QString &text, const TextLook &l
         surface.convertTo(QImage::Format_RGB32);
     const int top = look.position.y();
     int pen = look.position.x();
-    if (look.background)
-        fillLine(*look.background, QRect(pen, top, std::max(common::CanvasWidth - pen, 0), font.lineHeight()),
-                 surface);
     const Ink ink{common::toPixel(look.colour), look.opacity};
     const Pixels pixels(surface);
     for (const QChar character : text) {

@@ -14,7 +14,6 @@ struct TextLook
     QPoint position;    // pixels: where the pen starts, and the top of the line
     quint32 colour = 0; // 0x00BBGGRR
     quint8 opacity = 255;
-    const QImage *background = nullptr; // of the whole picture; fills the line first when it is given
 };
 
 // Pixels: where the pen stands at the end (the start included), and the line height.

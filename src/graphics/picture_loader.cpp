@@ -9,7 +9,7 @@
 #include <QImageReader>
 
 #include <algorithm>
-#include <vector>
+#include <array>
 
 namespace graphics {
 
@@ -119,23 +119,6 @@ QByteArray bmpOf(const QImage &picture)
     QBuffer buffer;
     picture.save(&buffer, "BMP");
     return buffer.data();
-}
-
-QImage sampled(const QImage &picture, QSize size)
-{
-    if (picture.isNull() || size.isEmpty())
-        return {};
-    const QImage source = withPixels(picture);
-    QImage result(size, source.format());
-    std::vector<int> columns(static_cast<std::size_t>(size.width()));
-    for (int x = 0; x < size.width(); ++x)
-        columns[static_cast<std::size_t>(x)] = static_cast<int>(qint64{x} * source.width() / size.width());
-    for (int y = 0; y < result.height(); ++y) {
-        const QRgb *from = pixelsOf(source, static_cast<int>(qint64{y} * source.height() / size.height()));
-        std::transform(columns.begin(), columns.end(), pixelsOf(result, y),
-                       [from](int column) { return from[column]; });
-    }
-    return result;
 }
 
 } // namespace graphics

@@ -36,9 +36,4 @@ LoadedPicture loadPicture(const QString &path);
 // The picture as a .bmp file.
 QByteArray bmpOf(const QImage &picture);
 
-// The picture brought to a size by picking, for each pixel at (x, y), the one at (x * W / w, y * H / h)
-// rounded down, all channels alike; nothing is mixed, so no colours appear that were not there. A null image
-// where either size is empty.
-QImage sampled(const QImage &picture, QSize size);
-
 } // namespace graphics
