@@ -5,6 +5,7 @@
 
 #include <QDialogButtonBox>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QSet>
 
 #include <algorithm>
@@ -237,6 +238,14 @@ void Dialog::setTabs()
                 next(beside);
         }
     }
+}
+
+void Dialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    auto *box = m_fields.empty() ? nullptr : qobject_cast<QLineEdit *>(&m_fields.front()->widget());
+    if (box)
+        box->selectAll();
 }
 
 void Dialog::press(Press press)

@@ -104,6 +104,8 @@ protected:
     void addButtons(const std::vector<Button> &buttons);
     QPushButton &button(const char *name) const;
 
+    // What stands in the first box can be typed over.
+    void showEvent(QShowEvent *event) override;
     // The first verdict that applies; nothing when all is well.
     virtual std::optional<Verdict> validate(const Typed &) const { return std::nullopt; }
     // Converts every field and only then sets the values. Throws RunTimeError when one does not fit.
