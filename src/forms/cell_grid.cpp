@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QStyledItemDelegate>
 
 #include <utility>
@@ -22,6 +23,12 @@ void nameEditor(QWidget &editor, const QString &name, const QModelIndex &index)
     const QString header = index.model()->headerData(index.column(), Qt::Horizontal).toString();
     editor.setObjectName(name);
     editor.setAccessibleName(QStringLiteral("%1, row %2").arg(header).arg(index.row() + 1));
+}
+
+bool isLeftClick(const QEvent *event)
+{
+    return event && event->type() == QEvent::MouseButtonRelease &&
+           static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
 }
 
 // Tells when its rows are put away, one of them chosen or not.
@@ -152,7 +159,7 @@ void CellGrid::chooseFirst()
 // The base asks here for every click and key, so that a tick box in a cell gets its own first.
 bool CellGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    if (event && event->type() == QEvent::MouseButtonRelease)
+    if (isLeftClick(event))
         trigger = EditKeyPressed;
     else if (trigger == AnyKeyPressed && !m_numbers.contains(index.column()))
         trigger = NoEditTriggers;
@@ -166,6 +173,14 @@ bool CellGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event
         list->showPopup();
     }
     return taken;
+}
+
+void CellGrid::finishEditing()
+{
+    if (QWidget *editor = indexWidget(currentIndex())) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 // Enter in a text box goes on to the row below.

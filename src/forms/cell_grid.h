@@ -25,6 +25,9 @@ public:
     // A text box for numbers. Typing opens it as well.
     void setNumber(int column, const char *name, const QString &decimalMark);
 
+    // Stores what stands in an open editor, which closes.
+    void finishEditing();
+
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
