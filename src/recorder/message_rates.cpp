@@ -14,6 +14,9 @@ constexpr quint8 codeOf(RateCode rate) { return static_cast<quint8>(rate); }
 constexpr quint8 On = codeOf(RateCode::Hz100);
 constexpr quint8 Off = codeOf(RateCode::Disabled);
 
+constexpr std::array StreamRates{"100Hz", "50Hz",  "25Hz",  "10Hz",  "5Hz",
+                                 "1Hz",   "0.5Hz", "0.2Hz", "0.1Hz", "Disabled"};
+
 struct MessageRate
 {
     quint8 number;
@@ -46,18 +49,17 @@ std::optional<int> firstRow(const MessageTable &table, int from, Condition holds
 forms::Choices rateChoices(quint8 kind)
 {
     if (kind != Stream)
-        return {{QStringLiteral("On"), On}, {QStringLiteral("Off"), Off}};
-    return forms::numbered(
-        std::array{"100Hz", "50Hz", "25Hz", "10Hz", "5Hz", "1Hz", "0.5Hz", "0.2Hz", "0.1Hz", "Disabled"});
+        return {{rateText(On, kind), On}, {rateText(Off, kind), Off}};
+    return forms::numbered(StreamRates);
 }
 
 quint8 rateChoice(quint8 rate, quint8 kind) { return kind == Stream || rate == Off ? rate : On; }
 
 QString rateText(quint8 rate, quint8 kind)
 {
-    const forms::Choices choices = rateChoices(kind);
-    const auto choice = std::ranges::find(choices, int{rateChoice(rate, kind)}, &forms::Choice::value);
-    return choice == choices.end() ? QString() : choice->text;
+    if (kind != Stream)
+        return rate == Off ? QStringLiteral("Off") : QStringLiteral("On");
+    return rate < StreamRates.size() ? QString::fromLatin1(StreamRates.at(rate)) : QString();
 }
 
 void setStorageToMaximum(MessageTable &table)

@@ -4,10 +4,13 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 namespace recorder {
 
 namespace {
+
+constexpr int HeaderPadding = 12; // pixels
 
 // Of a column that shows one.
 quint8 MessageEntry::*rateOf(int column)
@@ -74,12 +77,24 @@ MessageGrid::MessageGrid(const MessageTable &table) : CellGrid("grdInput", new M
             return rateChoices(messages().table()[static_cast<std::size_t>(row)].kind);
         });
     }
-    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    horizontalHeader()->setSectionResizeMode(MessageModel::Name, QHeaderView::Stretch);
+    // By their headers, since it takes long to measure all cells.
+    for (const int column : {MessageModel::Number, MessageModel::Storage, MessageModel::Output}) {
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+        setColumnWidth(column, horizontalHeader()->sectionSizeHint(column) + HeaderPadding);
+    }
     setAlternatingRowColors(true);
     m_pause.setSingleShot(true);
     m_pause.setInterval(QApplication::keyboardInputInterval());
     m_pause.callOnTimeout(this, [this] { m_typed.clear(); });
+}
+
+// A blank within what is typed is a part of it.
+void MessageGrid::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space && !m_typed.isEmpty())
+        keyboardSearch(event->text());
+    else
+        CellGrid::keyPressEvent(event);
 }
 
 void MessageGrid::keyboardSearch(const QString &text)

@@ -40,6 +40,9 @@ public:
     MessageModel &messages() const { return static_cast<MessageModel &>(*model()); }
     void keyboardSearch(const QString &text) override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QString m_typed; // so far
     QTimer m_pause;  // after which a new text begins
