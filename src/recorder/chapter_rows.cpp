@@ -52,10 +52,4 @@ QString chapterTypeText(quint8 type) { return QStringLiteral("%1").arg(type + 1,
 
 QString signText(quint8 sign) { return sign == 0 ? QStringLiteral("<") : QStringLiteral("<="); }
 
-QString variableName(qint32 variable, const variables::VariableTable &table)
-{
-    const bool isSlot = variable > 0 && variable < variables::NotFound && variable < table.size();
-    return isSlot && table[variable].IndexNumber != 0 ? table[variable].DisplayName : QString();
-}
-
 } // namespace recorder

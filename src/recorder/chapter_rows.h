@@ -2,7 +2,7 @@
 
 #include "recorder/number_cell.h"
 #include "recorder/recorder_settings.h"
-#include "variables/catalogue.h"
+#include "recorder/variable_list.h"
 
 #include <optional>
 
@@ -38,7 +38,5 @@ void removeTicked(ChapterRows &rows);
 // "01" to "10".
 QString chapterTypeText(quint8 type);
 QString signText(quint8 sign);
-// Empty for one that is not in the catalogue.
-QString variableName(qint32 variable, const variables::VariableTable &table);
 
 } // namespace recorder

@@ -1,7 +1,5 @@
 #include "recorder/dialogs/chapter_grid.h"
 
-#include "variables/variable_choices.h"
-
 #include <QHeaderView>
 
 namespace recorder {
@@ -158,9 +156,7 @@ ChapterGrid::ChapterGrid(const std::vector<ChapterCondition> &conditions,
     for (const int column : {ChapterModel::Value1, ChapterModel::Value2})
         setNumber(column, "txtValue", decimalMark);
     setList(ChapterModel::Variable, "cmbVariable", [this, &table](int row) {
-        const qint32 stored = rows()[static_cast<std::size_t>(row)].variable;
-        return variables::variableChoices(table, &variables::VariableRecord::Enabled,
-                                          variableName(stored, table).isEmpty() ? 0 : stored);
+        return enabledVariables(table, rows()[static_cast<std::size_t>(row)].variable);
     });
     horizontalHeader()->setMinimumSectionSize(NarrowestColumn);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

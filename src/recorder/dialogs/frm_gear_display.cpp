@@ -3,7 +3,6 @@
 #include "forms/numeric_keys.h"
 #include "platform/guards.h"
 #include "recorder/dialogs/frm_gear_ratios.h"
-#include "variables/variable_choices.h"
 
 #include <QHeaderView>
 
@@ -13,11 +12,12 @@ namespace {
 
 constexpr quint8 SensorMethod = 1;
 constexpr quint8 SensorOption = 0;
+constexpr quint8 SpeedOption = 1;
 
 GearSetup setupOf(const RecorderSettings &settings)
 {
     const bool bySensor = settings.GearMethod == SensorMethod;
-    return {QString::number(settings.GearTable.size()), static_cast<quint8>(bySensor ? 0 : 1),
+    return {QString::number(settings.GearTable.size()), bySensor ? SensorOption : SpeedOption,
             settings.GearVariable};
 }
 
@@ -34,11 +34,11 @@ std::optional<forms::Verdict> validateGears(const forms::Typed &typed)
 frmGearDisplay::frmGearDisplay(RecorderSettings &settings, const variables::VariableTable &table,
                                const forms::Context &context)
     : DialogOf(QStringLiteral("Gear indicator setup"), setupOf(settings), context), m_settings(settings),
-      m_grid(new GearGrid(decimalMark())),
+      m_table(table), m_grid(new GearGrid(decimalMark())),
       m_chart(new SpanChart("picBands", QStringLiteral("Bands of the gears"), static_cast<int>(MostGears)))
 {
     addGroup("Method");
-    addMethod(table);
+    addMethod();
     addGroup("Gears");
     addCount();
     addLimits();
@@ -47,15 +47,14 @@ frmGearDisplay::frmGearDisplay(RecorderSettings &settings, const variables::Vari
     setTabOrder(&m_count->box(), m_grid);
 }
 
-void frmGearDisplay::addMethod(const variables::VariableTable &table)
+void frmGearDisplay::addMethod()
 {
     using V = GearSetup;
     const auto &method = options(&V::option, "",
                                  {{"GearMethodOption_0", "Calculate gear based on gearbox &sensor"},
                                   {"GearMethodOption_1", "Calculate gear based on speed and R&PM"}});
     auto &variable =
-        choice(&V::variable, {"cmbVarID", "&Variable"},
-               variables::variableChoices(table, &variables::VariableRecord::Enabled, kept().variable));
+        choice(&V::variable, {"cmbVarID", "&Variable"}, enabledVariables(m_table, kept().variable));
     QPushButton *ratios =
         makeButton("cmdGearRatio", "Click here to calculate from gear &ratios", [this] { askForRatios(); });
     addWide(ratios);
@@ -99,11 +98,10 @@ void frmGearDisplay::takeCount()
         m_grid->gears().setCount(*count);
 }
 
-// Once the box is left. Enter stays there and asks OK, which complains itself; on the way to Cancel nobody
-// needs to be told.
+// Once the box is left. Enter stays there and asks OK, which complains itself; who cancels need not be told.
 void frmGearDisplay::complainOfCount()
 {
-    if (!isActiveWindow() || m_count->box().hasFocus() || button("cmdCancel").hasFocus())
+    if (!isVisible() || !isActiveWindow() || m_count->box().hasFocus() || button("cmdCancel").hasFocus())
         return;
     if (const auto verdict = validate(typed())) {
         prompts().message(verdict->icon, platform::ProductTitle, verdict->text);
@@ -132,8 +130,9 @@ void frmGearDisplay::drawChart()
 void frmGearDisplay::set(GearSetup &setup)
 {
     const bool bySensor = setup.option == SensorOption;
-    if (bySensor && setup.variable == 0)
+    if (bySensor && variableName(setup.variable, m_table).isEmpty())
         throw common::RunTimeError(QStringLiteral("No variable is chosen for the gearbox sensor"));
+    m_grid->finishEditing();
     m_settings.GearTable = m_grid->gears().limits();
     m_settings.GearVariable = bySensor ? setup.variable : 0;
     m_settings.GearMethod = bySensor ? SensorMethod : 0;

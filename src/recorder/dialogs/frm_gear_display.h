@@ -4,7 +4,7 @@
 #include "recorder/dialogs/gear_grid.h"
 #include "recorder/dialogs/span_chart.h"
 #include "recorder/gear_bands.h"
-#include "variables/catalogue.h"
+#include "recorder/variable_list.h"
 
 namespace recorder {
 
@@ -12,7 +12,7 @@ namespace recorder {
 struct GearSetup
 {
     QString count;
-    quint8 option = 0; // 0 gearbox sensor, 1 speed and engine speed
+    quint8 option = 0; // row of the methods
     qint32 variable = 0;
 };
 
@@ -25,6 +25,7 @@ class frmGearDisplay final : public forms::DialogOf<GearSetup>
 public:
     frmGearDisplay(RecorderSettings &settings, const variables::VariableTable &table,
                    const forms::Context &context);
+    ~frmGearDisplay() override { hide(); } // takes the focus away while there is a window to tell of it
 
 protected:
     std::optional<forms::Verdict> validate(const forms::Typed &typed) const override
@@ -35,7 +36,7 @@ protected:
 
 private:
     void addCount();
-    void addMethod(const variables::VariableTable &table);
+    void addMethod();
     void addLimits();
     void takeCount();
     void complainOfCount();
@@ -43,6 +44,7 @@ private:
     void drawChart();
 
     RecorderSettings &m_settings;
+    const variables::VariableTable &m_table;
     GearRatios m_ratios; // as entered last
     GearGrid *m_grid;
     SpanChart *m_chart;

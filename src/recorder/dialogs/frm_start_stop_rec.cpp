@@ -1,6 +1,6 @@
 #include "recorder/dialogs/frm_start_stop_rec.h"
 
-#include "variables/variable_choices.h"
+#include "recorder/variable_list.h"
 
 #include <array>
 
@@ -53,10 +53,7 @@ frmStartStopRec::Rows frmStartStopRec::addRows(const TriggerNames &names, Record
 {
     if (trigger.variable == 0)
         trigger.variable = FirstVariable;
-    const Rows rows{trigger,
-                    add<forms::ListField>(
-                        names.variable, variables::variableChoices(table, &variables::VariableRecord::Enabled,
-                                                                   trigger.variable)),
+    const Rows rows{trigger, add<forms::ListField>(names.variable, enabledVariables(table, trigger.variable)),
                     add<forms::ListField>(names.condition, forms::numbered(Conditions)),
                     add<forms::NumberField>(names.value, decimalMark()),
                     add<forms::NumberField>(names.time, decimalMark())};
