@@ -118,8 +118,8 @@ bool PointGrid::keyPressed(const QKeyEvent &event)
     return blockKeyPressed(event) || EditGrid::keyPressed(event);
 }
 
-// The keys of the popup menu. Within a single cell the edit box does as every
-// edit box does, but a paste always fills cells.
+// The keys of the popup menu. Within a single cell the edit box does as every edit box does, but a paste
+// always fills cells.
 bool PointGrid::blockKeyPressed(const QKeyEvent &event)
 {
     if (event.matches(QKeySequence::Paste)) {

@@ -7,36 +7,35 @@
 
 namespace variables {
 
-// A grid of numbers with its edit box, txtCell. With Shift, and with the mouse,
-// a block is selected. The popup menu mnuPop cuts, copies, pastes and deletes
-// blocks by way of the clipboard.
-class PointGrid final : public forms::EditGrid {
-  Q_OBJECT
+// A grid of numbers with its edit box, txtCell. With Shift, and with the mouse, a block is selected. The
+// popup menu mnuPop cuts, copies, pastes and deletes blocks by way of the clipboard.
+class PointGrid final : public forms::EditGrid
+{
+    Q_OBJECT
 
 public:
-  PointGrid(int rows, const QStringList &headers,
-            const QString &decimalSeparator);
+    PointGrid(int rows, const QStringList &headers, const QString &decimalSeparator);
 
 protected:
-  bool eventFilter(QObject *watched, QEvent *event) override;
-  void contextMenuEvent(QContextMenuEvent *event) override;
-  bool keyPressed(const QKeyEvent &event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    bool keyPressed(const QKeyEvent &event) override;
 
 private:
-  void addEntry(const char *name, const QString &text,
-                QKeySequence::StandardKey key, void (PointGrid::*handler)());
-  bool blockKeyPressed(const QKeyEvent &event);
-  void extendBy(int rows, int columns);
-  void extendTo(const QModelIndex &corner);
+    void addEntry(const char *name, const QString &text, QKeySequence::StandardKey key,
+                  void (PointGrid::*handler)());
+    bool blockKeyPressed(const QKeyEvent &event);
+    void extendBy(int rows, int columns);
+    void extendTo(const QModelIndex &corner);
 
-  QTableWidgetSelectionRange block() const;
-  void fill(int top, int left, const QList<QStringList> &rows);
-  void cut();
-  void copy();
-  void paste();
-  void deleteBlock();
+    QTableWidgetSelectionRange block() const;
+    void fill(int top, int left, const QList<QStringList> &rows);
+    void cut();
+    void copy();
+    void paste();
+    void deleteBlock();
 
-  QMenu *m_menu; // mnuPop
+    QMenu *m_menu; // mnuPop
 };
 
 } // namespace variables
