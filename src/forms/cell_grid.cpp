@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
@@ -14,8 +15,7 @@ namespace forms {
 
 namespace {
 
-constexpr int LongestList = 20; // rows, before it is scrolled
-constexpr int RowPadding = 10;  // pixels
+constexpr int RowPadding = 10; // pixels
 
 // Name, and what a screen reader says of it.
 void nameEditor(QWidget &editor, const QString &name, const QModelIndex &index)
@@ -25,10 +25,12 @@ void nameEditor(QWidget &editor, const QString &name, const QModelIndex &index)
     editor.setAccessibleName(QStringLiteral("%1, row %2").arg(header).arg(index.row() + 1));
 }
 
-bool isLeftClick(const QEvent *event)
+bool isPlainClick(const QEvent *event)
 {
-    return event && event->type() == QEvent::MouseButtonRelease &&
-           static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
+    if (!event || event->type() != QEvent::MouseButtonRelease)
+        return false;
+    const auto *mouse = static_cast<const QMouseEvent *>(event);
+    return mouse->button() == Qt::LeftButton && mouse->modifiers() == Qt::NoModifier;
 }
 
 // Tells when its rows are put away, one of them chosen or not.
@@ -39,7 +41,6 @@ public:
     {
         for (const Choice &choice : choices)
             addItem(choice.text, choice.value);
-        setMaxVisibleItems(LongestList);
     }
 
     void whenShut(std::function<void()> callback) { m_whenShut = std::move(callback); }
@@ -74,12 +75,7 @@ public:
         auto *list = static_cast<OpenList *>(editor);
         list->setCurrentIndex(list->findData(index.data(Qt::EditRole)));
     }
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
-    {
-        const auto *list = static_cast<OpenList *>(editor);
-        if (list->currentIndex() >= 0)
-            model->setData(index, list->currentData());
-    }
+    void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override {} // see follow()
 
 private:
     QString m_name;
@@ -102,6 +98,12 @@ public:
         new NumericKeys(box, m_decimalMark);
         nameEditor(*box, m_name, index);
         return box;
+    }
+    // What is typed comes back from the model.
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override
+    {
+        if (static_cast<QLineEdit *>(editor)->text() != index.data(Qt::EditRole).toString())
+            QStyledItemDelegate::setEditorData(editor, index);
     }
 
 protected:
@@ -159,35 +161,42 @@ void CellGrid::chooseFirst()
 // The base asks here for every click and key, so that a tick box in a cell gets its own first.
 bool CellGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    if (isLeftClick(event))
+    if (isPlainClick(event))
         trigger = EditKeyPressed;
     else if (trigger == AnyKeyPressed && !m_numbers.contains(index.column()))
         trigger = NoEditTriggers;
-    const bool taken = QTableView::edit(index, trigger, event);
-    if (auto *list = dynamic_cast<OpenList *>(indexWidget(index))) {
-        connect(list, &QComboBox::activated, this, [this, list] { commitData(list); });
+    const QWidget *before = indexWidget(index);
+    const bool isTaken = QTableView::edit(index, trigger, event);
+    QWidget *editor = indexWidget(index);
+    if (editor != before)
+        follow(editor, index);
+    return isTaken;
+}
+
+void CellGrid::follow(QWidget *editor, const QPersistentModelIndex &index)
+{
+    m_before = index.data(Qt::EditRole);
+    if (auto *box = qobject_cast<QLineEdit *>(editor)) {
+        connect(box, &QLineEdit::textEdited, this, [this, box] { commitData(box); });
+    } else if (auto *list = dynamic_cast<OpenList *>(editor)) {
+        connect(list, &QComboBox::activated, this,
+                [this, list, index] { model()->setData(index, list->currentData()); });
         list->whenShut([this, list] {
             if (list->isVisible())
                 closeEditor(list, QAbstractItemDelegate::NoHint);
         });
         list->showPopup();
     }
-    return taken;
-}
-
-void CellGrid::finishEditing()
-{
-    if (QWidget *editor = indexWidget(currentIndex())) {
-        commitData(editor);
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
-    }
 }
 
 // Enter in a text box goes on to the row below.
 void CellGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    const QModelIndex below = currentIndex().siblingAtRow(currentIndex().row() + 1);
+    const QPersistentModelIndex cell = currentIndex();
     QTableView::closeEditor(editor, hint);
+    if (hint == QAbstractItemDelegate::RevertModelCache)
+        model()->setData(cell, m_before);
+    const QModelIndex below = cell.sibling(cell.row() + 1, cell.column());
     if (hint == QAbstractItemDelegate::SubmitModelCache && below.isValid())
         setCurrentIndex(below);
 }

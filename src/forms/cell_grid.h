@@ -9,9 +9,9 @@
 namespace forms {
 
 // A grid that edits one cell at a time: a click, Enter or F2 opens the editor of its column over the cell, a
-// list at once with its rows. A choice or Enter closes the editor and stores what stands in it, Escape only
-// closes it. The model says which cells are edited; what a list stores is the value of the chosen row, as is
-// what it asks for as Qt::EditRole.
+// list at once with its rows. Of a list only a choice is stored; what is typed in a box is in the model at
+// once, and Escape takes it back. The model says which cells are edited; a list asks it for the value of a
+// row as Qt::EditRole, and stores that of the chosen one.
 class CellGrid : public QTableView
 {
     Q_OBJECT
@@ -25,9 +25,6 @@ public:
     // A text box for numbers. Typing opens it as well.
     void setNumber(int column, const char *name, const QString &decimalMark);
 
-    // Stores what stands in an open editor, which closes.
-    void finishEditing();
-
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -35,8 +32,10 @@ protected:
 
 private:
     void chooseFirst();
+    void follow(QWidget *editor, const QPersistentModelIndex &index);
 
     QList<int> m_numbers; // columns
+    QVariant m_before;    // what stood in the cell that is open
 };
 
 } // namespace forms

@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace recorder {
 
 namespace {
@@ -161,6 +163,13 @@ ChapterGrid::ChapterGrid(const std::vector<ChapterCondition> &conditions,
     horizontalHeader()->setMinimumSectionSize(NarrowestColumn);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(ChapterModel::Variable, QHeaderView::Stretch);
+}
+
+void ChapterGrid::change(void (*rule)(ChapterRows &))
+{
+    const int row = currentIndex().row();
+    static_cast<ChapterModel *>(model())->change(rule);
+    setCurrentIndex(model()->index(std::min(row, model()->rowCount() - 1), ChapterModel::Type));
 }
 
 } // namespace recorder

@@ -43,7 +43,7 @@ public:
 
     const ChapterRows &rows() const { return static_cast<ChapterModel *>(model())->chapters(); }
     // Changes all rows by a rule.
-    void change(void (*rule)(ChapterRows &)) { static_cast<ChapterModel *>(model())->change(rule); }
+    void change(void (*rule)(ChapterRows &));
 };
 
 } // namespace recorder

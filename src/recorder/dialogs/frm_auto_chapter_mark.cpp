@@ -50,7 +50,6 @@ void frmAutoChapterMark::addConditions()
 
 void frmAutoChapterMark::set(LapChapters &lap)
 {
-    m_grid->finishEditing();
     m_settings.ChapterList = chapterConditions(m_grid->rows(), m_table);
     m_settings.LapChapterActive = lap.active;
     m_settings.LapChapterType = lap.type;

@@ -98,20 +98,29 @@ void frmGearDisplay::takeCount()
         m_grid->gears().setCount(*count);
 }
 
-// Once the box is left. Enter stays there and asks OK, which complains itself; who cancels need not be told.
+// Once the box is left for another field; what a button does complains itself.
 void frmGearDisplay::complainOfCount()
 {
-    if (!isVisible() || !isActiveWindow() || m_count->box().hasFocus() || button("cmdCancel").hasFocus())
-        return;
-    if (const auto verdict = validate(typed())) {
-        prompts().message(verdict->icon, platform::ProductTitle, verdict->text);
-        m_count->box().setFocus();
-        m_count->box().selectAll();
-    }
+    const bool isLeft = isVisible() && isActiveWindow() && !m_count->box().hasFocus();
+    if (isLeft && !qobject_cast<QPushButton *>(focusWidget()))
+        isCountRefused();
+}
+
+bool frmGearDisplay::isCountRefused()
+{
+    const auto verdict = validate(typed());
+    if (!verdict)
+        return false;
+    prompts().message(verdict->icon, platform::ProductTitle, verdict->text);
+    m_count->box().setFocus();
+    m_count->box().selectAll();
+    return true;
 }
 
 void frmGearDisplay::askForRatios()
 {
+    if (isCountRefused())
+        return;
     GearModel &gears = m_grid->gears();
     forms::Context inside = context();
     inside.parent = this;
@@ -132,7 +141,6 @@ void frmGearDisplay::set(GearSetup &setup)
     const bool bySensor = setup.option == SensorOption;
     if (bySensor && variableName(setup.variable, m_table).isEmpty())
         throw common::RunTimeError(QStringLiteral("No variable is chosen for the gearbox sensor"));
-    m_grid->finishEditing();
     m_settings.GearTable = m_grid->gears().limits();
     m_settings.GearVariable = bySensor ? setup.variable : 0;
     m_settings.GearMethod = bySensor ? SensorMethod : 0;

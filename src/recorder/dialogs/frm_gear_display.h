@@ -40,6 +40,7 @@ private:
     void addLimits();
     void takeCount();
     void complainOfCount();
+    bool isCountRefused(); // which is told
     void askForRatios();
     void drawChart();
 
