@@ -1,6 +1,8 @@
 #include "recorder/message_rates.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace recorder {
 
@@ -87,8 +89,9 @@ std::optional<int> findMessage(const MessageTable &table, const QString &text, i
 {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
-    if (isNumber)
-        return firstRow(table, 0, [number](const MessageEntry &entry) { return entry.number == number; });
+    const auto isIt = [&](const MessageEntry &entry) { return isNumber && entry.number == number; };
+    if (const auto row = firstRow(table, 0, isIt))
+        return row;
     const auto begins = [&text](const MessageEntry &entry) {
         return entry.name.startsWith(text, Qt::CaseInsensitive);
     };

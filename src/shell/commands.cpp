@@ -316,9 +316,11 @@ struct CommandTable
          .caption = "Message Frequency",
          .run =
              [](frmMain &w) {
-                 recorder::frmFrequency(w.m_state.settings.MessageTable, w.m_state.folders.MessagesFile(),
-                                        dialogContext(w))
-                     .exec();
+                 ProgramState &state = w.m_state;
+                 recorder::frmFrequency dialog(state.settings.MessageTable, state.folders.MessagesFile(),
+                                               dialogContext(w));
+                 if (dialog.exec() == QDialog::Accepted)
+                     state.startMessages = state.settings.MessageTable; // as the file has it
              }},
         {.places = ConfigurationMenu,
          .name = "mnuGearDisplay",

@@ -54,11 +54,10 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const
     return index.column() == Number ? QVariant(entry.number) : QVariant(entry.name);
 }
 
-// A code that the choice stands for as well is kept.
 bool MessageModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     const auto rate = rateOf(index.column());
-    if (!rate || role != Qt::EditRole || value == data(index, role))
+    if (!rate || role != Qt::EditRole)
         return false;
     m_table[static_cast<std::size_t>(index.row())].*rate = static_cast<quint8>(value.toUInt());
     emit dataChanged(index, index);
@@ -99,9 +98,10 @@ void MessageGrid::keyPressEvent(QKeyEvent *event)
 
 void MessageGrid::keyboardSearch(const QString &text)
 {
+    const int from = currentIndex().row() + (m_typed.isEmpty() ? 1 : 0); // a new text goes on from here
     m_typed += text;
     m_pause.start();
-    if (const auto row = findMessage(messages().table(), m_typed, currentIndex().row()))
+    if (const auto row = findMessage(messages().table(), m_typed, from))
         setCurrentIndex(currentIndex().siblingAtRow(*row));
 }
 
