@@ -1,10 +1,11 @@
-// Opening each of the recorder's dialogs with all variables that the recorder knows and 256 messages, until it
-// is painted, limit 30 ms. Beside the messages' dialog a plain table with the same rows.
+// Opening each of the dialogs of the recorder with all variables that it knows and 256 messages, until it is
+// painted, limit 30 ms. Beside the dialog of the messages a plain table with the same rows.
 
 #include "bench_support.h"
 #include "recorder/dialogs/frm_auto_chapter_mark.h"
 #include "recorder/dialogs/frm_frequency.h"
 #include "recorder/dialogs/frm_gear_display.h"
+#include "recorder/dialogs/frm_gear_ratios.h"
 #include "recorder/dialogs/frm_manual_bit_rate.h"
 #include "recorder/dialogs/frm_rpm.h"
 #include "recorder/dialogs/frm_start_stop_rec.h"
@@ -130,6 +131,15 @@ void gearDisplay(benchmark::State &state)
     });
 }
 
+void gearRatios(benchmark::State &state)
+{
+    measureOpening(state, [](World &w) {
+        recorder::frmGearRatios dialog({{3, 2, 1.5, 1, 0.75, 0.5, 0.25}, 4, 2}, recorder::MostGears,
+                                       w.context);
+        showPainted(dialog);
+    });
+}
+
 void pulses(benchmark::State &state)
 {
     measureOpening(state, [](World &w) {
@@ -143,6 +153,7 @@ BENCHMARK(bitRate)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(startStop)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(chapterMarks)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(gearDisplay)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(gearRatios)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(pulses)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

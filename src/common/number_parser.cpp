@@ -83,7 +83,8 @@ double parseNumber(const QString &text)
 double requireNumber(const QString &text)
 {
     static const QRegularExpression number(QStringLiteral(R"(^-?(\d+\.?\d*|\.\d+)(E[+-]?\d+)?$)"));
-    if (!number.match(withPlainDigits(text.trimmed())).hasMatch())
+    const QString plain = withPlainDigits(text.trimmed());
+    if (plain.size() > LongestNumber || !number.match(plain).hasMatch())
         throw RunTimeError(QStringLiteral("\"%1\" is not a number").arg(text));
     return parseNumber(text);
 }

@@ -140,7 +140,8 @@ QPushButton *Dialog::makeButton(const char *name, const char *caption, std::func
     auto *button = new QPushButton(QString::fromUtf8(caption));
     button->setObjectName(QLatin1String(name));
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, std::move(pressed));
+    connect(button, &QPushButton::clicked, this,
+            [this, pressed = std::move(pressed)] { platform::reportFailures(prompts(), pressed); });
     return button;
 }
 

@@ -85,7 +85,9 @@ TEST_F(RecorderDialogs, messageRatesAreChosenInTheirCells)
         keys({Qt::Key_Right, Qt::Key_Return, Qt::Key_Up, Qt::Key_Return});
         EXPECT_EQ(shown(3), "On");
         EXPECT_TRUE(grid.hasFocus());
-        keys({Qt::Key_Return, Qt::Key_Escape}); // puts the list away, not the dialog
+        test::click(*grid.viewport(), grid.visualRect(grid.model()->index(104, 2)).center());
+        EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+        keys({Qt::Key_Escape}); // puts the list away, not the dialog
     };
     open("mnuSetMsgFrequency", [&change](QWidget &dialog) {
         change(dialog);
@@ -116,9 +118,13 @@ TEST_F(RecorderDialogs, autoStartKeepsWhatFitsBeforeATextThatDoesNot)
         type("12,5x");
         keys({Qt::Key_Tab});
         type("300");
+        keys({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab});
+        type("7");
         keys({Qt::Key_Return});
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_EQ(settings.autoStart, (RecordingTrigger{2, 2, 12.5F, 0}));
+        EXPECT_EQ(settings.autoStop, (RecordingTrigger{1, 0, 7, 0})); // values come before times
+        test::child<QLineEdit>(dialog, "txtStartTrigerTime").setFocus();
         keys({Qt::Key_Home, Qt::Key_Delete}); // 00
         keys({Qt::Key_Return});
     });
@@ -199,7 +205,7 @@ TEST_F(RecorderDialogs, gearsComeFromTheirRatios)
         keys({Qt::Key_Down});
         test::child<QTableView>(dialog, "MSFlexGrid1").setFocus();
         type("17.5"); // in the place of 17
-        test::press(dialog, "cmdOk");
+        QTest::keyClick(focus(), Qt::Key_O, Qt::AltModifier);
     });
     open("mnuRPM", [](QWidget &) {
         type("2.5");
@@ -209,6 +215,11 @@ TEST_F(RecorderDialogs, gearsComeFromTheirRatios)
     EXPECT_EQ(settings.GearTable, (decltype(before){{7, 12.5F}, {12.5F, 17.5F}}));
     EXPECT_EQ(std::pair(settings.GearMethod, settings.GearVariable), std::pair(quint8{1}, 2));
     EXPECT_EQ(settings.PulsesPerRevolution, 2.5F);
+    open("mnuGearDisplay", [](QWidget &dialog) {
+        test::press(dialog, "GearMethodOption_1");
+        test::press(dialog, "cmdOk");
+    });
+    EXPECT_EQ(std::pair(settings.GearMethod, settings.GearVariable), std::pair(quint8{0}, 0));
 }
 
 } // namespace

@@ -1,11 +1,18 @@
 #include "recorder/dialogs/frm_gear_ratios.h"
 
+#include "common/number_text.h"
 #include "platform/guards.h"
 #include "recorder/dialogs/gear_grid.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace recorder {
 
 namespace {
+
+constexpr float Huge = 1e6F; // from where on a number is written with its exponent
 
 constexpr std::array<forms::RowText, MostGears> GearRows{{{"txtGearRatio_0", "&1st Gear Ratio [-]", ":1"},
                                                           {"txtGearRatio_1", "&2nd Gear Ratio [-]", ":1"},
@@ -19,7 +26,10 @@ constexpr std::array<forms::RowText, MostGears> GearRows{{{"txtGearRatio_0", "&1
 
 void drawBands(SpanChart &chart, const std::vector<GearLimits> &bands, const QString &decimalMark)
 {
-    const auto text = [&decimalMark](float limit) { return common::fixedText(limit, 1, decimalMark); };
+    const auto text = [&decimalMark](float limit) {
+        return std::fabs(limit) < Huge ? common::fixedText(limit, 1, decimalMark)
+                                       : common::shortestText(limit, decimalMark);
+    };
     QList<Span> spans;
     double end = 1;
     for (std::size_t gear = 0; gear < bands.size(); ++gear) {

@@ -1,7 +1,9 @@
 #include "recorder/dialogs/frm_manual_bit_rate.h"
 
+#include "common/number_text.h"
 #include "recorder/bit_rate.h"
 
+#include <algorithm>
 #include <array>
 
 namespace recorder {

@@ -73,8 +73,11 @@ frmStartStopRec::Rows frmStartStopRec::addRows(const TriggerNames &names, Record
 
 void frmStartStopRec::take()
 {
-    for (const Rows &rows : m_rows)
+    for (const Rows &rows : m_rows) {
+        if (rows.variable.row() < 0 && rows.condition.row() != 0)
+            throw common::RunTimeError(QStringLiteral("No variable is chosen for the condition"));
         keep(rows.variable, rows.trigger.variable);
+    }
     for (const Rows &rows : m_rows)
         keep(rows.condition, rows.trigger.condition);
     for (const Rows &rows : m_rows)

@@ -62,9 +62,9 @@ void SpanChart::paintEvent(QPaintEvent *)
         painter.fillRect(track, palette().alternateBase());
         if (span.to > span.from) {
             const double scale = track.width() / m_end;
-            painter.fillRect(QRectF(track.x() + span.from * scale, track.y(), (span.to - span.from) * scale,
-                                    track.height()),
-                             palette().link());
+            const QRectF bar(track.x() + span.from * scale, track.y(), (span.to - span.from) * scale,
+                             track.height());
+            painter.fillRect(bar & QRectF(track), palette().link());
         }
     }
 }
