@@ -130,7 +130,7 @@ public:
         QFile::copy(program + QStringLiteral("morvel"), launcher());
         QFile::link(program + QStringLiteral("defaults"), m_root.filePath(QStringLiteral("defaults")));
         QFile::link(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")), self());
-        bench::seededFolders(m_root);
+        QFile::remove(bench::seededFolders(m_root).defaultLayoutFile()); // a start into an empty design
         qputenv("XDG_DATA_HOME", m_root.filePath(QStringLiteral("data")).toLocal8Bit());
         qputenv("XDG_CACHE_HOME", m_root.filePath(QStringLiteral("cache")).toLocal8Bit());
         qputenv(ReportVariable, report().toLocal8Bit());

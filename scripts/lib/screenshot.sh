@@ -42,7 +42,7 @@ start_display()
     await 20 "the window manager openbox" has_window_manager
 }
 
-# The tool finds an empty home, so it starts as on its first day and asks nothing.
+# The tool finds an empty home, so it starts as on its first day.
 start_tool()
 {
     mkdir -m 700 "$stage"/{data,config,cache,runtime}
@@ -64,6 +64,12 @@ visible_titles()
     done
 }
 
+# A start without a layout asks whether to load the first design: yes.
+answer_question()
+{
+    [[ -z $(windows --name '^MORVEL Configuration Tool$') ]] || timeout 10 xdotool key alt+y
+}
+
 # The main window, once it is there and the splash has gone.
 main_window_is_alone()
 {
@@ -72,8 +78,9 @@ main_window_is_alone()
         wait "$tool" || give_up "the tool ended with status $? before its main window was there."
         tool_ended=yes
     fi
+    answer_question
     mapfile -t all < <(tool_windows)
-    window=$(windows --name '^MORVEL Configuration Tool')
+    window=$(windows --name '^MORVEL Configuration Tool - ')
     [[ ${#all[@]} -eq 1 && $window == "${all[0]}" ]]
 }
 

@@ -79,7 +79,7 @@ def check_layout(layout: Layout, begun: datetime.datetime) -> None:
 def go(desktop: Desktop, tool: Tool, home: Path) -> None:
     begun = datetime.datetime.now()
     tool.start()
-    tool.await_main_window()
+    tool.decline_first_design()
     design(desktop, tool)
     tool.start_twice()
 

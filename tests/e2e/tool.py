@@ -135,6 +135,12 @@ class Tool:
         self._desktop.wait("the last layout", lambda: self._desktop.screen.pixels_of(LOADED_RED))
         self.await_main_window()
 
+    def decline_first_design(self) -> None:
+        """Answers the question of a new user's start with no."""
+        self.await_dialog(TITLE)
+        self._desktop.key("alt+n")
+        self.await_main_window()
+
     def save_as(self, path: Path) -> None:
         self._desktop.key("ctrl+s")
         self.await_dialog("Save Layout")
