@@ -12,9 +12,7 @@ namespace keys = platform::keys;
 void UsedLayouts::read()
 {
     const platform::SettingsFile file(m_folders.ConfigFile());
-    const QString folder = keys::LayoutFolder.read(file);
-    if (QFileInfo(folder).isDir())
-        m_folder = folder;
+    m_folder = keys::LayoutFolder.read(file);
     for (const platform::PathKey &key : keys::RecentLayouts) {
         if (const QString path = key.read(file); !path.isEmpty())
             m_recent.append(path);
@@ -38,6 +36,8 @@ void UsedLayouts::keep() const
     if (differs)
         file.save();
 }
+
+QString UsedLayouts::folder() const { return QFileInfo(m_folder).isDir() ? m_folder : QString(); }
 
 bool UsedLayouts::isOwn(const QString &path) const
 {

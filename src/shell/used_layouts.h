@@ -17,8 +17,8 @@ public:
     // Throws RunTimeError when the settings cannot be written.
     void keep() const;
 
-    // Empty as long as no layout was used.
-    const QString &folder() const { return m_folder; }
+    // Empty as long as no layout was used, and while the folder is not there: its card may come back.
+    QString folder() const;
     // Paths, the newest first.
     const QStringList &recent() const { return m_recent; }
 

@@ -132,8 +132,21 @@ TEST_F(FileCommands, BeginInTheFolderOfTheLastLayout)
         w.run("mnuSaveConfig");
         EXPECT_EQ(prompts.lastFileRequest().folder, path("card"));
     }
+    QDir(path("")).mkdir("new");
+    prompts.expectSaveFile(path("new/B.VGL"));
+    prompts.expectQuestion(NotACard, false);
+    w.run("mnuSaveConfig");
+    EXPECT_EQ(w.window.files().used().folder(), path("new"));
     EXPECT_TRUE(w.window.close());
-    EXPECT_EQ(platform::keys::LayoutFolder.read(platform::SettingsFile(folders.ConfigFile())), path("card"));
+    // The card may be out at the next start.
+    QDir(path("")).rmdir("new");
+    for (const bool isIn : {false, true}) {
+        shell::UsedLayouts next(folders);
+        next.read();
+        EXPECT_EQ(next.folder(), isIn ? path("new") : "");
+        next.keep();
+        QDir(path("")).mkdir("new");
+    }
 }
 
 TEST_F(FileCommands, LoadAsksWhatBecomesOfTheDesign)

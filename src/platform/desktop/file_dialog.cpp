@@ -79,7 +79,8 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
         selectFile(request.fileName);
     if (request.preview)
         addPreview(request.preview);
-    resize(820, 460);
+    constexpr QSize WithoutPreview(820, 460);
+    resize(WithoutPreview + QSize(request.preview ? PreviewSize.width() : 0, 0));
     if (auto *splitter = findChild<QSplitter *>())
         splitter->setSizes({160, width() - 160}); // the names of volumes are read, not guessed
 }

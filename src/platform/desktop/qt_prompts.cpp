@@ -149,11 +149,11 @@ QString QtPrompts::openFile(const FileRequest &request)
     const ArrowPointer pointer;
     FileRequest asked = request;
     if (request.folder.isEmpty())
-        asked.folder = m_lastFolder;
+        asked.folder = m_lastFolders.value(request.filter);
     FileDialog dialog(parent(), asked, QFileDialog::AcceptOpen);
     QString path = dialog.chosenFile();
     if (request.folder.isEmpty() && !path.isEmpty())
-        m_lastFolder = QFileInfo(path).path();
+        m_lastFolders.insert(request.filter, QFileInfo(path).path());
     return path;
 }
 

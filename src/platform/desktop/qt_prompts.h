@@ -2,6 +2,8 @@
 
 #include "platform/prompts.h"
 
+#include <QHash>
+
 namespace platform {
 
 // The prompts of the desktop. Boxes stand over the active window, or over the main window when there is none.
@@ -20,7 +22,8 @@ public:
     void showPage(const QUrl &page) override;
 
 private:
-    QString m_lastFolder; // of the last file that was opened by a request without a folder
+    // By filter: of the last file that was opened by a request without a folder.
+    QHash<QString, QString> m_lastFolders;
 };
 
 } // namespace platform
