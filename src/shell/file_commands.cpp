@@ -154,8 +154,8 @@ bool FileCommands::load(const QString &path)
 // The design is what this file holds.
 void FileCommands::name(const QString &path)
 {
-    m_design.setCaption(QFileInfo(path).completeBaseName());
     m_used.add(path);
+    m_design.setCaption(QFileInfo(path).completeBaseName());
 }
 
 double FileCommands::CalculateComplexity() const

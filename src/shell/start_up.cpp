@@ -53,7 +53,6 @@ bool StartUp::run()
     showWindows();
     tellOfKeptFiles();
     chooseFirstLayout();
-    m_window->refreshFromState(); // it may be the newest of the recent layouts now
     if (m_mayReplaceRecovery)
         m_window->recovery().begin();
     return true;
@@ -176,32 +175,33 @@ void StartUp::chooseFirstLayout()
         return;
     if (isNamed)
         m_window->files().load(m_commandLine.layoutToOpen);
-    else if (!offerLayout(folders.workspaceFile(), LastLayout))
+    else if (!offerLayout(folders.workspaceFile(), LastLayout).has_value())
         offerLayout(folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
 }
 
-// True when the design of a run that did not come to its end was loaded. Otherwise, and where a load brings
-// no variables, it is a backup from now on.
+// True when the user wanted the design of a run that did not come to its end. Where it is not loaded, or
+// brings no variables, it is a backup from now on.
 bool StartUp::recoverDesign(bool mayAsk)
 {
     const QString path = m_state.folders.recoveryFile();
     const QByteArray left = leftToRecover(m_state.folders);
     if (left.isEmpty())
         return false;
-    const bool isLoaded = mayAsk && offerLayout(path, LastLayout);
-    if (!isLoaded || m_state.catalogue.definitionsLost) {
+    const auto isLoaded = mayAsk ? offerLayout(path, LastLayout) : std::nullopt;
+    if (!isLoaded.value_or(false) || m_state.catalogue.definitionsLost) {
         m_mayReplaceRecovery = platform::reportFailures(m_prompts, [&] {
             keepAsBackup(left, m_state.folders);
             QFile::remove(path);
         });
     }
-    return isLoaded;
+    return isLoaded.has_value();
 }
 
-bool StartUp::offerLayout(const QString &path, const QString &question)
+std::optional<bool> StartUp::offerLayout(const QString &path, const QString &question)
 {
-    return FileExists(path) && m_prompts.ask(Icon::Question, platform::ProductTitle, question) &&
-           m_window->files().load(path);
+    if (!FileExists(path) || !m_prompts.ask(Icon::Question, platform::ProductTitle, question))
+        return std::nullopt;
+    return m_window->files().load(path);
 }
 
 // A save that was killed while it copied over has left the old bytes, and nobody has been told of them.

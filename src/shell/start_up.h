@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 
 #include <memory>
+#include <optional>
 
 namespace shell {
 
@@ -45,7 +46,8 @@ private:
     void chooseFirstLayout();
     bool recoverDesign(bool mayAsk);
     void tellOfKeptFiles();
-    bool offerLayout(const QString &path, const QString &question);
+    // Whether the layout was loaded; nothing when there is none or the user does not want it.
+    std::optional<bool> offerLayout(const QString &path, const QString &question);
 
     StartUpInput m_input;
     platform::Prompts &m_prompts;

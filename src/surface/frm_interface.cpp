@@ -76,6 +76,7 @@ void frmInterface::setCaption(const QString &name)
 {
     m_caption = name;
     m_panels->panel(PanelId::Design).setTitle(name);
+    emit layoutChanged();
 }
 
 QList<OverlayControl *> frmInterface::controls() const { return m_canvas->registry().controls(); }
@@ -190,7 +191,6 @@ void frmInterface::mnuNew_Click()
     m_canvas->clear();
     recorder::resetForNewLayout(m_context.settings, m_context.startMessages);
     setCaption(UntitledCaption);
-    emit layoutChanged();
 }
 
 void frmInterface::refresh()

@@ -144,6 +144,10 @@ TEST_F(Start, ChoosesTheFirstLayout)
     QFile::remove(backup);
     platform::replaceFile(left, "half a file");
     expectStart(QStringList(), QList{std::pair(LastQuestion, true)}, 4, false);
+    platform::replaceFile(last, "half a file"); // and yet the user has chosen
+    world.prompts.expectQuestion(LastQuestion, true);
+    world.prompts.expectMessage("Invalid File Format");
+    expectStart(QStringList(), QList<std::pair<QString, bool>>(), 0, false);
 }
 
 TEST_F(Start, FindsStandardDesignAndPanelsAsTheLastRunLeftThem)
