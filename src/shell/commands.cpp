@@ -1,5 +1,6 @@
 #include "shell/commands.h"
 
+#include "platform/settings_keys.h"
 #include "recorder/bit_rate.h"
 #include "recorder/dialogs/frm_auto_chapter_mark.h"
 #include "recorder/dialogs/frm_frequency.h"
@@ -39,6 +40,9 @@ constexpr Command recentLayout(const char *name)
             .run = [](frmMain &w) { w.files().openRecent(Index); },
             .isVisible = [](const frmMain &w) { return Index < w.files().used().recent().size(); }};
 }
+
+// One entry each.
+static_assert(platform::keys::RecentLayouts.size() == 8);
 
 } // namespace
 
@@ -92,7 +96,6 @@ struct CommandTable
         w.m_design->pressKey(Key);
     }
     static forms::Context dialogContext(frmMain &w) { return {w.m_prompts, w.m_state.locale, &w}; }
-    static bool isMorvel(const frmMain &) { return platform::personality() == platform::Personality::MORVEL; }
     static bool hasControls(const frmMain &w) { return !w.m_design->controls().isEmpty(); }
     static bool hasCurrent(const frmMain &w) { return w.m_design->currentControl() != nullptr; }
     template <void (OverlayControl::*Act)()>
@@ -300,7 +303,7 @@ struct CommandTable
                                            dialogContext(w))
                      .exec();
              },
-         .isVisible = &isMorvel},
+         .isMorvelOnly = true},
         {.places = ConfigurationMenu,
          .name = "mnuAutoChapterMark",
          .caption = "Auto Chapter Markers",
@@ -309,8 +312,8 @@ struct CommandTable
                  recorder::frmAutoChapterMark(w.m_state.settings, w.m_state.catalogue.live, dialogContext(w))
                      .exec();
              },
-         .isVisible = &isMorvel},
-        {.places = ConfigurationMenu, .name = "dashsp", .isVisible = &isMorvel},
+         .isMorvelOnly = true},
+        {.places = ConfigurationMenu, .name = "dashsp", .isMorvelOnly = true},
         {.places = ConfigurationMenu,
          .name = "mnuSetMsgFrequency",
          .caption = "Message Frequency",
@@ -342,7 +345,7 @@ struct CommandTable
          .caption = "Special Icons",
          .run =
              [](frmMain &w) { recorder::frmSpecialIcons(w.m_state.settings.icon, dialogContext(w)).exec(); }},
-        {.places = ConfigurationMenu, .name = "l4", .isVisible = &isMorvel},
+        {.places = ConfigurationMenu, .name = "l4", .isMorvelOnly = true},
         {.places = ConfigurationMenu,
          .name = "mnuBitRate",
          .captionOf =
@@ -352,12 +355,12 @@ struct CommandTable
              [](frmMain &w) {
                  recorder::frmManualBitRate(w.m_state.settings.CurrentBitRate, dialogContext(w)).exec();
              },
-         .isVisible = &isMorvel},
+         .isMorvelOnly = true},
         {.places = ConfigurationMenu,
          .name = "mnuEncodePattern",
          .caption = "Encode Pattern",
          .opens = EncodePatternMenu,
-         .isVisible = &isMorvel},
+         .isMorvelOnly = true},
         {.places = EncodePatternMenu,
          .name = "mnuI",
          .caption = "I",
@@ -379,7 +382,7 @@ struct CommandTable
          .caption = "Open the local help",
          .icon = "menu/help",
          .shortcut = "F1",
-         .run = [](frmMain &w) { openLocalHelp(w.m_state.folders, w.m_prompts); }},
+         .run = [](frmMain &w) { w.m_prompts.showPage(QUrl::fromLocalFile(w.m_state.folders.localHelp())); }},
         {.places = HelpMenu,
          .name = "mnuOnlineHelp",
          .caption = "Open the on-line help",
@@ -403,25 +406,25 @@ struct CommandTable
          .caption = "Nudge left",
          .icon = "toolbar/left",
          .run = &sendKey<Qt::Key_Left>,
-         .isEnabled = &hasControls},
+         .isEnabled = &hasCurrent},
         {.places = Toolbar,
          .name = "cmdUp",
          .caption = "Nudge up",
          .icon = "toolbar/up",
          .run = &sendKey<Qt::Key_Up>,
-         .isEnabled = &hasControls},
+         .isEnabled = &hasCurrent},
         {.places = Toolbar,
          .name = "cmdDown",
          .caption = "Nudge down",
          .icon = "toolbar/down",
          .run = &sendKey<Qt::Key_Down>,
-         .isEnabled = &hasControls},
+         .isEnabled = &hasCurrent},
         {.places = Toolbar,
          .name = "cmdRight",
          .caption = "Nudge right",
          .icon = "toolbar/right",
          .run = &sendKey<Qt::Key_Right>,
-         .isEnabled = &hasControls},
+         .isEnabled = &hasCurrent},
         {.places = Toolbar},
         {.places = Toolbar,
          .name = "cmdPrevious",
@@ -441,7 +444,7 @@ struct CommandTable
          .caption = "Properties of the selected control",
          .icon = "toolbar/properties",
          .run = &sendKey<Qt::Key_Return>,
-         .isEnabled = &hasControls},
+         .isEnabled = &hasCurrent},
 
         {.places = CanvasPopup,
          .name = "mnuCut",
@@ -584,6 +587,11 @@ struct CommandTable
 };
 
 std::span<const Command> commands() { return CommandTable::Rows; }
+
+bool isOffered(const Command &row, platform::Personality personality)
+{
+    return !row.isMorvelOnly || personality == platform::Personality::MORVEL;
+}
 
 bool livesInPreview(unsigned places)
 {

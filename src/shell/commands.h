@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/product.h"
+
 #include <QString>
 
 #include <span>
@@ -38,10 +40,14 @@ struct Command
     bool (*isEnabled)(const frmMain &) = nullptr;    // null for always
     bool inPreview = false;                          // whether it can be used in Preview, too
     bool (*isVisible)(const frmMain &) = nullptr;    // null for always
+    bool isMorvelOnly = false;                       // whether no other personality has it
     QString (*toolTip)(const frmMain &) = nullptr;   // null for the caption
 };
 
 std::span<const Command> commands();
+
+// Whether the program has this entry under that name.
+bool isOffered(const Command &row, platform::Personality personality);
 
 // Whether any entry of these places can be used in Preview.
 bool livesInPreview(unsigned places);

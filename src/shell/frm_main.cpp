@@ -112,9 +112,8 @@ void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
                            QLatin1String(family.menuCaption));
         add->setObjectName(prefix + QLatin1String(family.menuItem).mid(3));
         const controls::ControlType type = family.type;
-        connect(add, &QAction::triggered, this, [this, type] {
-            platform::reportFailures(m_prompts, [&] { m_design->addControlAtLastPosition(type); });
-        });
+        connect(add, &QAction::triggered, this,
+                [this, type] { runCommand([&] { m_design->addControlAtLastPosition(type); }); });
     }
 }
 
@@ -132,8 +131,8 @@ void frmMain::makeMenus()
     QMenuBar *bar = menuBar();
     addMenu(new QMenu(QStringLiteral("&File"), bar), "mnuFile", FileMenu);
     addMenu(new QMenu(QStringLiteral("&View"), bar), "mnuView", ViewMenu);
-    m_addControl.setTitle(QStringLiteral("&Add Control"));
-    fillAddMenu(*addMenu(&m_addControl, "mnuAddControl", 0), QStringLiteral("mnu"));
+    fillAddMenu(*addMenu(new QMenu(QStringLiteral("&Add Control"), bar), "mnuAddControl", 0),
+                QStringLiteral("mnu"));
     addMenu(new QMenu(QStringLiteral("&Configuration"), bar), "mnuConfiguration", ConfigurationMenu);
     addMenu(new QMenu(QStringLiteral("&Help"), bar), "mnuHelp", HelpMenu)->setToolTipsVisible(true);
 }
@@ -172,12 +171,15 @@ void frmMain::makeStatusBar()
     statusBar()->addPermanentWidget(m_zoom);
     statusBar()->addPermanentWidget(m_standard);
     statusBar()->addPermanentWidget(m_bitRate);
+    m_bitRate->setVisible(platform::personality() == platform::Personality::MORVEL);
 }
 
 void frmMain::makePopups()
 {
     m_canvasPopup.setObjectName(QStringLiteral("mnuDropDown"));
-    fillAddMenu(*m_canvasPopup.addMenu(QStringLiteral("&Add Control")), QStringLiteral("mnuDD"));
+    QMenu *add = m_canvasPopup.addMenu(QStringLiteral("&Add Control"));
+    add->setObjectName(QStringLiteral("mnuDDAddControl"));
+    fillAddMenu(*add, QStringLiteral("mnuDD"));
     fill(m_canvasPopup, CanvasPopup);
     fill(m_design->canvas(), CanvasPopup);
     connect(m_design, &surface::frmInterface::canvasMenuRequested, this,
@@ -212,8 +214,8 @@ void frmMain::refreshFromState()
             action.setChecked(command.isChecked(*this));
         action.setEnabled((command.inPreview || !m_design->IsPlayMode()) &&
                           (!command.isEnabled || command.isEnabled(*this)));
-        if (command.isVisible)
-            action.setVisible(command.isVisible(*this));
+        action.setVisible(isOffered(command, platform::personality()) &&
+                          (!command.isVisible || command.isVisible(*this)));
         if (command.toolTip)
             action.setToolTip(command.toolTip(*this));
     }
@@ -228,8 +230,7 @@ void frmMain::refreshFromState()
 // Not while a dialog or a long task works on the design.
 bool frmMain::takesDrops() const
 {
-    const QAction *load = findChild<QAction *>(QStringLiteral("mnuLoadConfig"));
-    return load->isEnabled() && !QApplication::activeModalWidget() && !QApplication::overrideCursor();
+    return !m_design->IsPlayMode() && !QApplication::activeModalWidget() && !QApplication::overrideCursor();
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)

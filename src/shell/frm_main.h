@@ -58,7 +58,6 @@ private:
     QList<QAction *> m_actions; // of commands(), in its order
     // Of the menu bar, with the place of their entries.
     std::vector<std::pair<QMenu *, unsigned>> m_menus;
-    QMenu m_addControl;   // shared by the menu bar and the canvas popup
     QMenu m_canvasPopup;  // mnuDropDown
     QMenu m_controlPopup; // mnuDropDown3
     QMenu m_groupPopup;   // mnuGroupControl

@@ -1,5 +1,7 @@
 #include "shell/frm_start_splash.h"
 
+#include "graphics/picture_loader.h"
+#include "platform/product.h"
 #include "shell/version.h"
 
 #include <QLabel>
@@ -23,11 +25,11 @@ frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     const QString replacement = folders.program + QStringLiteral("Splash.jpg");
-    if (!platform::FileExists(replacement) || !m_picture.load(replacement))
+    m_picture = QPixmap::fromImage(graphics::loadPicture(replacement).picture);
+    if (m_picture.isNull())
         m_picture.load(QStringLiteral(":/splash.jpg"));
     setFixedSize(m_picture.size());
-    if (m_picture.hasAlphaChannel())
-        setMask(m_picture.mask());
+    setWindowTitle(owner ? QStringLiteral("About Us") : platform::ProductTitle);
     QLabel *version = addLabel(QStringLiteral("VERSION   ") + programVersion());
     version->move(Margin, height() - 44);
     setAccessibleName(version->text());

@@ -8,7 +8,7 @@ class QLabel;
 
 namespace shell {
 
-// The splash picture with the version, in the shape of the picture; a press closes it. With an owner it is
+// The splash picture with the version; a press closes it. With an owner it is
 // the "About Us" window, which names the licences, too.
 class frmStartSplash final : public QDialog
 {

@@ -2,11 +2,6 @@
 
 namespace shell {
 
-void openLocalHelp(const platform::Folders &folders, platform::Prompts &prompts)
-{
-    prompts.showPage(QUrl::fromLocalFile(folders.localHelp()));
-}
-
 std::optional<QUrl> onlineHelp()
 {
     const QString host = QStringLiteral(MORVEL_HELP_HOST);
