@@ -21,14 +21,6 @@ QString textOf(const SettingsFile &file, const NumberKey &key)
     return file.read(QLatin1String(key.section), QLatin1String(key.key), {}, NumberBuffer);
 }
 
-bool isRubbish(QStringView text)
-{
-    text = text.trimmed();
-    const bool hasSign = text.startsWith(QLatin1Char('-')) || text.startsWith(QLatin1Char('+'));
-    const QStringView digits = text.sliced(hasSign ? 1 : 0);
-    return !text.isEmpty() && (digits.isEmpty() || !digits.front().isDigit());
-}
-
 } // namespace
 
 int NumberKey::readUnclamped(const SettingsFile &file) const
@@ -76,8 +68,7 @@ void PathKey::write(SettingsFile &file, const QString &path) const
 bool PanelKeys::stored(const SettingsFile &file) const
 {
     const QStringList texts{textOf(file, left), textOf(file, top), textOf(file, width), textOf(file, height)};
-    return std::ranges::any_of(texts, [](const QString &text) { return !text.isEmpty(); }) &&
-           std::ranges::none_of(texts, isRubbish);
+    return std::ranges::any_of(texts, [](const QString &text) { return !text.isEmpty(); });
 }
 
 } // namespace platform

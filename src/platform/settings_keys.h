@@ -47,7 +47,7 @@ struct PathKey
 struct PanelKeys
 {
     NumberKey left, top, width, height;
-    // Whether any of the four stands in the file, and none of them as something that is no number.
+    // Whether any of the four stands in the file.
     bool stored(const SettingsFile &file) const;
 };
 

@@ -5,7 +5,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QRegularExpressionValidator>
+
+#include <algorithm>
 
 namespace shell {
 
@@ -36,6 +39,21 @@ QImage chosenBackground(const QString &path, VideoStandard standard, platform::P
     return {};
 }
 
+// The fields of all groups begin at one line.
+void alignCaptions(const QDialog &dialog)
+{
+    int widest = 0;
+    const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy())
+            widest = std::max(widest, label->sizeHint().width());
+    }
+    for (QLabel *label : labels) {
+        if (label->buddy())
+            label->setMinimumWidth(widest);
+    }
+}
+
 } // namespace
 
 std::optional<forms::Verdict> validateOptions(const forms::Typed &typed)
@@ -63,21 +81,23 @@ frmOptions::frmOptions(surface::frmInterface &design, const forms::Context &cont
         [](auto &v) -> auto & { return v.grid.snaps; }, "chkSnapToGrid", "S&nap To Grid");
     addGroup("Backgrounds");
     addBackground(VideoStandard::Pal, &V::pal, {"txtPALBackImg", "&PAL Background Image"},
-                  {"cmdPALImgBrowse", "Browse for the PAL background image"});
+                  {"cmdPALImgBrowse", "Browse for the PAL background image"}, "picPALBackImg");
     addBackground(VideoStandard::Ntsc, &V::ntsc, {"txtNTSCBackImg", "N&TSC Background Image"},
-                  {"cmdNTSCImgBrowse", "Browse for the NTSC background image"});
+                  {"cmdNTSCImgBrowse", "Browse for the NTSC background image"}, "picNTSCBackImg");
     finish({{"cmdOk", "&Ok", forms::Press::Accept}, {"cmdCancel", "&Cancel", forms::Press::Cancel}});
+    alignCaptions(*this);
 }
 
 void frmOptions::addBackground(VideoStandard standard, forms::ChosenPicture Options::*member,
-                               const forms::RowText &file, const forms::RowText &picture)
+                               const forms::RowText &file, const forms::RowText &picture,
+                               const char *previewName)
 {
     auto &name = add<forms::TextField>(file.name);
     addRow(name, file.caption);
     name.showOnly();
     name.show(m_design.backgrounds().fileName(standard));
     auto &chosen = add<forms::PictureField>(
-        picture.name, "picBackImg", graphics::pictureRequest(), prompts(),
+        picture.name, previewName, graphics::pictureRequest(), prompts(),
         [this, standard](const QString &path) { return chosenBackground(path, standard, prompts()); });
     chosen.button().setText(QStringLiteral("..."));
     addRow(chosen, "");

@@ -30,7 +30,7 @@ protected:
 private:
     // The file of a standard's picture, and below it the picture with the button that browses for another.
     void addBackground(recorder::VideoStandard standard, forms::ChosenPicture Options::*member,
-                       const forms::RowText &file, const forms::RowText &picture);
+                       const forms::RowText &file, const forms::RowText &picture, const char *previewName);
 
     surface::frmInterface &m_design;
 };

@@ -15,32 +15,37 @@ namespace keys = platform::keys;
 
 namespace {
 
-const TextKey &keyOf(VideoStandard standard)
+struct Row
 {
-    return standard == VideoStandard::Pal ? keys::PalPicture : keys::NtscPicture;
+    const TextKey &name;
+    const char *builtIn;
+};
+
+constexpr Row Ntsc{keys::NtscPicture, ":/ntsc_background.jpg"};
+constexpr Row Pal{keys::PalPicture, ":/pal_background.jpg"};
+
+constexpr const Row &rowOf(VideoStandard standard) { return standard == VideoStandard::Pal ? Pal : Ntsc; }
+
+constexpr const Row &otherRow(VideoStandard standard) { return standard == VideoStandard::Pal ? Ntsc : Pal; }
+
+// Whether the settings give this name back, and no file that is no picture can have it.
+bool canBeKept(const QString &name, const TextKey &key, SettingsFile settings)
+{
+    key.write(settings, name);
+    return key.read(settings) == name && !platform::nameWithin({}, name).isEmpty() &&
+           name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive);
 }
 
-const TextKey &otherKey(VideoStandard standard)
-{
-    return standard == VideoStandard::Pal ? keys::NtscPicture : keys::PalPicture;
-}
-
-const char *builtIn(VideoStandard standard)
-{
-    return standard == VideoStandard::Pal ? ":/pal_background.jpg" : ":/ntsc_background.jpg";
-}
-
-// The name that a chosen file's copy gets: its own, unless the settings cannot give that back, the other
-// standard uses it, or something that is no picture might be lost.
+// The name that a chosen file's copy gets: its own or the usual one, and never that of the other standard's
+// picture.
 QString copyName(const QString &own, VideoStandard standard, const SettingsFile &settings)
 {
-    const TextKey &key = keyOf(standard);
-    SettingsFile tried = settings;
-    key.write(tried, own);
-    const bool isKept = key.read(tried) == own && !platform::nameWithin({}, own).isEmpty();
-    const bool isFree =
-        otherKey(standard).read(settings) != own && own.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive);
-    return isKept && isFree ? own : QLatin1String(key.fallback);
+    const TextKey &key = rowOf(standard).name;
+    const TextKey &otherKey = otherRow(standard).name;
+    const QString other = otherKey.read(settings);
+    if (own != other && canBeKept(own, key, settings))
+        return own;
+    return QLatin1String(other == QLatin1String(key.fallback) ? otherKey.fallback : key.fallback);
 }
 
 } // namespace
@@ -52,7 +57,7 @@ QSize backgroundSize(VideoStandard standard)
 
 QString Backgrounds::fileName(VideoStandard standard) const
 {
-    return keyOf(standard).read(SettingsFile(m_folders.ConfigFile()));
+    return rowOf(standard).name.read(SettingsFile(m_folders.ConfigFile()));
 }
 
 const QImage &Backgrounds::picture(VideoStandard standard)
@@ -66,17 +71,18 @@ void Backgrounds::load(VideoStandard standard)
 {
     const QString path = platform::nameWithin(m_folders.GetAppDataFolder(), fileName(standard));
     const QImage found = graphics::loadPicture(path).picture;
-    if (found.size() == backgroundSize(standard))
+    if (!found.isNull())
         held(standard) = found;
     else if (held(standard).isNull())
-        held(standard).load(QLatin1String(builtIn(standard)));
+        held(standard).load(QLatin1String(rowOf(standard).builtIn));
 }
 
-void Backgrounds::choose(VideoStandard standard, const QString &path, SettingsFile &settings) const
+Backgrounds::Copy Backgrounds::choose(VideoStandard standard, const QString &path,
+                                      SettingsFile &settings) const
 {
     const QString name = copyName(QFileInfo(path).fileName(), standard, settings);
-    platform::replaceFile(m_folders.GetAppDataFolder() + name, platform::readFile(path));
-    keyOf(standard).write(settings, name);
+    rowOf(standard).name.write(settings, name);
+    return {m_folders.GetAppDataFolder() + name, platform::readFile(path)};
 }
 
 } // namespace surface

@@ -6,6 +6,8 @@
 
 #include <QImage>
 
+#include <array>
+
 namespace surface {
 
 // What a standard's background has to be, pixels.
@@ -21,22 +23,27 @@ public:
     QString fileName(recorder::VideoStandard standard) const;
     // Read when it is wanted first.
     const QImage &picture(recorder::VideoStandard standard);
-    // Reads the file anew. One that is missing, or is no picture of the right size, leaves the previous
-    // picture, at start the built-in one.
+    // Reads the file anew. One that is missing or is no picture leaves the previous picture, at start the
+    // built-in one.
     void load(recorder::VideoStandard standard);
 
-    // Takes a copy of this file into the user data folder and names it in the settings. Throws RunTimeError.
-    void choose(recorder::VideoStandard standard, const QString &path,
+    struct Copy
+    {
+        QString path; // in the user data folder
+        QByteArray bytes;
+    };
+    // Names a copy of this file in the settings; it is yet to be written. Throws RunTimeError.
+    Copy choose(recorder::VideoStandard standard, const QString &path,
                 platform::SettingsFile &settings) const;
 
 private:
     QImage &held(recorder::VideoStandard standard)
     {
-        return standard == recorder::VideoStandard::Pal ? m_picPAL : m_picNTSC;
+        return m_pictures.at(static_cast<std::size_t>(standard));
     }
 
     const platform::Folders &m_folders;
-    QImage m_picPAL, m_picNTSC;
+    std::array<QImage, 2> m_pictures; // by standard
 };
 
 } // namespace surface

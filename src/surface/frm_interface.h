@@ -82,7 +82,7 @@ public:
     const Grid &grid() const { return m_grid; }
     Backgrounds &backgrounds() { return m_backgrounds; }
     // Keeps the grid and copies of the chosen backgrounds (paths, empty for the ones before), and shows them.
-    // Throws RunTimeError, with nothing changed.
+    // Throws RunTimeError; the settings are then as they were.
     void setOptions(const Grid &grid, const QString &palFile, const QString &ntscFile);
     // The panels and the library's bar as a first start lays them out.
     void resetPanels();

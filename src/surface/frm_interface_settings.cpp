@@ -1,11 +1,14 @@
 // The design window's start, its background pictures and grid, and what it keeps in the settings file.
 
+#include "platform/file_replace.h"
 #include "surface/canvas.h"
 #include "surface/canvas_view.h"
 #include "surface/frm_interface.h"
 #include "surface/library_panel.h"
 #include "surface/panel_area.h"
 #include "surface/variable_tree.h"
+
+#include <vector>
 
 namespace surface {
 
@@ -44,10 +47,15 @@ void frmInterface::setOptions(const Grid &grid, const QString &palFile, const QS
     keys::GridSize.write(file, grid.spacing);
     keys::ShowGrid.write(file, grid.shown ? 1 : 0);
     keys::SnapGrid.write(file, grid.snaps ? 1 : 0);
-    if (!palFile.isEmpty())
-        m_backgrounds.choose(VideoStandard::Pal, palFile, file);
-    if (!ntscFile.isEmpty())
-        m_backgrounds.choose(VideoStandard::Ntsc, ntscFile, file);
+    std::vector<Backgrounds::Copy> copies;
+    const auto choose = [&](VideoStandard standard, const QString &path) {
+        if (platform::FileExists(path))
+            copies.push_back(m_backgrounds.choose(standard, path, file));
+    };
+    choose(VideoStandard::Pal, palFile);
+    choose(VideoStandard::Ntsc, ntscFile);
+    for (const Backgrounds::Copy &copy : copies)
+        platform::replaceFile(copy.path, copy.bytes);
     file.save();
     m_backgrounds.load(VideoStandard::Pal);
     m_backgrounds.load(VideoStandard::Ntsc);

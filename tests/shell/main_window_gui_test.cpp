@@ -1,6 +1,7 @@
 #include "platform/file_replace.h"
 #include "support/design_window.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
 
@@ -122,13 +123,15 @@ TEST_F(MainWindow, OptionsAreKeptAndSeenAtOnce)
 {
     const platform::Folders &folders = w.world.state.folders;
     const QString wrong = "wrong.bmp\nImage should be 720 X ";
-    for (const char *size : {"19", "1001", "20"}) {
+    QDir(w.world.root.path()).mkdir("other");
+    for (const auto &[size, kept] : {std::pair("19", 0), {"1001", 0}, {"1000", 1000}, {"20", 20}}) {
         test::whenOpened([&](QWidget &dialog) {
             auto &grid = test::child<QLineEdit>(dialog, "txtGridSize");
             grid.selectAll();
             QTest::keyClicks(&grid, QString("-%1.").arg(size));
             EXPECT_EQ(grid.text(), size);
-            test::press(dialog, "chkShowGrid");
+            for (const char *box : {"chkShowGrid", "chkSnapToGrid"})
+                test::child<QCheckBox>(dialog, box).setChecked(false);
             prompts.expectOpenFile(picture("wrong.bmp", {720, 480}));
             prompts.expectMessage(wrong + "576");
             test::press(dialog, "cmdPALImgBrowse");
@@ -137,25 +140,45 @@ TEST_F(MainWindow, OptionsAreKeptAndSeenAtOnce)
             test::press(dialog, "cmdNTSCImgBrowse");
             prompts.expectOpenFile(picture("PIT.bmp", {720, 576}));
             test::press(dialog, "cmdPALImgBrowse");
-            if (QString(size) != "20")
+            if (kept == 20) { // a name that the other standard has
+                prompts.expectOpenFile(picture("other/PIT.bmp", {720, 480}));
+                test::press(dialog, "cmdNTSCImgBrowse");
+            }
+            if (kept == 0)
                 prompts.expectMessage("Invalid grid size");
             test::press(dialog, "cmdOk");
             test::press(dialog, "cmdCancel");
         });
         w.run("mnuOptions");
-        EXPECT_EQ(w.design().grid().spacing, QString(size) == "20" ? 20 : 0);
+        w.design().load();
+        EXPECT_EQ(w.design().grid().spacing, kept);
+        EXPECT_EQ(w.design().grid().shown || w.design().grid().snaps, kept == 0);
+        EXPECT_EQ(w.design().backgrounds().fileName(recorder::VideoStandard::Ntsc), "NTSCVIDEOBackImg.bmp");
     }
+    EXPECT_EQ(w.design().backgrounds().picture(recorder::VideoStandard::Ntsc).pixelColor(5, 5), Qt::red);
     EXPECT_EQ(w.shown({5, 5}), QColor(Qt::red));
     EXPECT_EQ(w.design().backgrounds().fileName(recorder::VideoStandard::Pal), "PIT.bmp");
-    // A file that is gone or of the wrong size at the next start leaves the picture that came with the
-    // program.
+    // At the next start a file of another size is taken as it is; for one that is gone there is the picture
+    // that came with the program.
     for (const QSize size : {QSize(720, 480), QSize()}) {
         QFile::remove(folders.inUserData("PIT.bmp"));
         if (!size.isEmpty())
             QFile::copy(picture("wrong.bmp", size), folders.inUserData("PIT.bmp"));
         surface::Backgrounds next(folders);
-        EXPECT_EQ(next.picture(recorder::VideoStandard::Pal).size(), QSize(720, 576));
+        EXPECT_EQ(next.picture(recorder::VideoStandard::Pal).height(), size.isEmpty() ? 576 : 480);
     }
+}
+
+TEST(Commands, AnotherPersonalityLacksSomeEntries)
+{
+    QStringList lacking;
+    for (const shell::Command &row : shell::commands()) {
+        EXPECT_TRUE(shell::isOffered(row, platform::Personality::MORVEL));
+        if (!shell::isOffered(row, platform::Personality::hVault))
+            lacking.append(row.name);
+    }
+    EXPECT_EQ(lacking, (QStringList{"mnuAutoStartStopRec", "mnuAutoChapterMark", "dashsp", "l4", "mnuBitRate",
+                                    "mnuEncodePattern"}));
 }
 
 TEST_F(MainWindow, ShowsTheHelpThatIsInstalled)
