@@ -74,7 +74,8 @@ void Panel::takeFocus()
 {
     raise();
     QWidget *last = focusWidget();
-    (last ? last : firstStop(m_content))->setFocus(Qt::ShortcutFocusReason);
+    const bool isInside = last && m_content->isAncestorOf(last); // and not the button that closes the panel
+    (isInside ? last : firstStop(m_content))->setFocus(Qt::ShortcutFocusReason);
 }
 
 Qt::Edges Panel::edgesAt(const QPoint &position) const
