@@ -74,6 +74,17 @@ void Canvas::mousePressEvent(QMouseEvent *event)
         pressEmpty(*event);
 }
 
+// Opens the property dialog, which takes the release.
+void Canvas::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+    if (event->button() != Qt::LeftButton || event->modifiers() != Qt::NoModifier ||
+        m_gesture.kind() == Gesture::Kind::Band)
+        return;
+    endGesture();
+    pressKey(Qt::Key_Return);
+}
+
 void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
 {
     const bool ctrl = event.modifiers() == Qt::ControlModifier;
