@@ -88,8 +88,8 @@ class Desktop:
         self._environment["DISPLAY"] = self.display = f":{number}"
         self.screen = Screen(stage / "Xvfb_screen0")
 
-    def save_picture(self, path: Path) -> None:
-        subprocess.run(("import", "-window", "root", path), env=self._environment, check=False)
+    def save_picture(self, path: Path, window: str = "root") -> None:
+        subprocess.run(("import", "-window", window, path), env=self._environment, check=False)
 
     def close(self) -> None:
         for process in reversed(self._processes):
@@ -125,6 +125,9 @@ class Desktop:
     def focused(self) -> str:
         """The title of the window that gets the keys."""
         return self._do("getwindowfocus", "getwindowname")
+
+    def focused_window(self) -> str:
+        return self._do("getwindowfocus")
 
     def key(self, *keys: str) -> None:
         self._do("key", "--delay", "20", *keys)
