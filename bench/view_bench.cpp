@@ -4,6 +4,7 @@
 #include "bench_support.h"
 #include "controls/bitmap/bitmap.h"
 #include "surface/canvas_view.h"
+#include "surface/zoom.h"
 
 #include <QApplication>
 #include <QScrollBar>
