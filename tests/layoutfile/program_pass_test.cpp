@@ -81,7 +81,8 @@ TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
         if (entry.used == 1)
             used.mark(entry.variable);
     }
-    ProgramPass pass(catalogue, used, {});
+    const platform::NumberLocale locale;
+    ProgramPass pass(catalogue, used, locale);
     for (const VariableEntry &entry : expected)
         EXPECT_EQ(encodePayload(pass.entry(entry.variable)).toHex(), encodePayload(entry).toHex());
     EXPECT_EQ(pass.programs().size(), 272);
