@@ -14,7 +14,7 @@ constexpr double LimitMs = 300;
 void defineEntries(surface::frmInterface &design)
 {
     const platform::Stamp stamp = platform::systemStamp();
-    surface::CustomLibrary library(design, stamp);
+    surface::CustomLibrary library(design, design, stamp);
     const std::span<const controls::Family> families = controls::families();
     for (std::size_t i = 0; i < Entries; ++i) {
         const controls::Family &family = families[i % families.size()];

@@ -1,14 +1,14 @@
 #include "surface/custom_library.h"
 
-#include "common/code_page.h"
 #include "controls/bitmap/picture_copies.h"
 #include "controls/factories.h"
 #include "graphics/picture_loader.h"
 #include "platform/guards.h"
 
-#include <QDir>
+#include <QFile>
 
 #include <algorithm>
+#include <utility>
 
 namespace surface {
 
@@ -32,6 +32,22 @@ QStringList textsFor(const OverlayControl &control, const SettingsFile &file, in
     return customTexts(file.ini(), control.family(), place, control.Serialise().size());
 }
 
+// The names of copies among the texts.
+QStringList copyNames(const OverlayControl &control, const QStringList &texts)
+{
+    QStringList names;
+    for (const auto &[element, picture] : control.copies())
+        names.append(texts[element]);
+    return names;
+}
+
+// For the copy that a placed control gets: the first is of its picture, the next one of its alpha.
+QString placedName(const OverlayControl &control, qsizetype element, const QTime &time)
+{
+    const char kind = element == control.copies().front().element ? 'S' : 'A';
+    return controls::loadedName(kind, time, static_cast<int>(element));
+}
+
 void removeWithin(const QString &folder, const QString &name)
 {
     QFile::remove(platform::nameWithin(folder, name)); // one that is gone is no loss
@@ -49,15 +65,26 @@ QList<CustomEntry> CustomLibrary::entries(const Family &family) const
 void CustomLibrary::define(const QString &key, const OverlayControl &control)
 {
     const Family &family = control.family();
-    const QStringList texts = withOwnCopies(control);
-    const QString thumbnail = thumbnailName(m_host.folders().cache, m_stamp.now());
-    makeIcon(family, thumbnail, [&](OverlayControl &icon) { fillConfigured(icon, texts); });
-    SettingsFile store = file();
-    defineEntry(store.ini(), family, key, thumbnail, texts);
-    if (const auto reason = platform::failureOf([&] { store.save(); })) {
-        removeFiles(control, thumbnail, texts);
-        throw common::RunTimeError(*reason);
-    }
+    const platform::Folders &folders = m_host.folders();
+    const QString thumbnail = thumbnailName(folders.cache, m_stamp.now());
+    QStringList made;
+    const auto reason = platform::failureOf([&] {
+        QStringList texts = control.Serialise();
+        for (const auto &[element, picture] : control.copies()) {
+            texts[element] = ownCopy(texts[element], std::get<QImage>(control.read(picture)));
+            made.append(texts[element]);
+        }
+        makeIcon(family, thumbnail, [&](OverlayControl &icon) { fillConfigured(icon, texts); });
+        SettingsFile store = file();
+        defineEntry(store.ini(), family, key, thumbnail, texts);
+        store.save();
+    });
+    if (!reason)
+        return;
+    for (const QString &name : made)
+        removeWithin(folders.pictureFolder(), name);
+    removeWithin(folders.cache, thumbnail);
+    throw common::RunTimeError(*reason);
 }
 
 void CustomLibrary::rename(const QString &key, const QString &newKey)
@@ -81,19 +108,22 @@ void CustomLibrary::remove(const QString &key)
     const QStringList texts = textsFor(*control, store, entry->place);
     deleteEntry(store.ini(), family, entry->place);
     store.save();
-    removeFiles(*control, entry->thumbnail, texts);
+    removeWithin(m_host.folders().cache, entry->thumbnail);
+    const QStringList used = usedCopies(*control, store);
+    for (const QString &name : copyNames(*control, texts)) {
+        if (!used.contains(name)) // entries from elsewhere and controls may share them
+            removeWithin(m_host.folders().pictureFolder(), name);
+    }
 }
 
-void CustomLibrary::removeFiles(const OverlayControl &control, const QString &thumbnail,
-                                const QStringList &texts) const
+QStringList CustomLibrary::usedCopies(const OverlayControl &control, const SettingsFile &store) const
 {
-    const platform::Folders &folders = m_host.folders();
-    removeWithin(folders.cache, thumbnail);
-    const QByteArray library = file().ini().bytes();
-    for (const auto &[element, picture] : control.copies()) {
-        if (!library.contains(common::toCodePage(texts[element]))) // entries from elsewhere may share them
-            removeWithin(folders.pictureFolder(), texts[element]);
-    }
+    QStringList used;
+    for (const OverlayControl *placed : m_surface.controls())
+        used += copyNames(*placed, placed->Serialise());
+    for (const CustomEntry &entry : customEntries(store.ini(), control.family()))
+        used += copyNames(control, textsFor(control, store, entry.place));
+    return used;
 }
 
 void CustomLibrary::configure(OverlayControl &control, const QString &key) const
@@ -103,34 +133,27 @@ void CustomLibrary::configure(OverlayControl &control, const QString &key) const
     if (!entry)
         return control.applyInitialProperties();
     QStringList texts = textsFor(control, store, entry->place);
+    const QString folder = m_host.folders().pictureFolder();
     for (const auto &[element, picture] : control.copies()) {
-        const QString wanted = controls::loadedName('S', m_stamp.now().time(), static_cast<int>(element));
-        skipFailures([&] { texts[element] = ownCopy(texts[element], wanted, {}); });
+        const QString entrys = std::exchange(texts[element], {}); // which stays the entry's alone
+        const QString wanted = placedName(control, element, m_stamp.now().time());
+        skipFailures([&] {
+            const QByteArray bytes = platform::readFile(platform::nameWithin(folder, entrys));
+            const QString own = controls::ownCopyName(folder, wanted, entrys);
+            controls::keepCopy(folder, own, bytes, platform::Flush::None);
+            texts[element] = own;
+        });
     }
     fillConfigured(control, texts);
 }
 
-QStringList CustomLibrary::withOwnCopies(const OverlayControl &control) const
+QString CustomLibrary::ownCopy(const QString &name, const QImage &picture) const
 {
-    QStringList texts = control.Serialise();
-    for (const auto &[element, picture] : control.copies())
-        texts[element] = ownCopy(texts[element], texts[element], std::get<QImage>(control.read(picture)));
-    return texts;
-}
-
-QString CustomLibrary::ownCopy(const QString &name, const QString &wanted, const QImage &picture) const
-{
+    if (name.trimmed().isEmpty() || picture.isNull())
+        return {};
     const QString folder = m_host.folders().pictureFolder();
-    if (name.trimmed().isEmpty())
-        return name;
-    QByteArray bytes;
-    const QString path = platform::nameWithin(folder, name);
-    if (!skipFailures([&] { bytes = platform::readFile(path); }) && !picture.isNull())
-        bytes = graphics::bmpOf(picture);
-    if (bytes.isEmpty())
-        return name;
-    const QString own = controls::ownCopyName(folder, wanted);
-    controls::keepCopy(folder, own, bytes, platform::Flush::ToDevice);
+    const QString own = controls::ownCopyName(folder, name, name);
+    controls::keepCopy(folder, own, graphics::bmpOf(picture), platform::Flush::ToDevice);
     return own;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/control_surface.h"
 #include "controls/overlay_control.h"
 #include "platform/progress.h"
 #include "platform/settings_file.h"
@@ -15,7 +16,12 @@ namespace surface {
 class CustomLibrary
 {
 public:
-    CustomLibrary(controls::ControlHost &host, const platform::Stamp &stamp) : m_host(host), m_stamp(stamp) {}
+    // The copies that the controls of the surface refer to are left alone.
+    CustomLibrary(controls::ControlHost &host, const controls::ControlSurface &surface,
+                  const platform::Stamp &stamp)
+        : m_host(host), m_surface(surface), m_stamp(stamp)
+    {
+    }
 
     QList<CustomEntry> entries(const controls::Family &family) const;
     // `key` is that of no entry yet.
@@ -35,16 +41,18 @@ private:
     };
 
     platform::SettingsFile file() const;
-    // The name of a new copy of the file of this name or, where that is gone, of the picture.
-    QString ownCopy(const QString &name, const QString &wanted, const QImage &picture) const;
-    QStringList withOwnCopies(const controls::OverlayControl &control) const;
-    void removeFiles(const controls::OverlayControl &control, const QString &thumbnail,
-                     const QStringList &texts) const;
+    // Keeps the picture of a control that calls its own copy `name`; the name of the new copy, empty for
+    // none. The file under the control's name may be gone, or hold another picture.
+    QString ownCopy(const QString &name, const QImage &picture) const;
+    // What the controls of the surface and the entries of the control's family refer to.
+    QStringList usedCopies(const controls::OverlayControl &control,
+                           const platform::SettingsFile &store) const;
     void makeIcon(const Icon &icon, platform::SettingsFile &store) const;
     // False when there is none; that costs the entry its picture only.
     bool makeIcon(const controls::Family &family, const QString &name, const IconFilling &fill) const;
 
     controls::ControlHost &m_host;
+    const controls::ControlSurface &m_surface;
     const platform::Stamp &m_stamp;
 };
 

@@ -1,7 +1,9 @@
 #include "surface/custom_store.h"
 
 #include "common/code_page.h"
+#include "common/run_time_error.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <map>
@@ -83,6 +85,23 @@ void writeIndex(IniFile &file, const Family &family)
     file.write(keysOf(family), CountKey, QString::number(entries.isEmpty() ? 0 : entries.back().place));
 }
 
+// The next place behind all entries and, where the last one is taken, from the first on. A section without a
+// key is of an entry that has lost it.
+int freePlace(const IniFile &file, const Family &family)
+{
+    const QList<CustomEntry> entries = customEntries(file, family);
+    QSet<int> taken;
+    for (const CustomEntry &entry : entries)
+        taken.insert(entry.place);
+    const int last = entries.isEmpty() ? 0 : entries.back().place;
+    for (int step = 0; step < MostPlaces; ++step) {
+        const int place = (last + step) % MostPlaces + 1;
+        if (!taken.contains(place) && !file.hasSection(textsOf(family, place)))
+            return place;
+    }
+    throw common::RunTimeError(QStringLiteral("The control library is full"));
+}
+
 // Gives the entry's lines the place before its own, which is free.
 void moveUp(IniFile &file, const Family &family, const CustomEntry &entry)
 {
@@ -133,10 +152,7 @@ QStringList customTexts(const IniFile &file, const Family &family, int place, qs
 CustomEntry defineEntry(IniFile &file, const Family &family, const QString &key, const QString &thumbnail,
                         const QStringList &texts)
 {
-    const QList<CustomEntry> entries = customEntries(file, family);
-    int place = entries.isEmpty() ? 1 : entries.back().place + 1;
-    while (file.hasSection(textsOf(family, place))) // of an entry that has lost its key
-        ++place;
+    const int place = freePlace(file, family);
     writePlace(file, keysOf(family), place, key);
     setThumbnail(file, family, place, thumbnail);
     for (qsizetype i = 0; i < texts.size(); ++i)

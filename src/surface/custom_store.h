@@ -30,7 +30,8 @@ QString customKey(const controls::Family &family, const QString &name);
 QStringList customTexts(const common::IniFile &file, const controls::Family &family, int place,
                         qsizetype count);
 
-// Puts an entry behind all others; the one that was made.
+// Puts an entry behind all others or, where that has no room, into a gap; the one that was made. Throws
+// RunTimeError when there is none.
 CustomEntry defineEntry(common::IniFile &file, const controls::Family &family, const QString &key,
                         const QString &thumbnail, const QStringList &texts);
 void renameEntry(common::IniFile &file, const controls::Family &family, int place, const QString &key);

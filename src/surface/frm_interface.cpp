@@ -25,7 +25,7 @@ const QString UntitledCaption = QStringLiteral("Untitled");
 
 frmInterface::frmInterface(const InterfaceContext &context)
     : m_context(context), m_canvas(new Canvas), m_canvasView(new CanvasView(*m_canvas)),
-      m_library(new LibraryPanel(*this, context.stamp)),
+      m_library(new LibraryPanel(*this, *this, context.stamp)),
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
       m_backgrounds(context.folders), m_caption(UntitledCaption)
 {

@@ -54,14 +54,16 @@ QTreeWidgetItem *newItem(const QString &key, const QString &text, const QIcon &i
 
 } // namespace
 
-LibraryPanel::LibraryPanel(controls::ControlHost &host, const platform::Stamp &stamp)
-    : QSplitter(Qt::Horizontal), m_host(host), m_custom(host, stamp),
+LibraryPanel::LibraryPanel(controls::ControlHost &host, const controls::ControlSurface &surface,
+                           const platform::Stamp &stamp)
+    : QSplitter(Qt::Horizontal), m_host(host), m_custom(host, surface, stamp),
       m_tree(makeView<Tree, QTreeWidgetItem>()), m_list(makeView<List, QListWidgetItem>())
 {
     setChildrenCollapsible(false);
     m_tree->setObjectName(QStringLiteral("trvControl"));
     m_tree->setAccessibleName(QStringLiteral("Control library"));
     m_tree->setHeaderHidden(true);
+    m_tree->setExpandsOnDoubleClick(false); // which adds a control
     m_tree->setIndentation(12);
     m_list->setObjectName(QStringLiteral("lvControl"));
     m_list->setAccessibleName(QStringLiteral("Entries of the chosen kind"));
@@ -131,6 +133,15 @@ void LibraryPanel::loadEntries(const controls::Family &family)
     const QIcon icon = familyIcon("entry");
     for (const CustomEntry &entry : m_custom.entries(family))
         root.addChild(newItem(entry.key, entry.name(), icon));
+}
+
+void LibraryPanel::reload(const controls::Family &family, const QString &former, const QString &latter)
+{
+    const QTreeWidgetItem *node = m_tree->currentItem();
+    const QString current = node ? keyIn(*node) : QString();
+    loadEntries(family);
+    m_tree->setCurrentItem(itemOf(current == former ? latter : current));
+    loadControlList();
 }
 
 void LibraryPanel::GenerateIcons(platform::Progress &progress)
@@ -214,10 +225,9 @@ void LibraryPanel::mnuDefineCustom_Click(const controls::OverlayControl &control
         return;
     }
     m_custom.define(key, control);
-    loadEntries(family);
+    reload(family);
     if (const QTreeWidgetItem *made = itemOf(key))
         m_tree->scrollToItem(made);
-    loadControlList();
 }
 
 void LibraryPanel::rename(const QString &key)
@@ -228,7 +238,7 @@ void LibraryPanel::rename(const QString &key)
     const QString name = m_host.prompts().input(platform::ProductTitle,
                                                 QStringLiteral("Please eneter the control name"), key.mid(1));
     const QString newKey = customKey(family, name);
-    if (name.trimmed().isEmpty())
+    if (name.trimmed().isEmpty() || newKey == key)
         return;
     if (ControlNameExists(newKey)) {
         m_host.prompts().message(platform::Icon::Critical, platform::ProductTitle,
@@ -236,8 +246,7 @@ void LibraryPanel::rename(const QString &key)
         return;
     }
     m_custom.rename(key, newKey);
-    loadEntries(family);
-    m_tree->setCurrentItem(itemOf(newKey));
+    reload(family, key, newKey);
 }
 
 void LibraryPanel::remove(const QString &key)
@@ -247,8 +256,7 @@ void LibraryPanel::remove(const QString &key)
         return;
     const controls::Family &family = *controls::familyOfKey(key);
     m_custom.remove(key);
-    loadEntries(family);
-    m_tree->setCurrentItem(rootOf(family));
+    reload(family, key, QLatin1String(family.rootKey));
 }
 
 void LibraryPanel::configure(controls::OverlayControl &control, const QString &key) const

@@ -16,7 +16,8 @@ class LibraryPanel final : public QSplitter
     Q_OBJECT
 
 public:
-    LibraryPanel(controls::ControlHost &host, const platform::Stamp &stamp);
+    LibraryPanel(controls::ControlHost &host, const controls::ControlSurface &surface,
+                 const platform::Stamp &stamp);
 
     void loadControlTree();
     // Makes the pictures of all entries anew and selects the first family.
@@ -47,6 +48,8 @@ private:
     QTreeWidgetItem *itemOf(const QString &key) const; // null when there is none
     bool ControlNameExists(const QString &key) const { return itemOf(key) != nullptr; }
     void loadEntries(const controls::Family &family);
+    // Shows the family's entries as they stand now. The selection stays, but `former` gives it to `latter`.
+    void reload(const controls::Family &family, const QString &former = {}, const QString &latter = {});
     // Shows the entries of the selected node with their pictures.
     void loadControlList();
     void addToList(const QString &key, const QString &caption, const QString &thumbnail);

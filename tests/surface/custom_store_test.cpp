@@ -59,6 +59,9 @@ TEST(CustomStore, LosesNothingOfAFileThatWasEditedIntoNonsense)
                   expected + (expected.empty() ? "" : "; ") + std::to_string(nextPlace) + " anew");
         EXPECT_EQ(file.read("QLAGAUGE", "CNT", "", 10), QString::number(nextPlace));
     }
+    IniFile full = IniFile::parse("[QLAGAUGE]\n9999=ax\n");
+    defineEntry(full, Gauges, "anew", "", {});
+    EXPECT_EQ(listed(full), "1 anew; 9999 ax");
     const IniFile texts =
         IniFile::parse("[QLAGAUGE/1]\n1=" + QByteArray(300, 'y') + "\n1=z\n-1=z\n9=z\n02=z");
     EXPECT_EQ(customTexts(texts, Gauges, 1, 3), (QStringList{"0", QString(199, 'y'), "0"}));

@@ -39,9 +39,10 @@ QString numbered(const QString &wanted, Test serves)
 {
     const QString plain = plainName(wanted);
     const QFileInfo parts(plain);
+    const QString ending = parts.suffix().isEmpty() ? QString() : u'.' + parts.suffix();
     QString name = plain;
     for (int number = 2; !serves(name); ++number)
-        name = QStringLiteral("%1 %2.%3").arg(parts.completeBaseName()).arg(number).arg(parts.suffix());
+        name = QStringLiteral("%1 %2%3").arg(parts.completeBaseName(), QString::number(number), ending);
     return name;
 }
 
@@ -52,9 +53,9 @@ QString copyName(const QString &folder, const QString &wanted, const QByteArray 
     return numbered(wanted, [&](const QString &name) { return mayHold(folder + name, bytes); });
 }
 
-QString ownCopyName(const QString &folder, const QString &wanted)
+QString ownCopyName(const QString &folder, const QString &wanted, const QString &named)
 {
-    return numbered(wanted, [&](const QString &name) { return !isTaken(folder + name); });
+    return numbered(wanted, [&](const QString &name) { return name != named && !isTaken(folder + name); });
 }
 
 void keepCopy(const QString &folder, const QString &name, const QByteArray &bytes, platform::Flush flush)
@@ -79,7 +80,7 @@ QString loadedName(char kind, const QTime &time, int number)
 
 void removeUnusedCopies(const platform::Folders &folders)
 {
-    static const QRegularExpression Loaded(QStringLiteral("^[SA]\\d{7,}( \\d+)?\\.bmp$"));
+    static const QRegularExpression Loaded(QStringLiteral("^[SA]\\d{7,}( \\d+)*\\.bmp$"));
     QByteArray library;
     const QString libraryFile = folders.ControlConfigFile();
     if (QFileInfo::exists(libraryFile) &&

@@ -14,8 +14,8 @@ namespace controls {
 // of other bytes has it.
 QString copyName(const QString &folder, const QString &wanted, const QByteArray &bytes);
 
-// The name for a copy that nothing else refers to.
-QString ownCopyName(const QString &folder, const QString &wanted);
+// The name for a copy that nothing else refers to. A control may refer to `named` though the file is gone.
+QString ownCopyName(const QString &folder, const QString &wanted, const QString &named);
 
 // Writes the copy unless it lies there already. Throws RunTimeError with the system's reason.
 void keepCopy(const QString &folder, const QString &name, const QByteArray &bytes, platform::Flush flush);
