@@ -139,6 +139,7 @@ void Canvas::unload(OverlayControl &control)
     if (m_gesture.control().get() == &control)
         endGesture();
     m_lifted.removeOne(&control);
+    control.SetControlGridColour(controls::FrameNormal); // who still holds it holds no member of the group
     m_controls.unload(control);
     m_selection.dropCurrent();
     m_picture.touch(area);
@@ -149,6 +150,7 @@ void Canvas::unload(OverlayControl &control)
 void Canvas::clear()
 {
     endGesture();
+    m_selection.ResetControlGridColour();
     m_controls.clear();
     m_selection.dropCurrent();
     m_picture.touch(m_ground.rect());

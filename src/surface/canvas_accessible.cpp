@@ -4,6 +4,7 @@
 #include "surface/control_text.h"
 
 #include <QAccessibleWidget>
+#include <QHash>
 
 #include <algorithm>
 

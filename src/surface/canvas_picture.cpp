@@ -26,6 +26,11 @@ QRegion taken(QRegion &region, const QRect &area)
     return part;
 }
 
+// Of the frames: where the canvas is shown larger still, they are drawn at each painting.
+constexpr qint64 MostKeptPixels = 8'000'000;
+
+bool isKept(QSize size) { return qint64{size.width()} * size.height() <= MostKeptPixels; }
+
 bool isWhole(double factor) { return factor == std::floor(factor); }
 
 } // namespace
@@ -64,6 +69,8 @@ void CanvasPicture::refresh(const ControlList &resting, const QRect &area)
 
 void CanvasPicture::refreshFrames(const ControlList &resting, const QRect &shown)
 {
+    if (m_frames.isNull())
+        return;
     QPainter painter(&m_frames);
     painter.setClipRect(shown);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
@@ -79,9 +86,11 @@ void CanvasPicture::paint(QPainter &painter, const QRect &shown, const ControlLi
                           const ControlList &lifted)
 {
     const double ratio = painter.device()->devicePixelRatioF();
-    const QRect whole = m_zoom.shown(m_ground.rect());
-    if (m_frames.isNull() || m_frames.devicePixelRatio() != ratio) {
-        m_frames = QImage((QSizeF(whole.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    const QSize whole = (QSizeF(m_zoom.shown(m_ground.rect()).size()) * ratio).toSize();
+    if (!isKept(whole)) {
+        m_frames = {};
+    } else if (m_frames.isNull() || m_frames.devicePixelRatio() != ratio) {
+        m_frames = QImage(whole, QImage::Format_ARGB32_Premultiplied);
         m_frames.setDevicePixelRatio(ratio);
         m_touchedFrames = m_ground.rect();
     }
@@ -92,9 +101,10 @@ void CanvasPicture::paint(QPainter &painter, const QRect &shown, const ControlLi
         refresh(resting, area);
     }
     paintOverlay(painter, area, lifted);
-    painter.drawImage(QRectF(shown), m_frames,
-                      QRectF(QPointF(shown.topLeft()) * ratio, QSizeF(shown.size()) * ratio));
-    for (const OverlayControl *control : lifted)
+    if (!m_frames.isNull())
+        painter.drawImage(QRectF(shown), m_frames,
+                          QRectF(QPointF(shown.topLeft()) * ratio, QSizeF(shown.size()) * ratio));
+    for (const OverlayControl *control : m_frames.isNull() ? order : lifted)
         m_framePainter.paint(painter, *control, m_zoom);
 }
 

@@ -37,8 +37,10 @@ void CanvasView::setFitting(bool fitting)
 
 void CanvasView::fit()
 {
+    if (!m_isFitting || m_canvas.canvasSize().isEmpty()) // not displayed yet
+        return;
     const int fitting = fittingZoom(m_canvas.canvasSize(), maximumViewportSize());
-    if (m_isFitting && fitting != zoom())
+    if (fitting != zoom())
         zoomAround(fitting, {});
 }
 

@@ -3,6 +3,7 @@
 #include "surface/placing.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace surface {
 
@@ -26,6 +27,7 @@ void Clipboard::take(OverlayControl &copied, Operation operation, const QStringL
 
 void Clipboard::ReSetGroupCtrlArr(const ControlList &copied, Operation operation)
 {
+    control.reset();
     group.clear();
     std::vector<QPointF> corners;
     for (OverlayControl *member : copied) {

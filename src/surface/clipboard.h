@@ -24,7 +24,7 @@ struct CopiedControl
 std::vector<QPointF> offsetsToSmallest(std::vector<QPointF> corners);
 
 // The clipboard: one control, to be pasted any number of times, and a group that waits for its paste. A
-// control that is copied or cut takes the group's place.
+// control and a group take each other's place.
 struct Clipboard
 {
     std::optional<CopiedControl> control;

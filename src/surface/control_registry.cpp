@@ -1,6 +1,7 @@
 #include "surface/control_registry.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace surface {
 

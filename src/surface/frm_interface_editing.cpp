@@ -1,10 +1,13 @@
 // Copy, cut and paste of controls and groups, and the arrangement of a group.
 
+#include "common/run_time_error.h"
 #include "platform/guards.h"
 #include "surface/alignment.h"
 #include "surface/canvas.h"
 #include "surface/frm_interface.h"
 #include "surface/placing.h"
+
+#include <utility>
 
 namespace surface {
 
@@ -25,17 +28,24 @@ bool frmInterface::canTake() const { return m_canvas->hasGroup() || m_canvas->cu
 
 void frmInterface::take(Operation operation)
 {
-    if (m_canvas->hasGroup())
-        m_context.clipboard.ReSetGroupCtrlArr(group(), operation);
-    else if (OverlayControl *control = m_canvas->current())
-        operation == Operation::Copy ? control->mnuCopy_Click() : control->mnuCut_Click();
+    OverlayControl *control = m_canvas->current();
+    if (const ControlList members = group(); !members.isEmpty())
+        m_context.clipboard.ReSetGroupCtrlArr(members, operation);
+    else if (control && operation == Operation::Copy)
+        control->mnuCopy_Click();
+    else if (control)
+        control->mnuCut_Click();
 }
 
+// Throws RunTimeError, with nothing pasted and nothing removed.
 OverlayControl &frmInterface::paste(const CopiedControl &copied)
 {
     OverlayControl &control = loadControl(copied.type);
     showControl(control);
-    skipFailures([&] { control.Deserialise(copied.strings); });
+    if (const auto reason = platform::failureOf([&] { control.Deserialise(copied.strings); })) {
+        m_canvas->unload(control);
+        throw common::RunTimeError(*reason);
+    }
     const auto source = copied.control.lock();
     if (source)
         skipFailures([&] { control.takeOver(*source); });
@@ -51,7 +61,7 @@ void frmInterface::mnuPaste_Click()
     const auto &copied = m_context.clipboard.control;
     if (!copied)
         return;
-    m_canvas->choose(paste(*copied));
+    skipFailures([&] { m_canvas->choose(paste(*copied)); });
     emit controlsChanged();
     emit designChanged();
 }
@@ -59,7 +69,7 @@ void frmInterface::mnuPaste_Click()
 void frmInterface::PasteAllObjects()
 {
     for (const CopiedControl &member : std::exchange(m_context.clipboard.group, {}))
-        paste(member);
+        skipFailures([&] { paste(member); });
     emit controlsChanged();
     emit designChanged();
 }
@@ -96,8 +106,10 @@ void frmInterface::spaceEqually(Qt::Orientation along)
 
 void frmInterface::rearrange(const ControlList &group, const QList<Box> &boxes)
 {
-    for (qsizetype i = 0; i < group.size(); ++i)
-        MoveTo(*group[i], {boxes[i].Left, boxes[i].Top}, rules());
+    for (qsizetype i = 0; i < group.size(); ++i) {
+        const QPoint corner = controls::pixelRect(boxes[i], screen()).topLeft();
+        MoveTo(*group[i], screen().toTwips(QPointF(corner)), rules());
+    }
     emit designChanged();
 }
 

@@ -1,5 +1,7 @@
 #include "surface/gesture.h"
 
+#include <utility>
+
 namespace surface {
 
 using controls::OverlayControl;

@@ -4,6 +4,8 @@
 
 #include <QResizeEvent>
 
+#include <utility>
+
 namespace surface {
 
 namespace {

@@ -1,6 +1,8 @@
 #include "surface/selection.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace surface {
 

@@ -149,12 +149,13 @@ TEST_F(Marks, AHeldDeleteKeyDeletesOneControlAndChoosesNoOther)
     EXPECT_EQ(w.design().controls(), (QList<OverlayControl *>{&one, &three}));
     EXPECT_EQ(current(), nullptr);
     EXPECT_EQ(placeOf(three), QPoint(300, 200));
-    click(one);
+    click(one, Qt::ControlModifier);
     QTest::simulateEvent(&w.canvas(), true, Qt::Key_Delete, {}, {}, true); // held since before it was chosen
     EXPECT_EQ(w.design().controls().size(), 2);
     w.world.prompts.expectQuestion("Do you want to clear design area ?", true);
     w.run("mnuNew");
     EXPECT_EQ(current(), nullptr);
+    EXPECT_FALSE(w.design().canTake()); // the group is gone as well
     EXPECT_TRUE(w.canvas().hasFocus());
 }
 
