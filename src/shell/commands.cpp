@@ -112,8 +112,10 @@ struct CommandTable
     static bool canTake(const frmMain &w) { return w.m_design->canTake(); }
     static void paste(frmMain &w)
     {
-        w.m_state.clipboard.GroupPastePending() ? w.m_design->PasteAllObjects()
-                                                : w.m_design->mnuPaste_Click();
+        if (w.m_state.clipboard.GroupPastePending())
+            w.m_design->PasteAllObjects();
+        else
+            w.m_design->mnuPaste_Click();
     }
     template <Qt::Edge Edge>
     static void align(frmMain &w)
@@ -180,7 +182,7 @@ struct CommandTable
          .name = "mnuEditMode",
          .caption = "&Edit Mode",
          .icon = "toolbar/edit",
-         .shortcut = "F5", // of the one that is enabled
+         .shortcut = "F5; Esc", // of the one that is enabled
          .run = [](frmMain &w) { w.m_design->mnuEditMode_Click(); },
          .isEnabled = [](const frmMain &w) { return w.m_design->IsPlayMode(); },
          .inPreview = true},

@@ -63,7 +63,7 @@ public:
     ControlRegistry &registry() { return m_controls; }
 
 signals:
-    void pressed(QPointF twips); // on an empty place, with the left or the right button
+    void pressed(QPointF twips); // where a paste goes: on an empty place, or for a menu
     void dropped(const QString &key, QPointF twips);
     void positionShown(const QString &text);
     void currentShown(const QString &text); // family, variable and place; empty when none is current

@@ -1,5 +1,7 @@
 #include "surface/frame_painter.h"
 
+#include "surface/shown_grips.h"
+
 #include <algorithm>
 
 namespace surface {
@@ -60,7 +62,7 @@ void paintGrips(QPainter &painter, const OverlayControl &control, const platform
                 const Zoom &zoom)
 {
     const QPoint corner = zoom.shown(control.outerRect()).topLeft();
-    for (const controls::GripBox &grip : control.handles(static_cast<float>(zoom.factor()))) {
+    for (const controls::GripBox &grip : shownGrips(control, zoom)) {
         if (!grip.isFilled())
             continue;
         const QRect box(screen.toPixels(QPointF(grip.Left, grip.Top)).toPoint(),

@@ -44,7 +44,7 @@ TEST(Preview, ShowsTheRecordersPictureAndTakesNothingButTheWayBack)
     test::drag(w, {120, 210}, {{40, 40}});
     EXPECT_EQ(test::placeOf(bar), QPoint(100, 200));
 
-    w.pressToolButton("mnuEditMode");
+    test::press(w, Qt::Key_Escape);
     EXPECT_EQ(usable(w), before);
     EXPECT_EQ(w.canvas().grab().toImage(), edited);
     test::press(w, Qt::Key_Right); // still current

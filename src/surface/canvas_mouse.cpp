@@ -1,16 +1,17 @@
-// Mouse and keys of the canvas: the contract's order of events, in one place.
+// The mouse on the canvas: the contract's order of events, in one place.
 
 #include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/control_text.h"
+#include "surface/shown_grips.h"
 
-#include <QContextMenuEvent>
-#include <QKeyEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace surface {
 
@@ -19,8 +20,6 @@ using controls::OverlayControl;
 using platform::skipFailures;
 
 namespace {
-
-constexpr int WideStep = 10; // pixels of an arrow key with Shift
 
 Qt::CursorShape pointerOf(std::optional<Handle> handle)
 {
@@ -31,6 +30,13 @@ Qt::CursorShape pointerOf(std::optional<Handle> handle)
     if (*handle == Handle::TopRight || *handle == Handle::BottomLeft)
         return Qt::SizeBDiagCursor;
     return movesLeft(*handle) || movesRight(*handle) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+// Where the canvas is shown smaller the hand trembles over more of its pixels.
+platform::Screen underHand(const platform::Screen &screen, const Zoom &zoom)
+{
+    const auto shrinking = static_cast<float>(std::min(zoom.factor(), 1.0));
+    return {screen.tx / shrinking, screen.ty / shrinking};
 }
 
 // The canvas pixel that holds the point.
@@ -57,9 +63,8 @@ OverlayControl *Canvas::controlAt(QPointF pixels) const
 // The grips are as large at every zoom.
 std::optional<Handle> Canvas::handleAt(const OverlayControl &control, QPointF pixels) const
 {
-    const auto factor = static_cast<float>(m_zoom.factor());
     const QPointF at = m_rules.screen.toTwips(m_zoom.shown(pixels));
-    return controls::handleAt(control.handles(factor),
+    return controls::handleAt(shownGrips(control, m_zoom),
                               at - QPointF(control.box().Left, control.box().Top) * m_zoom.factor());
 }
 
@@ -95,10 +100,12 @@ void Canvas::pressControl(OverlayControl &control, const QMouseEvent &event)
     else
         m_selection.select(control);
     BringToFront(control);
-    if (opensMenu)
+    if (opensMenu) {
+        emit pressed(twips(event.position()));
         showMenu(control, event.globalPosition().toPoint());
-    else
+    } else {
         startGesture(control, event.position(), !toggles || control.IsSelectedToGroup());
+    }
 }
 
 void Canvas::startGesture(OverlayControl &control, QPointF pixels, bool drags)
@@ -175,7 +182,7 @@ void Canvas::track(QPointF at)
     }
     if (m_gesture.kind() == Gesture::Kind::Dragging)
         setCursor(Qt::SizeAllCursor);
-    if (!m_gesture.begins(at, m_rules.screen))
+    if (!m_gesture.begins(at, underHand(m_rules.screen, m_zoom)))
         return;
     if (m_lifted.isEmpty())
         lift();
@@ -219,25 +226,6 @@ void Canvas::endGesture()
     setBand(std::nullopt);
 }
 
-void Canvas::escape()
-{
-    if (m_gesture.kind() == Gesture::Kind::None) {
-        chooseNone();
-        return;
-    }
-    skipFailures([&] { m_gesture.takeBack(); });
-    if (const auto control = m_gesture.control())
-        showPosition(*control);
-    endGesture();
-}
-
-void Canvas::selectAll()
-{
-    for (OverlayControl *control : m_controls.controls())
-        m_selection.setGrouped(*control, true);
-    emit selectionChanged();
-}
-
 void Canvas::selectBand(QPointF start, QPointF end)
 {
     if (!isSelectingBand(start, end))
@@ -247,86 +235,6 @@ void Canvas::selectBand(QPointF start, QPointF end)
             m_selection.setGrouped(*control, true);
     }
     emit selectionChanged();
-}
-
-void Canvas::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Delete && event->isAutoRepeat())
-        return; // a key that is held deletes one control only
-    if (event->matches(QKeySequence::SelectAll) && !m_isPlayMode) {
-        selectAll();
-        return;
-    }
-    bool isOurs = true;
-    const int step = event->modifiers() & Qt::ShiftModifier ? WideStep : 1;
-    skipFailures([&] { isOurs = applyKey(event->key(), step); });
-    if (!isOurs)
-        QWidget::keyPressEvent(event);
-}
-
-void Canvas::pressKey(Qt::Key key)
-{
-    skipFailures([&] { applyKey(key); });
-}
-
-bool Canvas::applyKey(int key, int step)
-{
-    if (m_isPlayMode)
-        return false;
-    if (key == Qt::Key_Escape) {
-        escape();
-        return true;
-    }
-    OverlayControl *control = current();
-    if (!control)
-        return false;
-    const auto nudge = [&](int dx, int dy) {
-        control->nudge(dx * step, dy * step);
-        return true;
-    };
-    switch (key) {
-    case Qt::Key_Left:
-        return nudge(-1, 0);
-    case Qt::Key_Up:
-        return nudge(0, -1);
-    case Qt::Key_Right:
-        return nudge(1, 0);
-    case Qt::Key_Down:
-        return nudge(0, 1);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        control->mnuProperties_Click();
-        return true;
-    case Qt::Key_Delete:
-        control->mnuDelete_Click();
-        return true;
-    default:
-        return false;
-    }
-}
-
-// The menu key opens the same menu as the right button, which has been served at its press.
-void Canvas::contextMenuEvent(QContextMenuEvent *event)
-{
-    if (event->reason() != QContextMenuEvent::Keyboard || m_isPlayMode)
-        return;
-    const OverlayControl *control = current();
-    const QPoint middle = (control ? control->outerRect() : m_ground.rect()).center();
-    const QPoint place = mapToGlobal(m_zoom.shown(QPointF(middle))).toPoint();
-    if (control)
-        showMenu(*control, place);
-    else
-        showCanvasMenu(twips(middle), place);
-}
-
-// A canvas without controls to step to, or one that is being closed, lets the focus go.
-bool Canvas::focusNextPrevChild(bool forward)
-{
-    if (!isVisible() || m_isPlayMode || m_controls.controls().isEmpty())
-        return QWidget::focusNextPrevChild(forward);
-    emit stepped(forward);
-    return true;
 }
 
 void Canvas::showToolTip(const QHelpEvent &event)
@@ -348,31 +256,6 @@ bool Canvas::mouseEvent(QMouseEvent &event)
     const bool isHandled = QWidget::event(&onCanvas);
     event.setAccepted(onCanvas.isAccepted());
     return isHandled;
-}
-
-// Keys of the current control are no shortcuts.
-bool Canvas::event(QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-        return mouseEvent(*static_cast<QMouseEvent *>(event));
-    case QEvent::ToolTip:
-        showToolTip(*static_cast<QHelpEvent *>(event));
-        return true;
-    default:
-        break;
-    }
-    if (event->type() == QEvent::ShortcutOverride && current() && !m_isPlayMode) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if ((key >= Qt::Key_Left && key <= Qt::Key_Down) || key == Qt::Key_Delete) {
-            event->accept();
-            return true;
-        }
-    }
-    return QWidget::event(event);
 }
 
 } // namespace surface
