@@ -29,19 +29,19 @@ enum Place : unsigned {
 struct Command
 {
     unsigned places;
+    unsigned opens = 0;    // the place that is its sub-menu
     const char *name = ""; // of its action
     const char *caption = "";
     QString (*captionOf)(const frmMain &) = nullptr; // of a caption that follows the state, in its place
     const char *icon = "";                           // in the resources
     const char *shortcut = "";                       // several with "; " between them
     void (*run)(frmMain &) = nullptr;                // null for separators and sub-menus
-    unsigned opens = 0;                              // the place that is its sub-menu
     bool (*isChecked)(const frmMain &) = nullptr;    // null for entries without a mark
     bool (*isEnabled)(const frmMain &) = nullptr;    // null for always
-    bool inPreview = false;                          // whether it can be used in Preview, too
     bool (*isVisible)(const frmMain &) = nullptr;    // null for always
-    bool isMorvelOnly = false;                       // whether no other personality has it
     QString (*toolTip)(const frmMain &) = nullptr;   // null for the caption
+    bool inPreview = false;                          // whether it can be used in Preview, too
+    bool isMorvelOnly = false;                       // whether no other personality has it
 };
 
 std::span<const Command> commands();

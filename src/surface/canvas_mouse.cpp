@@ -240,11 +240,12 @@ void Canvas::selectBand(QPointF start, QPointF end)
 void Canvas::showToolTip(const QHelpEvent &event)
 {
     const OverlayControl *control = m_isPlayMode ? nullptr : controlAt(m_zoom.toCanvas(event.pos()));
-    if (control)
+    if (control) {
         QToolTip::showText(event.globalPos(), controlText(*control), this,
                            m_zoom.shown(control->outerRect()));
-    else
+    } else {
         QToolTip::hideText();
+    }
 }
 
 // The handlers of the mouse are told canvas pixels.
