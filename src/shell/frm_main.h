@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/dialog.h"
 #include "shell/commands.h"
 #include "shell/elided_label.h"
 #include "shell/file_commands.h"
@@ -23,9 +24,16 @@ class frmMain final : public QMainWindow
 public:
     frmMain(ProgramState &state, platform::Prompts &prompts);
 
-    surface::frmInterface &design() { return *m_design; }
+    // What the commands act on.
+    ProgramState &state() const { return m_state; }
+    platform::Prompts &prompts() const { return m_prompts; }
+    surface::frmInterface &design() const { return *m_design; }
     FileCommands &files() { return m_files; }
     const FileCommands &files() const { return m_files; }
+    VariableCommands &variables() { return m_variables; }
+    forms::Context dialogContext() { return {m_prompts, m_state.locale, this}; }
+    // Whether the group's popup was opened to paste.
+    bool groupMenuPastes() const { return m_groupMenuPastes; }
     Recovery &recovery() { return m_recovery; }
 
     // Caption, check marks and texts of the menus and the status bar.
@@ -68,8 +76,6 @@ private:
     QLabel *m_zoom;
     QLabel *m_standard;
     QLabel *m_bitRate;
-
-    friend struct CommandTable;
 };
 
 } // namespace shell
