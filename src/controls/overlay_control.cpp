@@ -140,9 +140,9 @@ void OverlayControl::bindVariable(qint32 variable)
 
 void OverlayControl::mnuProperties_Click()
 {
-    m_host.showProperties(*this);
-    // The layout counts as changed whatever the user did in the dialog: deliberate.
+    // The layout counts as changed whatever the user will do in the dialog: deliberate.
     m_host.UserControlChanged();
+    m_host.showProperties(*this);
 }
 
 } // namespace controls

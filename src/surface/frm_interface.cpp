@@ -167,7 +167,11 @@ void frmInterface::Delete(OverlayControl &control)
     emit designChanged();
 }
 
-void frmInterface::showProperties(OverlayControl &control) { controls::showPropertyDialog(control); }
+void frmInterface::showProperties(OverlayControl &control)
+{
+    controls::showPropertyDialog(control);
+    emit designChanged();
+}
 
 void frmInterface::redrawControl(const OverlayControl &control, const QRect &area)
 {
