@@ -6,14 +6,16 @@
 
 namespace common {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<QString> sectionOf(const QString &line)
 {
     const QString trimmed = line.trimmed();
-    if (!trimmed.startsWith(QLatin1Char('[')))
+    if (!trimmed.startsWith('['_L1))
         return std::nullopt;
-    const qsizetype end = trimmed.indexOf(QLatin1Char(']'));
+    const qsizetype end = trimmed.indexOf(']'_L1);
     return trimmed.mid(1, end < 0 ? -1 : end - 1).trimmed();
 }
 
@@ -22,14 +24,13 @@ bool sameName(QStringView a, QStringView b) { return a.compare(b.trimmed(), Qt::
 QString unquoted(const QString &value)
 {
     const QChar first = value.isEmpty() ? QChar() : value.front();
-    const bool quoted = value.size() >= 2 && first == value.back() &&
-                        (first == QLatin1Char('"') || first == QLatin1Char('\''));
+    const bool quoted = value.size() >= 2 && first == value.back() && (first == '"'_L1 || first == '\''_L1);
     return quoted ? value.mid(1, value.size() - 2) : value;
 }
 
 bool hasLineBreak(const QString &text)
 {
-    return text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\r')) || text.contains(QChar(0));
+    return text.contains('\n'_L1) || text.contains('\r'_L1) || text.contains(QChar(0));
 }
 
 bool readableName(const QString &name)
@@ -39,22 +40,16 @@ bool readableName(const QString &name)
 
 bool readableKey(const QString &key)
 {
-    return readableName(key) && !key.contains(QLatin1Char('=')) &&
-           !key.trimmed().startsWith(QLatin1Char('[')) && !key.trimmed().startsWith(QLatin1Char(';'));
+    return readableName(key) && !key.contains('='_L1) && !key.trimmed().startsWith('['_L1) &&
+           !key.trimmed().startsWith(';'_L1);
 }
 
-QString headerOf(const QString &section) { return QLatin1Char('[') + section.trimmed() + QLatin1Char(']'); }
+QString headerOf(const QString &section) { return '['_L1 + section.trimmed() + ']'_L1; }
 
 // Empty for a line that is no pair of key and value.
-QStringView keyOf(QStringView line)
-{
-    return line.first(qMax<qsizetype>(line.indexOf(QLatin1Char('=')), 0)).trimmed();
-}
+QStringView keyOf(QStringView line) { return line.first(qMax<qsizetype>(line.indexOf('='_L1), 0)).trimmed(); }
 
-QString valueOf(const QString &line)
-{
-    return unquoted(line.mid(line.indexOf(QLatin1Char('=')) + 1).trimmed());
-}
+QString valueOf(const QString &line) { return unquoted(line.mid(line.indexOf('='_L1) + 1).trimmed()); }
 
 // Below a section's header; -1 when it has no such key.
 qsizetype lineOf(const QStringList &lines, const QString &key)
@@ -88,7 +83,7 @@ QString buffered(const QString &value, int bufferSize)
 QString protectedValue(const QString &value)
 {
     const bool needsQuotes = value != value.trimmed() || unquoted(value) != value;
-    return needsQuotes ? QLatin1Char('"') + value + QLatin1Char('"') : value;
+    return needsQuotes ? '"'_L1 + value + '"'_L1 : value;
 }
 
 } // namespace
@@ -97,8 +92,8 @@ IniFile IniFile::parse(const QByteArray &bytes)
 {
     IniFile file;
     QString text = fromCodePage(bytes);
-    text.remove(QLatin1Char('\r'));
-    QStringList lines = text.split(QLatin1Char('\n'));
+    text.remove('\r'_L1);
+    QStringList lines = text.split('\n'_L1);
     while (!lines.isEmpty() && lines.back().trimmed().isEmpty())
         lines.removeLast();
     for (const QString &line : lines) {
@@ -137,7 +132,7 @@ QList<std::pair<QString, QString>> IniFile::entries(const QString &section, int 
 
 bool IniFile::write(const QString &section, const QString &key, const std::optional<QString> &value)
 {
-    if (!readableName(section) || section.contains(QLatin1Char(']')) || !readableKey(key) ||
+    if (!readableName(section) || section.contains(']'_L1) || !readableKey(key) ||
         (value && hasLineBreak(*value)))
         return false;
     const Section *found = find(section);
@@ -147,7 +142,7 @@ bool IniFile::write(const QString &section, const QString &key, const std::optio
         m_sections.append({section.trimmed(), {headerOf(section)}});
     QStringList &lines = m_sections[found ? found - m_sections.constData() : m_sections.size() - 1].lines;
     const qsizetype line = lineOf(lines, key);
-    const auto text = [&] { return key.trimmed() + QLatin1Char('=') + protectedValue(*value); };
+    const auto text = [&] { return key.trimmed() + '='_L1 + protectedValue(*value); };
     if (line < 0 && value)
         lines.insert(endOf(lines), text());
     else if (value)
@@ -177,7 +172,7 @@ QByteArray IniFile::bytes() const
     QStringList lines = m_preamble;
     for (const Section &section : m_sections)
         lines += section.lines;
-    return lines.isEmpty() ? QByteArray() : toCodePage(lines.join(QLatin1String("\r\n"))) + "\r\n";
+    return lines.isEmpty() ? QByteArray() : toCodePage(lines.join("\r\n"_L1)) + "\r\n";
 }
 
 } // namespace common

@@ -10,6 +10,8 @@
 
 namespace common {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int LongestNumber = 40;
@@ -31,7 +33,7 @@ QString withPlainDigits(const QString &text)
     QString plain;
     for (const char32_t c : text.toUcs4()) {
         if (common::isDecimalMark(c))
-            plain.append(QLatin1Char('.'));
+            plain.append('.'_L1);
         else if (QChar::isDigit(c))
             plain.append(QString::number(QChar::digitValue(c)));
         else
@@ -40,7 +42,7 @@ QString withPlainDigits(const QString &text)
     return plain;
 }
 
-bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+bool isDigit(QChar c) { return c >= '0'_L1 && c <= '9'_L1; }
 
 // "05" is 0.05: divided by 10 until below 1, then once more for every leading zero.
 double fractionValue(const QString &digits)
@@ -48,7 +50,7 @@ double fractionValue(const QString &digits)
     double fraction = common::leadingNumber(digits);
     while (std::fabs(fraction) >= 1.0)
         fraction /= 10.0;
-    for (qsizetype i = 0; i < digits.size() && digits[i] == QLatin1Char('0'); ++i)
+    for (qsizetype i = 0; i < digits.size() && digits[i] == '0'_L1; ++i)
         fraction /= 10.0;
     return fraction;
 }
@@ -58,21 +60,20 @@ double fractionValue(const QString &digits)
 double parseNumber(const QString &text)
 {
     QString number = withPlainDigits(text.trimmed()).left(LongestNumber);
-    const bool negative = number.startsWith(QLatin1Char('-'));
+    const bool negative = number.startsWith('-'_L1);
     if (negative)
         number.remove(0, 1);
 
-    const QStringList parts = number.split(QLatin1Char('E'));
+    const QStringList parts = number.split('E'_L1);
     double multiplier = 1.0;
     if (parts.size() > 1) {
-        const QString exponent = kept(parts[1], [](QChar c) { return isDigit(c) || c == QLatin1Char('-'); });
+        const QString exponent = kept(parts[1], [](QChar c) { return isDigit(c) || c == '-'_L1; });
         if (!exponent.isEmpty())
             multiplier = std::pow(10.0, common::leadingNumber(exponent));
     }
 
-    const QStringList mantissa = kept(parts[0], [](QChar c) {
-                                     return isDigit(c) || c == QLatin1Char('-') || c == QLatin1Char('.');
-                                 }).split(QLatin1Char('.'));
+    const QStringList mantissa =
+        kept(parts[0], [](QChar c) { return isDigit(c) || c == '-'_L1 || c == '.'_L1; }).split('.'_L1);
     const double fraction = mantissa.size() > 1 ? fractionValue(mantissa[1]) : 0.0;
     const double value = (common::leadingNumber(mantissa[0]) + fraction) * multiplier;
     if (std::isnan(value))
@@ -85,13 +86,13 @@ double requireNumber(const QString &text)
     static const QRegularExpression number(QStringLiteral(R"(^-?(\d+\.?\d*|\.\d+)(E[+-]?\d+)?$)"));
     const QString plain = withPlainDigits(text.trimmed());
     if (plain.size() > LongestNumber || !number.match(plain).hasMatch())
-        throw RunTimeError(QStringLiteral("\"%1\" is not a number").arg(text));
+        throw RunTimeError(u"\"%1\" is not a number"_s.arg(text));
     return parseNumber(text);
 }
 
 bool isNumericKey(QChar key, const QString &decimalSeparator)
 {
-    static const QString accepted = QStringLiteral(".,-\b\r");
+    static const QString accepted = u".,-\b\r"_s;
     return key.isDigit() || accepted.contains(key) || decimalSeparator.contains(key);
 }
 

@@ -7,6 +7,8 @@
 
 namespace common {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A number too small for a double is 0, one too large is infinite.
@@ -42,8 +44,8 @@ QString shortestText(float value, const QString &decimalMark)
     const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format).ptr;
     QString text = QString::fromLatin1(buffer.data(), end - buffer.data()).toUpper();
-    text.replace(QLatin1Char('.'), decimalMark);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+    text.replace('.'_L1, decimalMark);
+    return text == "-0"_L1 ? u"0"_s : text;
 }
 
 QString fixedText(float value, int places, const QString &decimalMark)
@@ -65,7 +67,7 @@ QString fixedText(float value, int places, const QString &decimalMark)
     QString fixed = QString::fromLatin1(digits);
     if (places > 0)
         fixed.insert(fixed.size() - places, decimalMark);
-    return value < 0 && !isZero ? QLatin1Char('-') + fixed : fixed;
+    return value < 0 && !isZero ? '-'_L1 + fixed : fixed;
 }
 
 double leadingNumber(const QString &text)

@@ -7,12 +7,14 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace complexity {
 
 double videoSource(double divisor)
 {
     if (divisor == 0)
-        throw common::RunTimeError(QStringLiteral("Division by zero"));
+        throw common::RunTimeError(u"Division by zero"_s);
     return 0.8 / divisor + 0.45;
 }
 
@@ -59,13 +61,11 @@ std::optional<QString> overloadQuestion(int load)
         return std::nullopt;
     const QString question =
         load > ExtremelyHighAbove
-            ? QStringLiteral(
-                  "The designed layout file has extremely high complexity and this will result in high CPU "
-                  "load on the hardware device.")
-            : QStringLiteral(
-                  "The designed layout file has high complexity and this may result in high CPU load on the "
-                  "hardware device.");
-    return question + QStringLiteral("\nDo you want to continue?");
+            ? u"The designed layout file has extremely high complexity and this will result in high CPU "
+              "load on the hardware device."_s
+            : u"The designed layout file has high complexity and this may result in high CPU load on the "
+              "hardware device."_s;
+    return question + u"\nDo you want to continue?"_s;
 }
 
 } // namespace controls

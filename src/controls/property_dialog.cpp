@@ -2,9 +2,11 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 QString correctionQuestion(const QString &complaint)
 {
-    return complaint + QStringLiteral("\nPress OK to continue with automatic correction");
+    return complaint + u"\nPress OK to continue with automatic correction"_s;
 }
 
 forms::Verdict correctable(const QString &complaint, const QList<forms::Correction> &corrections)
@@ -15,9 +17,9 @@ forms::Verdict correctable(const QString &complaint, const QList<forms::Correcti
 
 void ColourRows::name() const
 {
-    colour.caption()->setObjectName(QStringLiteral("lblColour"));
-    minimum.caption()->setObjectName(QStringLiteral("lblColourMin"));
-    maximum.caption()->setObjectName(QStringLiteral("lblColourMax"));
+    colour.caption()->setObjectName(u"lblColour"_s);
+    minimum.caption()->setObjectName(u"lblColourMin"_s);
+    maximum.caption()->setObjectName(u"lblColourMax"_s);
 }
 
 void ColourRows::showChoice() const

@@ -6,6 +6,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using common::RunTimeError;
@@ -36,7 +38,7 @@ QString toText(const PropertyValue &value, const QString &decimalMark)
 
 double numberIn(QString text, const QString &decimalMark)
 {
-    return common::leadingNumber(text.replace(decimalMark, QLatin1String(".")));
+    return common::leadingNumber(text.replace(decimalMark, "."_L1));
 }
 
 float floatOf(const QString &text, const QString &decimalMark)
@@ -58,7 +60,7 @@ const T &valueAs(const PropertyValue &value)
 {
     if (const T *held = std::get_if<T>(&value))
         return *held;
-    throw RunTimeError(QStringLiteral("Type mismatch"));
+    throw RunTimeError(u"Type mismatch"_s);
 }
 
 } // namespace
@@ -118,7 +120,7 @@ void deserialise(const PropertyTable &table, ControlValues &values, const QStrin
     const auto serialised = std::count_if(table.rows.begin(), table.rows.end(),
                                           [](const PropertyRow &row) { return row.isSerialised; });
     if (texts.size() < SizeEntries + serialised)
-        throw RunTimeError(QStringLiteral("Subscript out of range"));
+        throw RunTimeError(u"Subscript out of range"_s);
     values.box.Width = floatOf(texts[0], decimalMark);
     values.box.Height = floatOf(texts[1], decimalMark);
     qsizetype entry = SizeEntries;

@@ -2,20 +2,22 @@
 
 namespace forms {
 
+using namespace Qt::StringLiterals;
+
 QString fontCaption(const QFont &font)
 {
-    QString style = QStringLiteral("Regular");
+    QString style = u"Regular"_s;
     if (font.bold() && font.italic())
-        style = QStringLiteral("Bold Italic");
+        style = u"Bold Italic"_s;
     else if (font.bold())
-        style = QStringLiteral("Bold");
+        style = u"Bold"_s;
     else if (font.italic())
-        style = QStringLiteral("Italic");
-    return QStringLiteral("%1 - %2 - %3").arg(font.family(), style).arg(font.pointSize());
+        style = u"Italic"_s;
+    return u"%1 - %2 - %3"_s.arg(font.family(), style).arg(font.pointSize());
 }
 
 FontField::FontField(const char *name, const char *labelName, platform::Prompts &prompts)
-    : Field(new QPushButton(QStringLiteral("Choose...")), name), m_label(new QLabel),
+    : Field(new QPushButton(u"Choose..."_s), name), m_label(new QLabel),
       m_cell(sideBySide({m_label, &widget()}))
 {
     m_label->setObjectName(QLatin1String(labelName));

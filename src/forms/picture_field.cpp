@@ -4,6 +4,8 @@
 
 namespace forms {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize PreviewSize(160, 120);
@@ -12,8 +14,8 @@ constexpr QSize PreviewSize(160, 120);
 
 PictureField::PictureField(const char *name, const char *previewName, const platform::FileRequest &request,
                            platform::Prompts &prompts, Taker taker)
-    : Field(new QPushButton(QStringLiteral("Browse...")), name), m_prompts(prompts),
-      m_taker(std::move(taker)), m_preview(new QLabel), m_buttons(new QVBoxLayout)
+    : Field(new QPushButton(u"Browse..."_s), name), m_prompts(prompts), m_taker(std::move(taker)),
+      m_preview(new QLabel), m_buttons(new QVBoxLayout)
 {
     m_preview->setObjectName(QLatin1String(previewName));
     m_preview->setFixedSize(PreviewSize);
@@ -31,7 +33,7 @@ void PictureField::addButton(const char *name, const char *caption, const platfo
 {
     auto *another = new QPushButton(QString::fromUtf8(caption));
     another->setObjectName(QLatin1String(name));
-    another->setAccessibleName(widget().accessibleName() + QStringLiteral(", ") + another->text());
+    another->setAccessibleName(widget().accessibleName() + u", "_s + another->text());
     prepare(*another, request);
 }
 
@@ -49,7 +51,7 @@ void PictureField::prepare(QPushButton &button, const platform::FileRequest &req
 QString PictureField::text() const
 {
     const QImage &shown = picture();
-    return shown.isNull() ? QString() : QStringLiteral("%1 x %2").arg(shown.width()).arg(shown.height());
+    return shown.isNull() ? QString() : u"%1 x %2"_s.arg(shown.width()).arg(shown.height());
 }
 
 void PictureField::setText(const QString &path)

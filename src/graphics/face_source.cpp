@@ -12,6 +12,8 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint32 TrueTypeOutlines = 0x00010000;
@@ -24,8 +26,7 @@ constexpr const char *OutlineTables[] = {CompactTable, "OS/2", "cmap", TrueTypeT
                                          "hhea",       "hmtx", "loca", "maxp",        "post"};
 
 // Names under which the desktop lists the faces that it takes for usual ones.
-const QStringList Aliases = {QStringLiteral("Serif"), QStringLiteral("Sans Serif"),
-                             QStringLiteral("Monospace")};
+const QStringList Aliases = {u"Serif"_s, u"Sans Serif"_s, u"Monospace"_s};
 
 struct Table
 {
@@ -150,11 +151,11 @@ QByteArray installedFace(const QString &face, const FontStyle &style)
 
 QByteArray shippedFace(const QString &folder, const FontStyle &style)
 {
-    const QString name = style.bold && style.italic ? QStringLiteral("BoldItalic")
-                         : style.bold               ? QStringLiteral("Bold")
-                         : style.italic             ? QStringLiteral("Italic")
-                                                    : QStringLiteral("Regular");
-    QFile file(QStringLiteral("%1LiberationSans-%2.ttf").arg(folder, name));
+    const QString name = style.bold && style.italic ? u"BoldItalic"_s
+                         : style.bold               ? u"Bold"_s
+                         : style.italic             ? u"Italic"_s
+                                                    : u"Regular"_s;
+    QFile file(u"%1LiberationSans-%2.ttf"_s.arg(folder, name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -6,10 +6,12 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString Suffix = QStringLiteral(".qlg");
-const QString StyleLetters = QStringLiteral("BISU");
+const QString Suffix = u".qlg"_s;
+const QString StyleLetters = u"BISU"_s;
 
 QString styleText(const FontStyle &style)
 {
@@ -29,8 +31,7 @@ bool isStyleText(const QString &text)
 
 FontStyle styleOf(const QString &text)
 {
-    return {text.contains(QLatin1Char('B')), text.contains(QLatin1Char('I')), text.contains(QLatin1Char('S')),
-            text.contains(QLatin1Char('U'))};
+    return {text.contains('B'_L1), text.contains('I'_L1), text.contains('S'_L1), text.contains('U'_L1)};
 }
 
 // Takes the suffix off, or what the field's end has left of it.
@@ -46,7 +47,7 @@ QString withoutSuffix(const QString &name)
 // Takes the part after the last blank off `text`, if there is a blank.
 QString takeLastPart(QString &text)
 {
-    const qsizetype blank = text.lastIndexOf(QLatin1Char(' '));
+    const qsizetype blank = text.lastIndexOf(' '_L1);
     QString part = text.mid(blank + 1);
     text.truncate(qMax<qsizetype>(blank, 0));
     return part;
@@ -68,14 +69,11 @@ QString storedFace(const QString &face)
 
 QString fontFileName(const FontRequest &request)
 {
-    return QStringLiteral("%1 %2 %3%4")
-        .arg(storedFace(request.face), styleText(request.style), QString::number(request.size), Suffix);
+    return u"%1 %2 %3%4"_s.arg(storedFace(request.face), styleText(request.style),
+                               QString::number(request.size), Suffix);
 }
 
-QString extendedFontFileName(const FontRequest &request)
-{
-    return QStringLiteral("Ext_") + fontFileName(request);
-}
+QString extendedFontFileName(const FontRequest &request) { return u"Ext_"_s + fontFileName(request); }
 
 FontRequest splitFontFileName(const QString &name)
 {

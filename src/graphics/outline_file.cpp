@@ -8,6 +8,8 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int UnitsPerEm = 1000; // those of most faces without tables, so that nothing is rounded
@@ -115,12 +117,11 @@ QByteArray outlineFile(QRawFont face)
     const bool bold = face.weight() >= QFont::DemiBold;
     const int angle = face.style() == QFont::StyleNormal ? 0 : UsualItalicAngle;
     const int bar = inUnits(-face.underlinePosition() - face.lineThickness() / 2); // its middle
-    const QString head = QStringLiteral("%!PS-AdobeFont-1.0: Outlines\n/FontInfo 4 dict dup begin\n"
-                                        "/Weight (%1) def\n/ItalicAngle %2 def\n"
-                                        "/UnderlinePosition %3 def\n/UnderlineThickness %4 def\nend def\n"
-                                        "/FontType 1 def\n/FontMatrix [0.001 0 0 0.001 0 0] def\n"
-                                        "currentfile eexec\n")
-                             .arg(bold ? QStringLiteral("Bold") : QStringLiteral("Regular"))
+    const QString head = u"%!PS-AdobeFont-1.0: Outlines\n/FontInfo 4 dict dup begin\n"
+                         "/Weight (%1) def\n/ItalicAngle %2 def\n"
+                         "/UnderlinePosition %3 def\n/UnderlineThickness %4 def\nend def\n"
+                         "/FontType 1 def\n/FontMatrix [0.001 0 0 0.001 0 0] def\n"
+                         "currentfile eexec\n"_s.arg(bold ? u"Bold"_s : u"Regular"_s)
                              .arg(angle)
                              .arg(bar)
                              .arg(inUnits(face.lineThickness()));

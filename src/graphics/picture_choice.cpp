@@ -6,6 +6,8 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString complaint(PictureFault fault)
@@ -14,16 +16,15 @@ QString complaint(PictureFault fault)
     case PictureFault::None:
         break;
     case PictureFault::Unreadable:
-        return QStringLiteral("The file cannot be read.");
+        return u"The file cannot be read."_s;
     case PictureFault::Empty:
-        return QStringLiteral("The file is empty.");
+        return u"The file is empty."_s;
     case PictureFault::NotAPicture:
-        return QStringLiteral("The file is not a bitmap.");
+        return u"The file is not a bitmap."_s;
     case PictureFault::TooLarge:
-        return QStringLiteral("The picture is too large. It may be %1 pixels wide and high at most.")
-            .arg(MaxPictureSide);
+        return u"The picture is too large. It may be %1 pixels wide and high at most."_s.arg(MaxPictureSide);
     case PictureFault::Cut:
-        return QStringLiteral("The file is damaged, a part of the picture is missing.");
+        return u"The file is damaged, a part of the picture is missing."_s;
     }
     return {};
 }
@@ -34,7 +35,7 @@ platform::FileRequest pictureRequest(const QString &folder)
 {
     platform::FileRequest request;
     request.folder = folder;
-    request.filter = QStringLiteral("Bitmap files (*.bmp)|*.bmp");
+    request.filter = u"Bitmap files (*.bmp)|*.bmp"_s;
     request.preview = [](const QString &path) { return loadPicture(path).picture; };
     return request;
 }
@@ -44,7 +45,7 @@ QImage chosenPicture(const QString &path, platform::Prompts &prompts)
     const LoadedPicture loaded = loadPicture(path);
     if (!loaded)
         prompts.message(platform::Icon::Critical, platform::ProductTitle,
-                        QFileInfo(path).fileName() + QLatin1Char('\n') + complaint(loaded.fault));
+                        QFileInfo(path).fileName() + '\n'_L1 + complaint(loaded.fault));
     return loaded.picture;
 }
 

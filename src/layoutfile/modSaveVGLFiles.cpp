@@ -11,15 +11,16 @@
 
 namespace layoutfile {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using controls::OverlayControl;
 using platform::ProgressScope;
 using ControlList = QList<OverlayControl *>;
 
-const QString SharedCamera =
-    QStringLiteral("Invalid configuration\n"
-                   "Current configuration used same camera no for several video objects ");
+const QString SharedCamera = u"Invalid configuration\n"
+                             "Current configuration used same camera no for several video objects "_s;
 
 bool checksCameras(SaveKind kind) { return kind == SaveKind::Command || kind == SaveKind::Workspace; }
 
@@ -174,9 +175,8 @@ LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlLi
         {}, {}, FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts), {}, context.screen};
     if (kind != SaveKind::Recovery)
         gatherThumbnail(save.groups, kind, context);
-    ProgressScope progress(context.progress, kind == SaveKind::Command
-                                                 ? QStringLiteral("Saving configuration.....")
-                                                 : QStringLiteral("Saving workspace....."));
+    ProgressScope progress(context.progress, kind == SaveKind::Command ? u"Saving configuration....."_s
+                                                                       : u"Saving workspace....."_s);
     gatherControls(save, kind, controls, progress);
     if (checksCameras(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return {{}, SharedCamera};

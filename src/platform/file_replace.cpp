@@ -20,30 +20,32 @@
 
 namespace platform {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A file that is being written has the name of its writer, so that two machines can save to one folder, and
 // what a killed process leaves is known for what it is.
-const QString StagedSuffix = QStringLiteral(".morvel-new");
+const QString StagedSuffix = u".morvel-new"_s;
 constexpr qint64 NobodysAfter = 3600; // seconds
 
 QString writerName(qint64 process)
 {
     static const QString host = QString::fromLatin1(QUrl::toPercentEncoding(QSysInfo::machineHostName()));
-    return QStringLiteral("%1-%2").arg(host.left(40)).arg(process);
+    return u"%1-%2"_s.arg(host.left(40)).arg(process);
 }
 
 QString stagedPath(const QString &path)
 {
-    return QFileInfo(path).absolutePath() + QLatin1Char('/') +
-           writerName(QCoreApplication::applicationPid()) + StagedSuffix;
+    return QFileInfo(path).absolutePath() + '/'_L1 + writerName(QCoreApplication::applicationPid()) +
+           StagedSuffix;
 }
 
 // Whether the writer of this file is gone.
 bool isLeftOver(const QFileInfo &staged)
 {
     const QString writer = staged.fileName().chopped(StagedSuffix.size());
-    const qint64 process = writer.section(QLatin1Char('-'), -1).toLongLong();
+    const qint64 process = writer.section('-'_L1, -1).toLongLong();
     const bool isOurs = process > 0 && writer == writerName(process);
     return (isOurs && !isAnotherProcess(process)) ||
            staged.lastModified().secsTo(QDateTime::currentDateTime()) > NobodysAfter;
@@ -53,7 +55,7 @@ bool isTaken(const QString &path) { return QFileInfo::exists(path) || QFileInfo(
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
 {
-    throw common::RunTimeError(QStringLiteral("%1: %2").arg(path, reason));
+    throw common::RunTimeError(u"%1: %2"_s.arg(path, reason));
 }
 
 [[noreturn]] void fail(const QString &path, const Failure &failure) { fail(path, failureText(failure)); }
@@ -65,7 +67,7 @@ QString targetOf(const QString &path)
     if (file.isFile())
         return file.canonicalFilePath();
     if (file.exists() || QFileInfo(file.symLinkTarget()).isSymLink())
-        fail(path, QStringLiteral("not a regular file"));
+        fail(path, u"not a regular file"_s);
     return file.isSymLink() ? file.symLinkTarget() : file.absoluteFilePath();
 }
 
@@ -134,12 +136,12 @@ QString keepApart(const QString &path, const QByteArray &bytes, const QString &f
 {
     constexpr qsizetype LongestName = 200; // leaves room for the prefix; the end of a name tells its kind
     const QString name = QFileInfo(path).fileName().right(LongestName);
-    QString kept = folder + KeptPrefix + QLatin1Char('-') + name;
+    QString kept = folder + KeptPrefix + '-'_L1 + name;
     for (int number = 2; isTaken(kept); ++number)
-        kept = QStringLiteral("%1%2%3-%4").arg(folder, KeptPrefix).arg(number).arg(name);
+        kept = u"%1%2%3-%4"_s.arg(folder, KeptPrefix).arg(number).arg(name);
     if (replaceFile(kept, bytes) == Standing::NotConfirmed) {
         QFile::remove(kept);
-        fail(path, QStringLiteral("The old file could not be kept while a new one takes its place"));
+        fail(path, u"The old file could not be kept while a new one takes its place"_s);
     }
     return kept;
 }
@@ -151,7 +153,7 @@ void copyOver(const QString &path, const QByteArray &bytes, const QString &keepI
     const auto failure = overwrite(path, bytes);
     const bool touched = failure && failure->step != WritingStep::Create;
     if (touched && overwrite(path, old))
-        fail(path, QStringLiteral("%1.\nWhat it held before is in %2").arg(failureText(*failure), kept));
+        fail(path, u"%1.\nWhat it held before is in %2"_s.arg(failureText(*failure), kept));
     QFile::remove(kept);
     if (failure)
         fail(path, *failure);
@@ -216,7 +218,7 @@ void moveFile(const QString &from, const QString &to)
 QByteArray readFile(const QString &path)
 {
     if (!QFileInfo(path).isFile())
-        fail(path, QStringLiteral("No such file"));
+        fail(path, u"No such file"_s);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         fail(path, file.errorString());
@@ -237,7 +239,7 @@ QString unusedPath(const QString &path)
 void removeStagedFiles(const QString &folder)
 {
     const QDir dir(folder);
-    for (const QFileInfo &staged : dir.entryInfoList({QLatin1Char('*') + StagedSuffix}, QDir::Files)) {
+    for (const QFileInfo &staged : dir.entryInfoList({'*'_L1 + StagedSuffix}, QDir::Files)) {
         if (isLeftOver(staged))
             QFile::remove(staged.filePath());
     }

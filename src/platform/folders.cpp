@@ -6,11 +6,13 @@
 
 namespace platform {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString withSeparator(const QString &folder)
 {
-    return folder.isEmpty() || folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+    return folder.isEmpty() || folder.endsWith('/'_L1) ? folder : folder + '/'_L1;
 }
 
 void makePrivate(const QString &folder)
@@ -44,8 +46,8 @@ QString Folders::GetAppDataFolder() const
 {
     if (applicationData.isEmpty())
         return {};
-    const bool marked = FileExists(program + QStringLiteral("../hVault.Dat")) != 0;
-    return applicationData + (marked ? QStringLiteral("hVault/") : QStringLiteral("Torvane/"));
+    const bool marked = FileExists(program + u"../hVault.Dat"_s) != 0;
+    return applicationData + (marked ? u"hVault/"_s : u"Torvane/"_s);
 }
 
 QString Folders::inTemporary(const char *name) const
@@ -61,16 +63,15 @@ Folders desktopFolders(const QString &programFolder)
     Folders folders;
     folders.program = withSeparator(programFolder);
     folders.applicationData = withSeparator(applicationDataRoot());
-    folders.cache =
-        privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), QStringLiteral("morvel-config"));
-    folders.temporary = privateFolder(folders.cache, QStringLiteral("temporary"));
+    folders.cache = privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), u"morvel-config"_s);
+    folders.temporary = privateFolder(folders.cache, u"temporary"_s);
     return folders;
 }
 
 int FileExists(const QString &path)
 {
     const QString name = path.section(QChar(0), 0, 0);
-    const QString plain = QString(name).remove(QLatin1Char('"'));
+    const QString plain = QString(name).remove('"'_L1);
     const auto isFile = [](const QString &file) { return !file.isEmpty() && QFileInfo(file).isFile(); };
     return isFile(name) || isFile(plain) ? -1 : 0;
 }
@@ -86,9 +87,8 @@ void wipeFiles(const QString &folder, const QString &pattern)
 
 QString nameWithin(const QString &folder, const QString &name)
 {
-    const bool escapes = name.isEmpty() || name.startsWith(QLatin1Char('.')) ||
-                         name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) ||
-                         name.contains(QLatin1Char(':')) || name.contains(QChar(0));
+    const bool escapes = name.isEmpty() || name.startsWith('.'_L1) || name.contains('/'_L1) ||
+                         name.contains('\\'_L1) || name.contains(':'_L1) || name.contains(QChar(0));
     return escapes ? QString() : folder + name;
 }
 

@@ -18,6 +18,8 @@
 
 namespace platform {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 NobodysAfter = 10; // seconds
@@ -40,7 +42,7 @@ bool isYoung(const QFileInfo &file)
 std::optional<Owner> ownerIn(QFile &file)
 {
     file.seek(0);
-    const QStringList lines = QString::fromUtf8(file.read(LongestOwner)).split(QLatin1Char('\n'));
+    const QStringList lines = QString::fromUtf8(file.read(LongestOwner)).split('\n'_L1);
     bool isNumber = false;
     const qint64 process = lines[0].toLongLong(&isNumber);
     if (!isNumber || process <= 0 || lines.size() < 3 || lines[2].isEmpty())
@@ -52,7 +54,7 @@ std::optional<Owner> ownerIn(QFile &file)
 bool runs(const Owner &owner)
 {
     constexpr qsizetype LongestName = 15; // that the system tells
-    QFile told(QStringLiteral("/proc/%1/comm").arg(owner.process));
+    QFile told(u"/proc/%1/comm"_s.arg(owner.process));
     if (!told.open(QIODevice::ReadOnly))
         return isAnotherProcess(owner.process);
     return QString::fromUtf8(told.readAll()).trimmed() == owner.program.left(LongestName) &&
@@ -63,7 +65,7 @@ bool runs(const Owner &owner)
 void moveAside(const QString &path)
 {
     if (!QFile::remove(path) && !QDir().rmdir(path))
-        QFile::rename(path, unusedPath(path + QStringLiteral(".old")));
+        QFile::rename(path, unusedPath(path + u".old"_s));
 }
 
 } // namespace
@@ -130,8 +132,7 @@ void ProcessLock::writeOwner()
 {
     m_file.resize(0);
     m_file.seek(0);
-    m_file.write(QStringLiteral("%1\nmorvel-config\n%2\n")
-                     .arg(QCoreApplication::applicationPid())
+    m_file.write(u"%1\nmorvel-config\n%2\n"_s.arg(QCoreApplication::applicationPid())
                      .arg(QSysInfo::machineHostName())
                      .toUtf8());
 }

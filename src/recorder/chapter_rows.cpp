@@ -4,6 +4,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 ChapterRow emptyChapterRow(const QString &decimalMark)
 {
     return {.value1 = {0, decimalMark}, .value2 = {0, decimalMark}};
@@ -33,7 +35,7 @@ std::vector<ChapterCondition> chapterConditions(const ChapterRows &rows,
         if (!row.type)
             continue;
         if (variableName(row.variable, table).isEmpty())
-            throw common::RunTimeError(QStringLiteral("Row %1 has no variable").arg(number));
+            throw common::RunTimeError(u"Row %1 has no variable"_s.arg(number));
         conditions.push_back(
             {*row.type, row.value1.value(), row.sign1, row.variable, row.sign2, row.value2.value()});
     }
@@ -48,8 +50,8 @@ void tickAll(ChapterRows &rows)
 
 void removeTicked(ChapterRows &rows) { std::erase_if(rows, &ChapterRow::isTicked); }
 
-QString chapterTypeText(quint8 type) { return QStringLiteral("%1").arg(type + 1, 2, 10, QLatin1Char('0')); }
+QString chapterTypeText(quint8 type) { return u"%1"_s.arg(type + 1, 2, 10, '0'_L1); }
 
-QString signText(quint8 sign) { return sign == 0 ? QStringLiteral("<") : QStringLiteral("<="); }
+QString signText(quint8 sign) { return sign == 0 ? u"<"_s : u"<="_s; }
 
 } // namespace recorder

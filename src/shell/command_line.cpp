@@ -5,14 +5,16 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString unquoted(QString text) { return text.remove(QLatin1Char('"')).trimmed(); }
+QString unquoted(QString text) { return text.remove('"'_L1).trimmed(); }
 
 bool isBareSwitch(const QString &argument)
 {
-    return argument.compare(QLatin1String("/F"), Qt::CaseInsensitive) == 0 ||
-           argument.compare(QLatin1String("/T"), Qt::CaseInsensitive) == 0;
+    return argument.compare("/F"_L1, Qt::CaseInsensitive) == 0 ||
+           argument.compare("/T"_L1, Qt::CaseInsensitive) == 0;
 }
 
 QStringList bareSwitchesJoined(const QStringList &arguments)
@@ -29,27 +31,27 @@ QStringList bareSwitchesJoined(const QStringList &arguments)
 
 QString slashesTurned(const QString &argument)
 {
-    if (QDir::separator() != QLatin1Char('/'))
+    if (QDir::separator() != '/'_L1)
         return argument;
     QString turned = argument;
-    const qsizetype first = turned.indexOf(QLatin1Char('/'));
+    const qsizetype first = turned.indexOf('/'_L1);
     for (qsizetype i = first + 1; first >= 0 && i < turned.size(); ++i) {
-        if (turned[i] == QLatin1Char('/'))
-            turned[i] = QLatin1Char('\\');
+        if (turned[i] == '/'_L1)
+            turned[i] = '\\'_L1;
     }
     return turned;
 }
 
 QString platformPath(QString path)
 {
-    return QDir::separator() == QLatin1Char('/') ? path.replace(QLatin1Char('\\'), QLatin1Char('/')) : path;
+    return QDir::separator() == '/'_L1 ? path.replace('\\'_L1, '/'_L1) : path;
 }
 
 std::optional<recorder::VideoStandard> standardOf(const QString &word)
 {
-    if (word.compare(QLatin1String("NTSC"), Qt::CaseInsensitive) == 0)
+    if (word.compare("NTSC"_L1, Qt::CaseInsensitive) == 0)
         return recorder::VideoStandard::Ntsc;
-    if (word.compare(QLatin1String("PAL"), Qt::CaseInsensitive) == 0)
+    if (word.compare("PAL"_L1, Qt::CaseInsensitive) == 0)
         return recorder::VideoStandard::Pal;
     return std::nullopt;
 }
@@ -61,7 +63,7 @@ QStringList argumentsForProgram(const QStringList &arguments)
     QStringList passed = bareSwitchesJoined(arguments);
     for (QString &argument : passed) {
         if (const QFileInfo file(argument); file.isFile())
-            argument = QStringLiteral("/F") + file.absoluteFilePath();
+            argument = u"/F"_s + file.absoluteFilePath();
     }
     passed.prepend(LaunchedMark);
     return passed;
@@ -72,19 +74,19 @@ QString rawCommandLine(const QStringList &arguments)
     QStringList joined = bareSwitchesJoined(arguments);
     for (QString &argument : joined)
         argument = slashesTurned(argument);
-    return joined.join(QLatin1Char(' '));
+    return joined.join(' '_L1);
 }
 
 CommandLine parseCommandLine(const QString &rawLine, const std::function<bool(const QString &)> &fileExists)
 {
     CommandLine result;
-    const QStringList parts = rawLine.split(QLatin1Char('/'));
+    const QStringList parts = rawLine.split('/'_L1);
     for (const QString &part : parts.sliced(1)) {
         const QString value = unquoted(part.mid(1));
         const QChar letter = part.isEmpty() ? QChar() : part.front().toUpper();
-        if (letter == QLatin1Char('F')) {
+        if (letter == 'F'_L1) {
             const auto isLayout = [&](const QString &path) {
-                return path.endsWith(QLatin1String("VGL"), Qt::CaseInsensitive) && fileExists(path);
+                return path.endsWith("VGL"_L1, Qt::CaseInsensitive) && fileExists(path);
             };
             const QString quoted = platformPath(part.mid(1).trimmed()); // as part of the file's name
             const QString path = platformPath(value);
@@ -92,7 +94,7 @@ CommandLine parseCommandLine(const QString &rawLine, const std::function<bool(co
                 result.layoutToOpen = quoted;
             else if (isLayout(path))
                 result.layoutToOpen = path;
-        } else if (letter == QLatin1Char('T')) {
+        } else if (letter == 'T'_L1) {
             if (const auto standard = standardOf(value))
                 result.videoOverride = standard;
         }

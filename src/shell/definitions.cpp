@@ -10,6 +10,7 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
 using platform::Icon;
 using platform::ProductTitle;
 
@@ -32,13 +33,12 @@ bool takeOverDefinitions(const QString &path, ProgramState &state, platform::Pro
 
 bool restoreDefaultDefinitions(ProgramState &state, platform::Prompts &prompts, QWidget *window)
 {
-    if (!prompts.ask(Icon::Question, ProductTitle,
-                     QStringLiteral("Do you want to restore default variable information?")))
+    if (!prompts.ask(Icon::Question, ProductTitle, u"Do you want to restore default variable information?"_s))
         return false;
     const QString shipped = state.folders.shippedVariablesFile();
     if (platform::FileExists(shipped))
         return takeOverDefinitions(shipped, state, prompts, window);
-    prompts.message(Icon::Critical, ProductTitle, QStringLiteral("Can't find default variable file"));
+    prompts.message(Icon::Critical, ProductTitle, u"Can't find default variable file"_s);
     return false;
 }
 
@@ -54,8 +54,7 @@ void keepDamagedDefinitions(const platform::Folders &folders)
         return;
     }
     const QDir folder(folders.GetAppDataFolder());
-    for (const QString &name :
-         folder.entryList({QFileInfo(kept).fileName() + QLatin1Char('*')}, QDir::Files)) {
+    for (const QString &name : folder.entryList({QFileInfo(kept).fileName() + '*'_L1}, QDir::Files)) {
         QByteArray earlier;
         platform::skipFailures([&] { earlier = platform::readFile(folder.filePath(name)); });
         if (earlier == bytes)

@@ -15,14 +15,15 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
 using layoutfile::SaveKind;
 using platform::Icon;
 using platform::ProductTitle;
 
 namespace {
 
-const QString OpenFilter = QStringLiteral("VGL files|*.VGL");
-const QString SaveFilter = QStringLiteral("VGL Files(*.VGL)|*.VGL");
+const QString OpenFilter = u"VGL files|*.VGL"_s;
+const QString SaveFilter = u"VGL Files(*.VGL)|*.VGL"_s;
 
 enum LoadOption { ClearFirst, SaveAndClearFirst, OnTop, Abort };
 
@@ -36,7 +37,7 @@ FileCommands::FileCommands(ProgramState &state, platform::Prompts &prompts, surf
 
 void FileCommands::mnuNew()
 {
-    if (m_prompts.ask(Icon::Question, ProductTitle, QStringLiteral("Do you want to clear design area ?")))
+    if (m_prompts.ask(Icon::Question, ProductTitle, u"Do you want to clear design area ?"_s))
         clearDesign();
 }
 
@@ -75,13 +76,11 @@ bool FileCommands::makeRoom()
 {
     if (m_design.controls().isEmpty())
         return true;
-    const auto option =
-        m_prompts.choose(QStringLiteral("Load layout"),
-                         QStringLiteral("You are about to load another layout, do you want to:"),
-                         {QStringLiteral("Clear current layout, and load the new one?"),
-                          QStringLiteral("Save the current one, clear current layout and load the new one?"),
-                          QStringLiteral("Load the new one on-top of the current layout?"),
-                          QStringLiteral("Abort, and do not load the new layout?")});
+    const auto option = m_prompts.choose(
+        u"Load layout"_s, u"You are about to load another layout, do you want to:"_s,
+        {u"Clear current layout, and load the new one?"_s,
+         u"Save the current one, clear current layout and load the new one?"_s,
+         u"Load the new one on-top of the current layout?"_s, u"Abort, and do not load the new layout?"_s});
     const int chosen = option.value_or(Abort);
     if (chosen == SaveAndClearFirst)
         mnuSaveConfig();
@@ -109,7 +108,7 @@ void FileCommands::openRecent(qsizetype index)
         return;
     }
     m_prompts.message(Icon::Information, ProductTitle,
-                      QStringLiteral("The layout\n%1\ncannot be found. It is taken off the list.").arg(path));
+                      u"The layout\n%1\ncannot be found. It is taken off the list."_s.arg(path));
     m_used.remove(path);
 }
 
@@ -123,14 +122,14 @@ QString FileCommands::pickLayout(const QString &title, const QString &folder)
 
 void FileCommands::LoadProfile()
 {
-    const QString path = pickLayout(QStringLiteral("Load Layout"), m_used.folder());
+    const QString path = pickLayout(u"Load Layout"_s, m_used.folder());
     if (!path.isEmpty())
         load(path);
 }
 
 void FileCommands::mnuLoadFactoryLayout()
 {
-    const QString path = pickLayout(QStringLiteral("Load factory layouts"), m_state.folders.exampleLayouts());
+    const QString path = pickLayout(u"Load factory layouts"_s, m_state.folders.exampleLayouts());
     if (!path.isEmpty() && clearDesign())
         load(path);
 }
@@ -168,14 +167,14 @@ double FileCommands::CalculateComplexity() const
 
 void FileCommands::mnuPrdCPULoad()
 {
-    const QString load = QStringLiteral("%1%").arg(controls::shownLoad(CalculateComplexity()));
-    m_prompts.message(Icon::Information, QStringLiteral("Predictive CPU load - ") + load,
-                      QStringLiteral("Predictive CPU load on hardware device - ") + load +
-                          QStringLiteral("\n\n\n"
-                                         "CPU load < 10%                       - Good\n\n"
-                                         "10% <= CPU load <= 15%     - Average\n\n"
-                                         "15% < CPU load <= 20%        - High (Overload)\n\n"
-                                         "20% < CPU load                       - Extremely High (Overload)"));
+    const QString load = u"%1%"_s.arg(controls::shownLoad(CalculateComplexity()));
+    m_prompts.message(Icon::Information, u"Predictive CPU load - "_s + load,
+                      u"Predictive CPU load on hardware device - "_s + load +
+                          u"\n\n\n"
+                          "CPU load < 10%                       - Good\n\n"
+                          "10% <= CPU load <= 15%     - Average\n\n"
+                          "15% < CPU load <= 20%        - High (Overload)\n\n"
+                          "20% < CPU load                       - Extremely High (Overload)"_s);
 }
 
 bool FileCommands::passesComplexityGate()
@@ -187,18 +186,17 @@ bool FileCommands::passesComplexityGate()
 bool FileCommands::mayLoseVariables()
 {
     return !m_state.catalogue.definitionsLost ||
-           m_prompts.ask(
-               Icon::Warning, ProductTitle,
-               QStringLiteral("No variable definitions are loaded, the layout will hold none. Do you "
-                              "want to continue ?"));
+           m_prompts.ask(Icon::Warning, ProductTitle,
+                         u"No variable definitions are loaded, the layout will hold none. Do you "
+                         "want to continue ?"_s);
 }
 
 void FileCommands::mnuSaveConfig()
 {
     if (!mayLoseVariables() || !passesComplexityGate())
         return;
-    const QString path = m_prompts.saveFile(
-        {QStringLiteral("Save Layout"), m_used.folder(), SaveFilter, RecorderFileName, {}});
+    const QString path =
+        m_prompts.saveFile({u"Save Layout"_s, m_used.folder(), SaveFilter, RecorderFileName, {}});
     if (path.isEmpty())
         return;
     m_used.choose(path);
@@ -269,15 +267,14 @@ Parting FileCommands::saveWorkspace(Leaving leaving)
     if (failure && !layout.isEmpty())
         place = keepAnywhere(layout, m_state.folders);
     if (!place.isEmpty())
-        failure->append(QStringLiteral("\nThe design is kept in\n") + place);
+        failure->append(u"\nThe design is kept in\n"_s + place);
     if (failure)
         platform::reportFailure(prompts, *failure);
     if (failure ? !place.isEmpty() && !sessionEnds : standing == platform::Standing::Confirmed)
         return Parting::DesignIsSafe;
-    const bool leaves =
-        !failure || sessionEnds || !place.isEmpty() ||
-        prompts.ask(Icon::Warning, ProductTitle,
-                    QStringLiteral("The layout could not be saved. Do you want to leave anyway?"));
+    const bool leaves = !failure || sessionEnds || !place.isEmpty() ||
+                        prompts.ask(Icon::Warning, ProductTitle,
+                                    u"The layout could not be saved. Do you want to leave anyway?"_s);
     return leaves ? Parting::DesignAtRisk : Parting::Stays;
 }
 

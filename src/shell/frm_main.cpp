@@ -20,6 +20,8 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The one layout that is dropped; empty when it is anything else.
@@ -27,7 +29,7 @@ QString droppedLayout(const QMimeData &dropped)
 {
     const QList<QUrl> files = dropped.urls();
     const QString path = files.size() == 1 ? files.first().toLocalFile() : QString();
-    return path.endsWith(QLatin1String(".VGL"), Qt::CaseInsensitive) ? path : QString();
+    return path.endsWith(".VGL"_L1, Qt::CaseInsensitive) ? path : QString();
 }
 
 } // namespace
@@ -39,8 +41,8 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
                                           state.stamp})),
       m_files(state, prompts, *m_design, *this), m_variables(state, prompts, *m_design)
 {
-    setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(platform::ProductTitle + QStringLiteral(" - Version ") + programVersion());
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(platform::ProductTitle + u" - Version "_s + programVersion());
     setMinimumSize(640, 480);
     setAcceptDrops(true);
     makeActions();
@@ -107,9 +109,8 @@ void frmMain::fill(QWidget &menu, unsigned place)
 void frmMain::fillAddMenu(QMenu &menu, const QString &prefix)
 {
     for (const controls::Family &family : controls::families()) {
-        QAction *add =
-            menu.addAction(platform::artIcon(QStringLiteral("families/") + QLatin1String(family.art)),
-                           QLatin1String(family.menuCaption));
+        QAction *add = menu.addAction(platform::artIcon(u"families/"_s + QLatin1String(family.art)),
+                                      QLatin1String(family.menuCaption));
         add->setObjectName(prefix + QLatin1String(family.menuItem).mid(3));
         const controls::ControlType type = family.type;
         connect(add, &QAction::triggered, this,
@@ -129,18 +130,17 @@ QMenu *frmMain::addMenu(QMenu *menu, const char *name, unsigned place)
 void frmMain::makeMenus()
 {
     QMenuBar *bar = menuBar();
-    addMenu(new QMenu(QStringLiteral("&File"), bar), "mnuFile", FileMenu);
-    addMenu(new QMenu(QStringLiteral("&View"), bar), "mnuView", ViewMenu);
-    fillAddMenu(*addMenu(new QMenu(QStringLiteral("&Add Control"), bar), "mnuAddControl", 0),
-                QStringLiteral("mnu"));
-    addMenu(new QMenu(QStringLiteral("&Configuration"), bar), "mnuConfiguration", ConfigurationMenu);
-    addMenu(new QMenu(QStringLiteral("&Help"), bar), "mnuHelp", HelpMenu)->setToolTipsVisible(true);
+    addMenu(new QMenu(u"&File"_s, bar), "mnuFile", FileMenu);
+    addMenu(new QMenu(u"&View"_s, bar), "mnuView", ViewMenu);
+    fillAddMenu(*addMenu(new QMenu(u"&Add Control"_s, bar), "mnuAddControl", 0), u"mnu"_s);
+    addMenu(new QMenu(u"&Configuration"_s, bar), "mnuConfiguration", ConfigurationMenu);
+    addMenu(new QMenu(u"&Help"_s, bar), "mnuHelp", HelpMenu)->setToolTipsVisible(true);
 }
 
 void frmMain::makeToolbar()
 {
-    QToolBar *toolbar = addToolBar(QStringLiteral("Toolbar"));
-    toolbar->setObjectName(QStringLiteral("Toolbar"));
+    QToolBar *toolbar = addToolBar(u"Toolbar"_s);
+    toolbar->setObjectName(u"Toolbar"_s);
     toolbar->setMovable(false);
     toolbar->setIconSize(QSize(24, 24));
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -155,10 +155,10 @@ void frmMain::makeStatusBar()
     m_zoom = new QLabel;
     m_standard = new QLabel;
     m_bitRate = new QLabel;
-    m_position->setObjectName(QStringLiteral("lblPosition"));
-    m_bitRate->setObjectName(QStringLiteral("lblBitRate"));
-    m_current->setObjectName(QStringLiteral("lblCurrent"));
-    m_zoom->setObjectName(QStringLiteral("lblZoom"));
+    m_position->setObjectName(u"lblPosition"_s);
+    m_bitRate->setObjectName(u"lblBitRate"_s);
+    m_current->setObjectName(u"lblCurrent"_s);
+    m_zoom->setObjectName(u"lblZoom"_s);
     for (QWidget *pane :
          std::initializer_list<QWidget *>{m_position, m_current, m_zoom, m_standard, m_bitRate})
         pane->setContentsMargins(8, 2, 8, 2);
@@ -176,19 +176,19 @@ void frmMain::makeStatusBar()
 
 void frmMain::makePopups()
 {
-    m_canvasPopup.setObjectName(QStringLiteral("mnuDropDown"));
-    QMenu *add = m_canvasPopup.addMenu(QStringLiteral("&Add Control"));
-    add->setObjectName(QStringLiteral("mnuDDAddControl"));
-    fillAddMenu(*add, QStringLiteral("mnuDD"));
+    m_canvasPopup.setObjectName(u"mnuDropDown"_s);
+    QMenu *add = m_canvasPopup.addMenu(u"&Add Control"_s);
+    add->setObjectName(u"mnuDDAddControl"_s);
+    fillAddMenu(*add, u"mnuDD"_s);
     fill(m_canvasPopup, CanvasPopup);
     fill(m_design->canvas(), CanvasPopup);
     connect(m_design, &surface::frmInterface::canvasMenuRequested, this,
             [this](const QPoint &position) { m_canvasPopup.popup(position); });
-    m_controlPopup.setObjectName(QStringLiteral("mnuDropDown3"));
+    m_controlPopup.setObjectName(u"mnuDropDown3"_s);
     fill(m_controlPopup, ControlPopup);
     connect(m_design, &surface::frmInterface::controlMenuRequested, this,
             [this](const QPoint &position) { m_controlPopup.popup(position); });
-    m_groupPopup.setObjectName(QStringLiteral("mnuGroupControl"));
+    m_groupPopup.setObjectName(u"mnuGroupControl"_s);
     fill(m_groupPopup, GroupPopup);
     connect(m_design, &surface::frmInterface::groupMenuRequested, this,
             [this](const QPoint &position, bool pastes) {
@@ -196,7 +196,7 @@ void frmMain::makePopups()
                 refreshFromState();
                 m_groupPopup.popup(position);
             });
-    m_libraryPopup.setObjectName(QStringLiteral("mnuControl"));
+    m_libraryPopup.setObjectName(u"mnuControl"_s);
     fill(m_libraryPopup, LibraryPopup);
     connect(m_design, &surface::frmInterface::libraryMenuRequested, this,
             [this](const QPoint &position) { m_libraryPopup.popup(position); });
@@ -221,7 +221,7 @@ void frmMain::refreshFromState()
     }
     for (const auto &[menu, place] : m_menus)
         menu->setEnabled(livesInPreview(place) || !m_design->IsPlayMode());
-    m_zoom->setText(QStringLiteral("%1 %").arg(m_design->view().zoom()));
+    m_zoom->setText(u"%1 %"_s.arg(m_design->view().zoom()));
     m_standard->setText(recorder::standardCaption(settings.VideoType));
     m_bitRate->setText(recorder::bitRateCaption(settings.CurrentBitRate));
     m_bitRate->setToolTip(m_bitRate->text());
@@ -270,7 +270,7 @@ void frmMain::closeEvent(QCloseEvent *event)
         m_design->saveGeometry();
         m_files.used().keep();
     });
-    platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
+    platform::wipeFiles(m_state.folders.cache, u"*.bmp"_s);
     event->accept();
 }
 

@@ -12,6 +12,7 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
 using recorder::VideoStandard;
 
 namespace {
@@ -31,9 +32,8 @@ QImage chosenBackground(const QString &path, VideoStandard standard, platform::P
     const QSize size = surface::backgroundSize(standard);
     if (picture.isNull() || picture.size() == size)
         return picture;
-    prompts.message(platform::Icon::Critical, QStringLiteral("Invalid picture size"),
-                    QStringLiteral("%1\nImage should be %2 X %3")
-                        .arg(QFileInfo(path).fileName())
+    prompts.message(platform::Icon::Critical, u"Invalid picture size"_s,
+                    u"%1\nImage should be %2 X %3"_s.arg(QFileInfo(path).fileName())
                         .arg(size.width())
                         .arg(size.height()));
     return {};
@@ -63,17 +63,17 @@ std::optional<forms::Verdict> validateOptions(const forms::Typed &typed)
     const double size = typed.number("txtGridSize");
     if (size >= SmallestGrid && size <= LargestGrid)
         return std::nullopt;
-    return forms::refusal(QStringLiteral("Invalid grid size"), platform::Icon::Critical);
+    return forms::refusal(u"Invalid grid size"_s, platform::Icon::Critical);
 }
 
 frmOptions::frmOptions(surface::frmInterface &design, const forms::Context &context)
-    : DialogOf(QStringLiteral("Options"), shownOptions(design), context), m_design(design)
+    : DialogOf(u"Options"_s, shownOptions(design), context), m_design(design)
 {
     using V = Options;
     addGroup("Grid");
     auto &size =
         number([](auto &v) -> auto & { return v.grid.spacing; }, {"txtGridSize", "&Grid Size", "twips"});
-    const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    const QRegularExpression digits(u"[0-9]*"_s);
     size.box().setValidator(new QRegularExpressionValidator(digits, this));
     check(
         [](auto &v) -> auto & { return v.grid.shown; }, "chkShowGrid", "&Show Grid");
@@ -99,7 +99,7 @@ void frmOptions::addBackground(VideoStandard standard, forms::ChosenPicture Opti
     auto &chosen = add<forms::PictureField>(
         picture.name, previewName, graphics::pictureRequest(), prompts(),
         [this, standard](const QString &path) { return chosenBackground(path, standard, prompts()); });
-    chosen.button().setText(QStringLiteral("..."));
+    chosen.button().setText(u"..."_s);
     addRow(chosen, "");
     chosen.button().setAccessibleName(QString::fromUtf8(picture.caption));
     bind(chosen, member);

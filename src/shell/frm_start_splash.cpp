@@ -9,14 +9,17 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Margin = 28; // pixels
 
-const QString Licences = QStringLiteral(
-    "This program is free software under the GNU General Public License, version 3 or later. It is made with "
+const QString Licences =
+    u"This program is free software under the GNU General Public License, version 3 or later. It is made "
+    u"with "
     "Qt (LGPL 3), QCustomPlot (GPL 3 or later), FreeType (FreeType License), zlib (zlib License) and the "
-    "Liberation fonts (SIL Open Font License 1.1).");
+    "Liberation fonts (SIL Open Font License 1.1)."_s;
 
 } // namespace
 
@@ -24,13 +27,13 @@ frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
     : QDialog(owner, Qt::SplashScreen | Qt::WindowStaysOnTopHint)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    const QString replacement = folders.program + QStringLiteral("Splash.jpg");
+    const QString replacement = folders.program + u"Splash.jpg"_s;
     m_picture = QPixmap::fromImage(graphics::loadPicture(replacement).picture);
     if (m_picture.isNull())
-        m_picture.load(QStringLiteral(":/splash.jpg"));
+        m_picture.load(u":/splash.jpg"_s);
     setFixedSize(m_picture.size());
-    setWindowTitle(owner ? QStringLiteral("About Us") : platform::ProductTitle);
-    QLabel *version = addLabel(QStringLiteral("VERSION   ") + programVersion());
+    setWindowTitle(owner ? u"About Us"_s : platform::ProductTitle);
+    QLabel *version = addLabel(u"VERSION   "_s + programVersion());
     version->move(Margin, height() - 44);
     setAccessibleName(version->text());
     if (owner)
@@ -40,7 +43,7 @@ frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
 QLabel *frmStartSplash::addLabel(const QString &text)
 {
     auto *label = new QLabel(text, this);
-    label->setStyleSheet(QStringLiteral("color: white"));
+    label->setStyleSheet(u"color: white"_s);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->adjustSize();
     return label;
@@ -49,8 +52,8 @@ QLabel *frmStartSplash::addLabel(const QString &text)
 void frmStartSplash::showLicences(const QWidget &owner, QLabel &version)
 {
     QLabel *licences = addLabel(Licences);
-    licences->setObjectName(QStringLiteral("lblLicences"));
-    licences->setStyleSheet(QStringLiteral("color: white; background: rgba(8, 11, 20, 200)"));
+    licences->setObjectName(u"lblLicences"_s);
+    licences->setStyleSheet(u"color: white; background: rgba(8, 11, 20, 200)"_s);
     licences->setWordWrap(true);
     licences->setContentsMargins(Margin, 8, Margin, 8);
     licences->setFixedWidth(width());

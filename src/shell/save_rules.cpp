@@ -8,12 +8,14 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 std::optional<QString> longNameQuestion(const QString &path)
 {
     constexpr qsizetype LongestName = 8;
     if (QFileInfo(path).completeBaseName().size() <= LongestName)
         return std::nullopt;
-    return QStringLiteral("File name should be maximum of 8 characters, Do you want to continue?");
+    return u"File name should be maximum of 8 characters, Do you want to continue?"_s;
 }
 
 std::optional<QString> recorderNameQuestion(const QString &path,
@@ -23,10 +25,9 @@ std::optional<QString> recorderNameQuestion(const QString &path,
     const bool named = file.fileName().compare(RecorderFileName, Qt::CaseInsensitive) == 0;
     if (named && isVolumeRoot(QDir::cleanPath(file.absolutePath())))
         return std::nullopt;
-    return QStringLiteral("Note that the file must be called %1 and saved to the root \n"
-                          "directory of a CF card to be recognised by the MORVEL\n\n"
-                          "Do you want to continue ?")
-        .arg(RecorderFileName);
+    return u"Note that the file must be called %1 and saved to the root \n"
+           "directory of a CF card to be recognised by the MORVEL\n\n"
+           "Do you want to continue ?"_s.arg(RecorderFileName);
 }
 
 bool isVolumeRoot(const QString &folder)
@@ -41,8 +42,8 @@ std::optional<QString> replacedFontsNote(const QStringList &files)
     QStringList names;
     for (const QString &file : files)
         names.append(QFileInfo(file).completeBaseName().simplified());
-    return QStringLiteral("These fonts could not be made, the layout holds %1 in their place:\n\n%2")
-        .arg(graphics::DefaultFace, names.join(QLatin1Char('\n')));
+    return u"These fonts could not be made, the layout holds %1 in their place:\n\n%2"_s.arg(
+        graphics::DefaultFace, names.join('\n'_L1));
 }
 
 } // namespace shell

@@ -8,16 +8,17 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
 using platform::ProcessLock;
 
 SingleInstance::SingleInstance(const QString &dataFolder, platform::Prompts &prompts,
                                ProcessLock::SystemLock lock)
-    : m_lock((QDir().mkpath(dataFolder), dataFolder + QStringLiteral("morvel-config.lock")), lock)
+    : m_lock((QDir().mkpath(dataFolder), dataFolder + u"morvel-config.lock"_s), lock)
 {
     if (m_lock.state() != ProcessLock::State::OtherHosts)
         return;
     const QString question =
-        QStringLiteral("The tool seems to be open on %1. Do you want to start it here?").arg(m_lock.host());
+        u"The tool seems to be open on %1. Do you want to start it here?"_s.arg(m_lock.host());
     if (prompts.ask(platform::Icon::Question, platform::ProductTitle, question))
         m_lock.takeOver();
 }
@@ -25,12 +26,11 @@ SingleInstance::SingleInstance(const QString &dataFolder, platform::Prompts &pro
 void tellOfRunningInstance(const QStringList &arguments, platform::Prompts &prompts)
 {
     const bool opensLayout = std::any_of(arguments.begin(), arguments.end(), [](const QString &argument) {
-        return argument.startsWith(QLatin1String("/F"), Qt::CaseInsensitive);
+        return argument.startsWith("/F"_L1, Qt::CaseInsensitive);
     });
     if (arguments.contains(LaunchedMark) && opensLayout) {
-        prompts.message(
-            platform::Icon::Information, platform::ProductTitle,
-            QStringLiteral("The tool is already open. Load the layout there with File, Load Layout."));
+        prompts.message(platform::Icon::Information, platform::ProductTitle,
+                        u"The tool is already open. Load the layout there with File, Load Layout."_s);
     }
 }
 

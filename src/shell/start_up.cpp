@@ -20,13 +20,14 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
 using platform::FileExists;
 using platform::Icon;
 using recorder::VideoStandard;
 
 namespace {
 
-const QString LastLayout = QStringLiteral("Do you want to load last layout ?");
+const QString LastLayout = u"Do you want to load last layout ?"_s;
 
 } // namespace
 
@@ -46,8 +47,8 @@ bool StartUp::run()
                                      [](const QString &path) { return FileExists(path) != 0; });
     readSettings();
     makeFolders();
-    const QString ownIcon = m_state.folders.program + QStringLiteral("User.ico");
-    QApplication::setWindowIcon(QIcon(FileExists(ownIcon) ? ownIcon : QStringLiteral(":/icon.png")));
+    const QString ownIcon = m_state.folders.program + u"User.ico"_s;
+    QApplication::setWindowIcon(QIcon(FileExists(ownIcon) ? ownIcon : u":/icon.png"_s));
     if (!loadVariables() || !loadMessages() || !checkExpressions())
         return false;
     showWindows();
@@ -75,16 +76,15 @@ void StartUp::makeFolders()
         platform::removeStagedFiles(folder);
     controls::removeUnusedCopies(m_state.folders);
     const QDir temporary(m_state.folders.temporary);
-    for (const QString &left :
-         temporary.entryList({QStringLiteral("save*")}, QDir::Dirs | QDir::NoDotAndDotDot))
+    for (const QString &left : temporary.entryList({u"save*"_s}, QDir::Dirs | QDir::NoDotAndDotDot))
         QDir(temporary.filePath(left)).removeRecursively(); // earlier versions wrote layouts there
 }
 
 void StartUp::missingFile(const QString &name)
 {
-    m_prompts.message(
-        Icon::Critical, QStringLiteral("File not found"),
-        QStringLiteral("An important system file cannot be found, please uninstall and re-install\n") + name);
+    m_prompts.message(Icon::Critical, u"File not found"_s,
+                      u"An important system file cannot be found, please uninstall and re-install\n"_s +
+                          name);
 }
 
 bool StartUp::loadVariables()
@@ -131,9 +131,8 @@ bool StartUp::checkExpressions()
     constexpr int OldestLayer = 3;
     if (variables::expression::expressionLayerVersion() >= OldestLayer)
         return true;
-    m_prompts.message(
-        Icon::Critical, platform::ProductTitle,
-        QStringLiteral("System can't find required maths parser DLL,please uninstall and re-install"));
+    m_prompts.message(Icon::Critical, platform::ProductTitle,
+                      u"System can't find required maths parser DLL,please uninstall and re-install"_s);
     return false;
 }
 
@@ -147,7 +146,7 @@ void StartUp::showWindows()
     showSplashWhenLate();
     m_window->resize(m_window->screen()->availableSize()); // boxes open in its middle before it is maximised
     m_window->showMaximized();
-    platform::wipeFiles(m_state.folders.cache, QStringLiteral("*.bmp"));
+    platform::wipeFiles(m_state.folders.cache, u"*.bmp"_s);
     platform::afterFirstPaint(*m_window, [window = m_window.get()] {
         platform::Busy busy(window);
         window->design().GenerateIcons(busy);
@@ -176,7 +175,7 @@ void StartUp::chooseFirstLayout()
     if (isNamed)
         m_window->files().load(m_commandLine.layoutToOpen);
     else if (!offerLayout(folders.workspaceFile(), LastLayout).has_value())
-        offerLayout(folders.defaultLayoutFile(), QStringLiteral("Do you want to load default layout ?"));
+        offerLayout(folders.defaultLayoutFile(), u"Do you want to load default layout ?"_s);
 }
 
 // True when the user wanted the design of a run that did not come to its end. Where it is not loaded, or
@@ -208,14 +207,13 @@ std::optional<bool> StartUp::offerLayout(const QString &path, const QString &que
 void StartUp::tellOfKeptFiles()
 {
     const QDir folder(m_state.folders.GetAppDataFolder());
-    for (const QString &name : folder.entryList({platform::KeptPrefix + QLatin1String("*-*")}, QDir::Files)) {
-        const QString told = platform::unusedPath(folder.filePath(QStringLiteral("old-") + name));
+    for (const QString &name : folder.entryList({platform::KeptPrefix + "*-*"_L1}, QDir::Files)) {
+        const QString told = platform::unusedPath(folder.filePath(u"old-"_s + name));
         platform::skipFailures([&] {
             platform::moveFile(folder.filePath(name), told);
-            m_prompts.message(
-                Icon::Warning, platform::ProductTitle,
-                QStringLiteral("A save did not come to its end. What the file held before is kept in\n") +
-                    told);
+            m_prompts.message(Icon::Warning, platform::ProductTitle,
+                              u"A save did not come to its end. What the file held before is kept in\n"_s +
+                                  told);
         });
     }
 }

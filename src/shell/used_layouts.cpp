@@ -7,6 +7,8 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 namespace keys = platform::keys;
 
 void UsedLayouts::read()
@@ -66,8 +68,8 @@ QString recentCaption(qsizetype index, const QString &path)
     constexpr qsizetype Longest = 60; // characters
     QString shown = QDir::toNativeSeparators(path);
     if (shown.size() > Longest)
-        shown = shown.first(Longest / 3) + QStringLiteral("...") + shown.last(Longest * 2 / 3);
-    return QStringLiteral("&%1 %2").arg(index + 1).arg(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
+        shown = shown.first(Longest / 3) + u"..."_s + shown.last(Longest * 2 / 3);
+    return u"&%1 %2"_s.arg(index + 1).arg(shown.replace('&'_L1, "&&"_L1));
 }
 
 } // namespace shell

@@ -6,9 +6,11 @@
 
 namespace shell {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString Filter = QStringLiteral("Variable Config File (*.var)|*.var");
+const QString Filter = u"Variable Config File (*.var)|*.var"_s;
 
 } // namespace
 
@@ -20,20 +22,18 @@ VariableCommands::VariableCommands(ProgramState &state, platform::Prompts &promp
 
 void VariableCommands::mnuLoadVarInfo()
 {
-    const QString question = QStringLiteral(
-        "Are you sure you wish to replace the current variable configuration with one from file?");
+    const QString question =
+        u"Are you sure you wish to replace the current variable configuration with one from file?"_s;
     if (!m_prompts.ask(platform::Icon::Question, platform::ProductTitle, question))
         return;
-    const QString path =
-        m_prompts.openFile({QStringLiteral("Load Variable Information..."), {}, Filter, {}, {}});
+    const QString path = m_prompts.openFile({u"Load Variable Information..."_s, {}, Filter, {}, {}});
     if (!path.isEmpty() && takeOverDefinitions(path, m_state, m_prompts, m_design.window()))
         m_design.refresh();
 }
 
 void VariableCommands::mnuSaveVarInfo()
 {
-    const QString path =
-        m_prompts.saveFile({QStringLiteral("Save Variable Information..."), {}, Filter, {}, {}});
+    const QString path = m_prompts.saveFile({u"Save Variable Information..."_s, {}, Filter, {}, {}});
     if (path.isEmpty())
         return;
     const QByteArray definitions = variables::saveDefinitions(m_state.catalogue);

@@ -10,13 +10,14 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
 using common::IniFile;
 using controls::Family;
 
 namespace {
 
-const QString CountKey = QStringLiteral("CNT");
-const QString Missing = QStringLiteral("0");
+const QString CountKey = u"CNT"_s;
+const QString Missing = u"0"_s;
 constexpr int MostPlaces = 9'999;
 // Of a reader, in characters with the end.
 constexpr int NameBuffer = 50;
@@ -24,11 +25,8 @@ constexpr int FileBuffer = 20;
 constexpr int TextBuffer = 200;
 
 QString keysOf(const Family &family) { return QLatin1String(family.name); }
-QString filesOf(const Family &family) { return keysOf(family) + QLatin1String("_FILE"); }
-QString textsOf(const Family &family, int place)
-{
-    return QStringLiteral("%1/%2").arg(keysOf(family)).arg(place);
-}
+QString filesOf(const Family &family) { return keysOf(family) + "_FILE"_L1; }
+QString textsOf(const Family &family, int place) { return u"%1/%2"_s.arg(keysOf(family)).arg(place); }
 
 // Nothing for keys that are not places; the first of two equal ones counts.
 std::map<int, QString> byPlace(const IniFile &file, const QString &section, int buffer)
@@ -56,7 +54,7 @@ public:
     {
         QString unlike = key;
         for (int &uses = m_uses[key]; uses > 0 && m_uses.contains(unlike);)
-            unlike = QStringLiteral("%1 %2").arg(key).arg(++uses);
+            unlike = u"%1 %2"_s.arg(key).arg(++uses);
         ++m_uses[unlike];
         return unlike;
     }
@@ -99,7 +97,7 @@ int freePlace(const IniFile &file, const Family &family)
         if (!taken.contains(place) && !file.hasSection(textsOf(family, place)))
             return place;
     }
-    throw common::RunTimeError(QStringLiteral("The control library is full"));
+    throw common::RunTimeError(u"The control library is full"_s);
 }
 
 // Gives the entry's lines the place before its own, which is free.

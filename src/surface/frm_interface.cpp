@@ -14,12 +14,13 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
 using controls::OverlayControl;
 using platform::skipFailures;
 
 namespace {
 
-const QString UntitledCaption = QStringLiteral("Untitled");
+const QString UntitledCaption = u"Untitled"_s;
 
 } // namespace
 
@@ -29,10 +30,10 @@ frmInterface::frmInterface(const InterfaceContext &context)
       m_variables(new VariableTree({context.catalogue, context.folders, context.locale, context.prompts})),
       m_backgrounds(context.folders), m_caption(UntitledCaption)
 {
-    setObjectName(QStringLiteral("frmInterface"));
-    m_panels = new PanelArea(context.screen, {{{QStringLiteral("Variables"), m_variables},
-                                               {QStringLiteral("Control library"), m_library},
-                                               {m_caption, m_canvasView}}});
+    setObjectName(u"frmInterface"_s);
+    m_panels = new PanelArea(
+        context.screen,
+        {{{u"Variables"_s, m_variables}, {u"Control library"_s, m_library}, {m_caption, m_canvasView}}});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_panels);

@@ -12,6 +12,8 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const platform::PanelKeys &Bar = platform::keys::LibrarySplitter;
@@ -38,10 +40,7 @@ bool isCustom(const QString &key)
     return family && key != QLatin1String(family->rootKey);
 }
 
-QIcon familyIcon(const char *art)
-{
-    return platform::artIcon(QStringLiteral("families/") + QLatin1String(art));
-}
+QIcon familyIcon(const char *art) { return platform::artIcon(u"families/"_s + QLatin1String(art)); }
 
 QTreeWidgetItem *newItem(const QString &key, const QString &text, const QIcon &icon)
 {
@@ -60,13 +59,13 @@ LibraryPanel::LibraryPanel(controls::ControlHost &host, const controls::ControlS
       m_tree(makeView<Tree, QTreeWidgetItem>()), m_list(makeView<List, QListWidgetItem>())
 {
     setChildrenCollapsible(false);
-    m_tree->setObjectName(QStringLiteral("trvControl"));
-    m_tree->setAccessibleName(QStringLiteral("Control library"));
+    m_tree->setObjectName(u"trvControl"_s);
+    m_tree->setAccessibleName(u"Control library"_s);
     m_tree->setHeaderHidden(true);
     m_tree->setExpandsOnDoubleClick(false); // which adds a control
     m_tree->setIndentation(12);
-    m_list->setObjectName(QStringLiteral("lvControl"));
-    m_list->setAccessibleName(QStringLiteral("Entries of the chosen kind"));
+    m_list->setObjectName(u"lvControl"_s);
+    m_list->setAccessibleName(u"Entries of the chosen kind"_s);
     m_list->setViewMode(QListView::IconMode);
     m_list->setIconSize(PictureSize);
     m_list->setResizeMode(QListView::Adjust);
@@ -214,14 +213,13 @@ void LibraryPanel::showMenu(const QString &key, const QPoint &globalPosition)
 void LibraryPanel::mnuDefineCustom_Click(const controls::OverlayControl &control)
 {
     const controls::Family &family = control.family();
-    const QString name =
-        m_host.prompts().input(platform::ProductTitle, QStringLiteral("Enter configuration name"), {});
+    const QString name = m_host.prompts().input(platform::ProductTitle, u"Enter configuration name"_s, {});
     const QString key = customKey(family, name.toLower());
     if (name.trimmed().isEmpty())
         return;
     if (ControlNameExists(key)) {
         m_host.prompts().message(platform::Icon::Critical, platform::ProductTitle,
-                                 QStringLiteral("Configuration name already exists"));
+                                 u"Configuration name already exists"_s);
         return;
     }
     m_custom.define(key, control);
@@ -235,14 +233,14 @@ void LibraryPanel::rename(const QString &key)
     if (!isCustom(key))
         return;
     const controls::Family &family = *controls::familyOfKey(key);
-    const QString name = m_host.prompts().input(platform::ProductTitle,
-                                                QStringLiteral("Please eneter the control name"), key.mid(1));
+    const QString name =
+        m_host.prompts().input(platform::ProductTitle, u"Please eneter the control name"_s, key.mid(1));
     const QString newKey = customKey(family, name);
     if (name.trimmed().isEmpty() || newKey == key)
         return;
     if (ControlNameExists(newKey)) {
         m_host.prompts().message(platform::Icon::Critical, platform::ProductTitle,
-                                 QStringLiteral("Control name already exists"));
+                                 u"Control name already exists"_s);
         return;
     }
     m_custom.rename(key, newKey);
@@ -252,7 +250,7 @@ void LibraryPanel::rename(const QString &key)
 void LibraryPanel::remove(const QString &key)
 {
     if (!isCustom(key) || !m_host.prompts().ask(platform::Icon::Question, platform::ProductTitle,
-                                                QStringLiteral("Are you sure you wish to delete ?")))
+                                                u"Are you sure you wish to delete ?"_s))
         return;
     const controls::Family &family = *controls::familyOfKey(key);
     m_custom.remove(key);

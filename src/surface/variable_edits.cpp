@@ -9,13 +9,14 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
 using variables::VariableRecord;
 
 namespace {
 
 bool beginsWithNumber(const QString &text, const QString &decimalMark)
 {
-    const QString number = QStringLiteral("^\\s*[-+]?([.,\u066B]|%1)?\\d"); // digits of any script
+    const QString number = u"^\\s*[-+]?([.,\u066B]|%1)?\\d"_s; // digits of any script
     const QRegularExpression pattern(number.arg(QRegularExpression::escape(decimalMark)),
                                      QRegularExpression::UseUnicodePropertiesOption);
     return pattern.match(text).hasMatch();
@@ -34,8 +35,8 @@ bool storeNumber(float &field, const QString &answer)
 
 std::optional<VariableLine> variableLine(const QString &key)
 {
-    const QStringList fields = key.split(QLatin1Char('#'));
-    if (!key.startsWith(QLatin1Char('#')) || fields.size() < 3)
+    const QStringList fields = key.split('#'_L1);
+    if (!key.startsWith('#'_L1) || fields.size() < 3)
         return std::nullopt;
     const int index = fields[2].toInt();
     if (index < 1 || index > variables::LastIndex)
@@ -46,18 +47,15 @@ std::optional<VariableLine> variableLine(const QString &key)
 bool editMaximumRoc(VariableRecord &record, platform::Prompts &prompts, const QString &decimalMark)
 {
     const QString current = common::shortestText(record.MaximumROC, decimalMark);
-    const QString answer =
-        prompts.input(QStringLiteral("Maximum rate of change"),
-                      QStringLiteral("Please inputs a new maximum rate of change ") + current, current);
+    const QString answer = prompts.input(u"Maximum rate of change"_s,
+                                         u"Please inputs a new maximum rate of change "_s + current, current);
     return beginsWithNumber(answer, decimalMark) && storeNumber(record.MaximumROC, answer);
 }
 
 bool editName(VariableRecord &record, platform::Prompts &prompts)
 {
     const QString answer =
-        prompts
-            .input(QStringLiteral("New name"),
-                   QStringLiteral("Please inputs a new name for ") + record.BaseName, record.BaseName)
+        prompts.input(u"New name"_s, u"Please inputs a new name for "_s + record.BaseName, record.BaseName)
             .trimmed();
     if (answer.isEmpty())
         return false;
@@ -67,11 +65,10 @@ bool editName(VariableRecord &record, platform::Prompts &prompts)
 
 bool editSmoothing(VariableRecord &record, platform::Prompts &prompts, const QString &decimalMark)
 {
-    return storeNumber(
-        record.SmoothingTime,
-        prompts.input(QStringLiteral("Smoothing time"),
-                      QStringLiteral("Please inputs a new smoothing time for ") + record.BaseName,
-                      common::shortestText(record.SmoothingTime, decimalMark)));
+    return storeNumber(record.SmoothingTime,
+                       prompts.input(u"Smoothing time"_s,
+                                     u"Please inputs a new smoothing time for "_s + record.BaseName,
+                                     common::shortestText(record.SmoothingTime, decimalMark)));
 }
 
 } // namespace surface

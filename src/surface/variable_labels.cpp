@@ -4,6 +4,7 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
 using common::shortestText;
 using variables::VariableGroup;
 using variables::VariableRecord;
@@ -17,17 +18,17 @@ QString unitLine(const VariableRecord &record, const QString &unit)
 {
     switch (static_cast<VariableGroup>(record.VariableType)) {
     case VariableGroup::UserDefined:
-        return QStringLiteral("edit equation");
+        return u"edit equation"_s;
     case VariableGroup::ExternalInput:
-        return QStringLiteral("sensor type/units: [%1]").arg(unit);
+        return u"sensor type/units: [%1]"_s.arg(unit);
     default:
-        return QStringLiteral("units: [%1]").arg(unit);
+        return u"units: [%1]"_s.arg(unit);
     }
 }
 
 QString orNoneSet(const QString &caption, bool isSet, const QString &value)
 {
-    return caption + (isSet ? value : QStringLiteral("None Set"));
+    return caption + (isSet ? value : u"None Set"_s);
 }
 
 const QString &unitLabel(const VariableRecord &record, const variables::UnitTable &units)
@@ -38,40 +39,33 @@ const QString &unitLabel(const VariableRecord &record, const variables::UnitTabl
 
 } // namespace
 
-QString variableKey(const char *role, int index)
-{
-    return QStringLiteral("#%1#%2").arg(QLatin1String(role)).arg(index);
-}
+QString variableKey(const char *role, int index) { return u"#%1#%2"_s.arg(QLatin1String(role)).arg(index); }
 
 QString VariableDetail::key(int index) const
 {
     const QString key = variableKey(role, index);
-    return *field ? key + QLatin1Char('#') + QLatin1String(field) : key;
+    return *field ? key + '#'_L1 + QLatin1String(field) : key;
 }
 
 QString variableText(const VariableRecord &record)
 {
-    return QStringLiteral("%1  (%2)").arg(record.BaseName, record.PhysicalName);
+    return u"%1  (%2)"_s.arg(record.BaseName, record.PhysicalName);
 }
 
 std::vector<VariableDetail> variableDetails(const VariableRecord &record, int index,
                                             const variables::UnitTable &units, const QString &decimalMark)
 {
-    const QString roc = orNoneSet(QStringLiteral("Maximum rate of change: "), record.MaximumROC > 0,
+    const QString roc = orNoneSet(u"Maximum rate of change: "_s, record.MaximumROC > 0,
                                   shortestText(record.MaximumROC, decimalMark));
-    const QString smoothing =
-        orNoneSet(QStringLiteral("Smoothed over: "), record.SmoothingTime != 0,
-                  shortestText(record.SmoothingTime, decimalMark) + QStringLiteral(" seconds"));
+    const QString smoothing = orNoneSet(u"Smoothed over: "_s, record.SmoothingTime != 0,
+                                        shortestText(record.SmoothingTime, decimalMark) + u" seconds"_s);
     std::vector<VariableDetail> details;
     if (index < FirstWithoutOptions && index != FirstRecord) {
-        details.push_back({"AVAILABLETYPE",
-                           QStringLiteral("Advanced options"),
-                           "advanced",
-                           {{"MAXROC", roc, "roc"}},
-                           "ADVANCED"});
+        details.push_back(
+            {"AVAILABLETYPE", u"Advanced options"_s, "advanced", {{"MAXROC", roc, "roc"}}, "ADVANCED"});
     }
     details.push_back({"TRANSFORMTYPE", unitLine(record, unitLabel(record, units)), "units"});
-    details.push_back({"USERNAME", QStringLiteral("Variable Name: ") + record.BaseName, "name"});
+    details.push_back({"USERNAME", u"Variable Name: "_s + record.BaseName, "name"});
     details.push_back({"SMOOTHING", smoothing, "smooth"});
     return details;
 }

@@ -14,12 +14,14 @@
 
 namespace surface {
 
+using namespace Qt::StringLiterals;
+
 const QIcon &VariableIcons::of(const char *art)
 {
     const QLatin1String name(art);
     QIcon &icon = m_icons[name];
     if (icon.isNull())
-        icon = platform::artIcon(QStringLiteral("variables/") + name);
+        icon = platform::artIcon(u"variables/"_s + name);
     return icon;
 }
 
@@ -90,8 +92,8 @@ VariableTree::VariableTree(const VariableTreeContext &context)
     : m_context(context), m_editors(context.catalogue, context.prompts, context.locale),
       m_search(new QLineEdit), m_tree(new Tree(VariableMime, &draggedVariable))
 {
-    m_tree->setObjectName(QStringLiteral("VarTree"));
-    m_tree->setAccessibleName(QStringLiteral("Variables"));
+    m_tree->setObjectName(u"VarTree"_s);
+    m_tree->setAccessibleName(u"Variables"_s);
     m_tree->setHeaderHidden(true);
     m_tree->setIndentation(14);
     m_tree->setUniformRowHeights(true);
@@ -121,12 +123,12 @@ VariableTree::VariableTree(const VariableTreeContext &context)
 
 void VariableTree::makeSearchBox()
 {
-    m_search->setObjectName(QStringLiteral("txtSearch"));
-    m_search->setPlaceholderText(QStringLiteral("Search variables"));
+    m_search->setObjectName(u"txtSearch"_s);
+    m_search->setPlaceholderText(u"Search variables"_s);
     m_search->setAccessibleName(m_search->placeholderText());
     // The line edit's own cross would be looked for in the themes of the desktop at each start.
     QAction *clear = m_search->addAction(m_icons.of("clear"), QLineEdit::TrailingPosition);
-    clear->setToolTip(QStringLiteral("Clear the search"));
+    clear->setToolTip(u"Clear the search"_s);
     clear->setVisible(false);
     connect(clear, &QAction::triggered, m_search, &QLineEdit::clear);
     connect(m_search, &QLineEdit::textChanged, this, [this, clear](const QString &text) {
@@ -236,13 +238,13 @@ bool VariableTree::editRecord(const QString &role, int index)
 {
     variables::VariableRecord &record = m_context.catalogue.staging[index];
     const QString &mark = m_context.locale.decimalSeparator;
-    if (role == QLatin1String("MAXROC"))
+    if (role == "MAXROC"_L1)
         return editMaximumRoc(record, m_context.prompts, mark);
-    if (role == QLatin1String("USERNAME"))
+    if (role == "USERNAME"_L1)
         return editName(record, m_context.prompts);
-    if (role == QLatin1String("SMOOTHING"))
+    if (role == "SMOOTHING"_L1)
         return editSmoothing(record, m_context.prompts, mark);
-    if (role == QLatin1String("TRANSFORMTYPE"))
+    if (role == "TRANSFORMTYPE"_L1)
         return m_editors.editTransformation(index, window());
     return false;
 }

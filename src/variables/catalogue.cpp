@@ -7,6 +7,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Range
@@ -61,14 +63,11 @@ private:
     QString m_unknown;
 };
 
-QString bracketed(const QString &name, const QString &unit)
-{
-    return name + QLatin1String(" [") + unit + QLatin1Char(']');
-}
+QString bracketed(const QString &name, const QString &unit) { return name + " ["_L1 + unit + ']'_L1; }
 
 // The two forms in which names are compared: as they stand, and without what may be a unit.
 QString whole(const QString &name) { return name.trimmed().toUpper(); }
-QString cut(const QString &name) { return whole(name.section(QLatin1Char('['), 0, 0)); }
+QString cut(const QString &name) { return whole(name.section('['_L1, 0, 0)); }
 
 } // namespace
 

@@ -13,6 +13,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int HighestDegree = 3;
@@ -22,7 +24,7 @@ constexpr double DeviationStep = 1e3;   // three decimals
 double finite(double value)
 {
     if (!std::isfinite(value))
-        throw common::RunTimeError(QStringLiteral("Overflow"));
+        throw common::RunTimeError(u"Overflow"_s);
     return value;
 }
 
@@ -76,13 +78,13 @@ int fitDegree(qsizetype points) { return std::min(static_cast<int>(points) - 1, 
 std::optional<QString> fitComplaint(const QList<QPointF> &points, int degree)
 {
     if (points.size() > MostFitPoints)
-        return QStringLiteral("Maxmium of 25 data points");
+        return u"Maxmium of 25 data points"_s;
     if (points.isEmpty())
-        return QStringLiteral("Not enough data");
+        return u"Not enough data"_s;
     if (points.size() < degree + 1)
-        return QStringLiteral("Not Enough Data");
+        return u"Not Enough Data"_s;
     if (!hasSingleCurve(points, degree))
-        return QStringLiteral("Not enough different values of Input X");
+        return u"Not enough different values of Input X"_s;
     return std::nullopt;
 }
 
@@ -108,7 +110,7 @@ CurveFit fitCurve(const QList<QPointF> &points)
 QString fitText(const CurveFit &fit)
 {
     const QString deviation = QString::number(fit.standardDeviation, 'f', QLocale::FloatingPointShortest);
-    return polynomialText(fit.coefficients) + QLatin1String("     std dev=") + deviation;
+    return polynomialText(fit.coefficients) + "     std dev="_L1 + deviation;
 }
 
 QList<QPointF> curveSamples(const Coefficients &coefficients, double from, double to, int count)

@@ -2,23 +2,25 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 QString tableText(const QList<QStringList> &rows)
 {
     QStringList lines;
     for (const QStringList &cells : rows)
-        lines.append(cells.join(QLatin1Char('\t')));
-    return lines.join(QLatin1String("\r\n"));
+        lines.append(cells.join('\t'_L1));
+    return lines.join("\r\n"_L1);
 }
 
 QList<QStringList> tableRows(const QString &text)
 {
     QString lines = text;
-    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    if (lines.endsWith(QLatin1Char('\n')))
+    lines.replace("\r\n"_L1, "\n"_L1).replace('\r'_L1, '\n'_L1);
+    if (lines.endsWith('\n'_L1))
         lines.chop(1);
     QList<QStringList> rows;
-    for (const QString &line : lines.split(QLatin1Char('\n')))
-        rows.append(line.split(QLatin1Char('\t')));
+    for (const QString &line : lines.split('\n'_L1))
+        rows.append(line.split('\t'_L1));
     return rows;
 }
 

@@ -4,17 +4,18 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype LongestUnits = 3; // deliberate
-const QString EmptyEquation = QStringLiteral("0");
+const QString EmptyEquation = u"0"_s;
 
 } // namespace
 
 QString transformationTitle(const VariableRecord &record)
 {
-    const QString caption =
-        hasOwnEquation(record) ? QStringLiteral("Edit equation for ") : QStringLiteral("Set conversion for ");
+    const QString caption = hasOwnEquation(record) ? u"Edit equation for "_s : u"Set conversion for "_s;
     return caption + record.BaseName;
 }
 
@@ -38,7 +39,7 @@ QStringList unitChoices(const VariableRecord &record, const UnitTable &units)
 QString unitLabel(const VariableRecord &record, int row, const UnitTable &units)
 {
     const QString name = record.AllowTransformations.value(row);
-    return QLatin1Char('[') + units[findUnit(units, name)].Uniit + QLatin1Char(']');
+    return '['_L1 + units[findUnit(units, name)].Uniit + ']'_L1;
 }
 
 std::optional<QString> validate(const TransformationForm &form, int index,

@@ -11,6 +11,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int EquationDigits = 3;
@@ -29,15 +31,15 @@ QString shortened(double magnitude, int digits)
     if (exponent >= 0 && exponent <= digits)
         return plainText(common::roundHalfEven(magnitude * scale) / scale);
     const double mantissa = common::roundHalfEven(magnitude * std::pow(10.0, digits - 1 - exponent)) / scale;
-    return plainText(mantissa) + QLatin1Char('e') + QString::number(exponent);
+    return plainText(mantissa) + 'e'_L1 + QString::number(exponent);
 }
 
 // The sign between two terms; a positive first term has none.
 QString joint(const QString &before, double coefficient)
 {
     if (coefficient < 0)
-        return QStringLiteral(" - ");
-    return before.isEmpty() ? QString() : QStringLiteral(" + ");
+        return u" - "_s;
+    return before.isEmpty() ? QString() : u" + "_s;
 }
 
 // A term of a lower power: `power` alone where the coefficient is 1, else number and `factor`.
@@ -46,7 +48,7 @@ void appendTerm(QString &text, double coefficient, const QString &power, const Q
     if (coefficient == 0)
         return;
     if (coefficient == 1)
-        text += (text.isEmpty() ? QStringLiteral(" ") : QStringLiteral(" + ")) + power;
+        text += (text.isEmpty() ? u" "_s : u" + "_s) + power;
     else
         text += joint(text, coefficient) + numberText(std::fabs(coefficient), EquationDigits) + factor;
 }
@@ -56,12 +58,12 @@ void appendTerm(QString &text, double coefficient, const QString &power, const Q
 QString numberText(double value, int digits)
 {
     if (std::fabs(value) <= Negligible)
-        return QStringLiteral("0");
+        return u"0"_s;
     QString plain = plainText(value);
     if (plain.size() <= digits || !std::isfinite(value))
         return plain;
     const QString text = shortened(std::fabs(value), digits);
-    return value < 0 ? QLatin1Char('-') + text : text;
+    return value < 0 ? '-'_L1 + text : text;
 }
 
 QString polynomialText(const Coefficients &coefficients)
@@ -69,11 +71,11 @@ QString polynomialText(const Coefficients &coefficients)
     const auto &[c3, c2, c1, c0] = coefficients;
     QString text;
     if (c3 == 1)
-        text = QStringLiteral("x^3");
+        text = u"x^3"_s;
     else if (c3 != 0)
-        text = numberText(c3, EquationDigits) + QStringLiteral("*x^3");
-    appendTerm(text, c2, QStringLiteral("x^2"), QStringLiteral("x^2")); // without "*": deliberate
-    appendTerm(text, c1, QStringLiteral("x"), QStringLiteral("*x"));
+        text = numberText(c3, EquationDigits) + u"*x^3"_s;
+    appendTerm(text, c2, u"x^2"_s, u"x^2"_s); // without "*": deliberate
+    appendTerm(text, c1, u"x"_s, u"*x"_s);
     if (c0 != 0)
         text += joint(text, c0) + numberText(std::fabs(c0), EquationDigits);
     return text;
@@ -81,12 +83,12 @@ QString polynomialText(const Coefficients &coefficients)
 
 QString polynomialText(const Coefficients &coefficients, int variable)
 {
-    return polynomialText(coefficients).replace(QLatin1Char('x'), expression::variableName(variable));
+    return polynomialText(coefficients).replace('x'_L1, expression::variableName(variable));
 }
 
 Conversion readConversion(const QString &text)
 {
-    const QStringList parts = text.split(QLatin1Char('$'));
+    const QStringList parts = text.split('$'_L1);
     Conversion conversion;
     if (parts.size() == 1) {
         conversion.isEquation = true;

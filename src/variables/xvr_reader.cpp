@@ -13,6 +13,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using common::leadingNumber;
@@ -52,9 +54,9 @@ void walk(const QDomNode &node, Texts &texts, const std::function<void()> &recor
 double localNumber(QString text, const QString &decimalSeparator)
 {
     bool isNumber = false;
-    const double value = text.replace(decimalSeparator, QLatin1String(".")).trimmed().toDouble(&isNumber);
+    const double value = text.replace(decimalSeparator, "."_L1).trimmed().toDouble(&isNumber);
     if (!isNumber)
-        throw common::RunTimeError(QStringLiteral("Type mismatch"));
+        throw common::RunTimeError(u"Type mismatch"_s);
     return value;
 }
 
@@ -76,11 +78,11 @@ public:
         skipFailures([&] { convert(variables::localNumber(m_texts[tag], m_decimalSeparator), value); });
     }
     void text(const char *tag, QString &value) { value = m_texts[tag]; }
-    void list(const char *tag, QStringList &value) { value = m_texts[tag].split(QLatin1Char('#')); }
+    void list(const char *tag, QStringList &value) { value = m_texts[tag].split('#'_L1); }
     void equation(const char *tag, QString &value)
     {
         value = m_texts[tag];
-        value.replace(QLatin1Char('#'), QLatin1Char('\r')).replace(QLatin1Char('$'), QLatin1Char('\n'));
+        value.replace('#'_L1, '\r'_L1).replace('$'_L1, '\n'_L1);
     }
     void label(const char *tag, QString &value) { text(tag, value); }
 
@@ -138,18 +140,17 @@ UnitTable readUnits(const QDomDocument &document)
 
 QString parseReport(const QString &source, const QString &reason, int line, int column, const QString &path)
 {
-    const QStringList lines = source.split(QLatin1Char('\n'));
+    const QStringList lines = source.split('\n'_L1);
     qsizetype position = column;
     for (int i = 0; i < line - 1 && i < lines.size(); ++i)
         position += lines[i].size() + 1;
     const QString sourceText = line >= 1 && line <= lines.size() ? lines[line - 1].trimmed() : QString();
-    const QString end = QStringLiteral("\r\n");
+    const QString end = u"\r\n"_s;
     constexpr int ErrorCode = 1; // the parser tells no code of its own
-    return QStringLiteral("Your XVR Document failed to load") + QStringLiteral("due the following error.") +
-           end + QStringLiteral("Error #: %1: ").arg(ErrorCode) + reason + end +
-           QStringLiteral("Line #: %1").arg(line) + end + QStringLiteral("Line Position: %1").arg(column) +
-           end + QStringLiteral("Position In File: %1").arg(position) + end +
-           QStringLiteral("Source Text: ") + sourceText + end + QStringLiteral("Document URL: ") + path;
+    return u"Your XVR Document failed to load"_s + u"due the following error."_s + end +
+           u"Error #: %1: "_s.arg(ErrorCode) + reason + end + u"Line #: %1"_s.arg(line) + end +
+           u"Line Position: %1"_s.arg(column) + end + u"Position In File: %1"_s.arg(position) + end +
+           u"Source Text: "_s + sourceText + end + u"Document URL: "_s + path;
 }
 
 } // namespace

@@ -7,9 +7,11 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString LineEnd = QStringLiteral("\r\n");
+const QString LineEnd = u"\r\n"_s;
 
 // Prints the lines of one block.
 class BlockWriter
@@ -24,18 +26,17 @@ public:
     void number(const char *tag, bool value) { number(tag, value ? -1 : 0); }
     void number(const char *tag, float value) { text(tag, common::shortestText(value, m_decimalSeparator)); }
     void localNumber(const char *tag, auto value) { number(tag, value); }
-    void list(const char *tag, const QStringList &texts) { text(tag, texts.join(QLatin1Char('#'))); }
+    void list(const char *tag, const QStringList &texts) { text(tag, texts.join('#'_L1)); }
     void equation(const char *tag, QString equation)
     {
-        equation.replace(QLatin1Char('\r'), QLatin1Char('#')).replace(QLatin1Char('\n'), QLatin1Char('$'));
+        equation.replace('\r'_L1, '#'_L1).replace('\n'_L1, '$'_L1);
         text(tag, equation);
     }
     void label(const char *tag, QString label) { text(tag, label.remove(QChar(0)).trimmed()); }
     void text(const char *tag, const QString &value)
     {
         const QLatin1String name(tag);
-        m_out += QLatin1String("     <") + name + QLatin1Char('>') + value + QLatin1String("</") + name +
-                 QLatin1Char('>') + LineEnd;
+        m_out += "     <"_L1 + name + '>'_L1 + value + "</"_L1 + name + '>'_L1 + LineEnd;
     }
 
 private:
@@ -47,15 +48,15 @@ private:
 
 QByteArray writeXvr(const VariableTable &live, const QString &decimalSeparator)
 {
-    QString out = QLatin1String("<VariableList>") + LineEnd;
+    QString out = "<VariableList>"_L1 + LineEnd;
     for (qsizetype i = 1; i < live.size(); ++i) {
         if (live[i].IndexNumber == 0)
             continue;
-        out += QLatin1String("   <Data>") + LineEnd;
+        out += "   <Data>"_L1 + LineEnd;
         visitXvr(live[i], BlockWriter(out, decimalSeparator));
-        out += QLatin1String("   </Data>") + LineEnd + LineEnd;
+        out += "   </Data>"_L1 + LineEnd + LineEnd;
     }
-    out += QLatin1String("</VariableList>") + LineEnd;
+    out += "</VariableList>"_L1 + LineEnd;
     return common::toCodePage(out);
 }
 

@@ -2,6 +2,7 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
 using common::toInteger;
 
 std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed)
@@ -10,11 +11,11 @@ std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed)
     const double max = typed.number("txtMax");
     const double value = typed.number("txtDefaultVal");
     if (max == min)
-        return forms::refusal(QStringLiteral("Can't use same value for minimum and maximum "));
+        return forms::refusal(u"Can't use same value for minimum and maximum "_s);
     // The far end may be the lower one: a reversed bar.
     if (value < std::min(min, max) || value > std::max(min, max))
-        return forms::refusal(QStringLiteral("Default value should be between Min and Max value"));
-    return refusedOpacity(typed, QStringLiteral("Invalid Alpha Value"));
+        return forms::refusal(u"Default value should be between Min and Max value"_s);
+    return refusedOpacity(typed, u"Invalid Alpha Value"_s);
 }
 
 BarLine barLine(const BarGraph &bar, bool isHorizontal)
@@ -27,8 +28,7 @@ BarLine barLine(const BarGraph &bar, bool isHorizontal)
 }
 
 BarGraphDialog::BarGraphDialog(BarGraph &bar)
-    : PropertyDialog(bar, QStringLiteral("Bar Graph Properties"),
-                     {bar.get(), barLine(bar, bar.get().isHorizontal())})
+    : PropertyDialog(bar, u"Bar Graph Properties"_s, {bar.get(), barLine(bar, bar.get().isHorizontal())})
 {
     using V = BarOnLine;
     addGroup("Variable");
@@ -37,8 +37,8 @@ BarGraphDialog::BarGraphDialog(BarGraph &bar)
     number(&V::curMax, {"txtMax", "Ma&ximum"});
     number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
     addGroup("Bar");
-    forms::ListField &type = choice(&V::curBarType, {"cmbBarType", "&Type"},
-                                    {{QStringLiteral("Horizontal"), 0}, {QStringLiteral("Vertical"), 1}}, 1);
+    forms::ListField &type =
+        choice(&V::curBarType, {"cmbBarType", "&Type"}, {{u"Horizontal"_s, 0}, {u"Vertical"_s, 1}}, 1);
     const auto &startX = number(&V::startX, {"txtStartX", "Start X", "pixels"});
     const auto &startY = number(&V::startY, {"txtStartY", "Start Y", "pixels"});
     const auto &endX = number(&V::endX, {"txtEndX", "End X", "pixels"});

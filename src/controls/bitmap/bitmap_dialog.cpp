@@ -10,6 +10,7 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
 using graphics::alignedSize;
 using graphics::PlanePicture;
 
@@ -45,11 +46,9 @@ QStringList sizeQuestions(QSize picture)
     const QSize aligned = alignedSize(picture);
     QStringList questions;
     if (aligned.width() != picture.width())
-        questions.append(
-            correctionQuestion(QStringLiteral("Width of the bitmap control must be divisible by 8.")));
+        questions.append(correctionQuestion(u"Width of the bitmap control must be divisible by 8."_s));
     if (aligned.height() != picture.height())
-        questions.append(
-            correctionQuestion(QStringLiteral("Height of the bitmap control must be divisible by 2.")));
+        questions.append(correctionQuestion(u"Height of the bitmap control must be divisible by 2."_s));
     return questions;
 }
 
@@ -58,22 +57,21 @@ std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
     const QString source = typed.text("cmdBrowseImage");
     const QString alpha = typed.text("cmdBrowseAlfaImage");
     if (source.isEmpty() || alpha.isEmpty())
-        return forms::refusal(QStringLiteral("Please Select Images for Sorce and Alfa images"));
+        return forms::refusal(u"Please Select Images for Sorce and Alfa images"_s);
     const auto top = common::toInteger<qint16>(common::parseNumber(typed.text("txtTopCoordinates")));
     if (top != even(top))
-        return correctable(QStringLiteral("Top coordinate of the bitmap control must be an even number."),
-                           {{QStringLiteral("txtTopCoordinates"), QString::number(even(top))}});
+        return correctable(u"Top coordinate of the bitmap control must be an even number."_s,
+                           {{u"txtTopCoordinates"_s, QString::number(even(top))}});
     if (source != alpha)
         return forms::refusal(
-            QStringLiteral(
-                "Selected images are in different sizes and please select same size images to continue"),
+            u"Selected images are in different sizes and please select same size images to continue"_s,
             platform::Icon::Critical);
-    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"), MostAlpha);
+    return refusedOpacity(typed, u"Invalid Alfa Value"_s, MostAlpha);
 }
 
 BitmapDialog::BitmapDialog(Bitmap &bitmap)
     : PropertyDialog(
-          bitmap, QStringLiteral("Bitmap Properties"),
+          bitmap, u"Bitmap Properties"_s,
           {bitmap.get(), {bitmap.get().picture.picture(), {}}, {bitmap.get().picture.alphaPicture(), {}}})
 {
     addPictures();
@@ -107,8 +105,7 @@ void BitmapDialog::addPlace()
     addGroup("Position");
     number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});
     number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
-    choice(&V::curZorder, {"cmbZorder", "&Z-order"},
-           forms::numbered(std::array{QStringLiteral("Bottom"), QStringLiteral("Top")}), 1);
+    choice(&V::curZorder, {"cmbZorder", "&Z-order"}, forms::numbered(std::array{u"Bottom"_s, u"Top"_s}), 1);
 }
 
 void BitmapDialog::addVariables()
@@ -149,8 +146,7 @@ QImage BitmapDialog::taken(const QString &path, bool isAlpha)
     }
     const QImage &source = m_source->picture();
     if (isAlpha && !source.isNull() && alignedSize(picture.size()) != alignedSize(source.size())) {
-        prompts().message(platform::Icon::Information, platform::ProductTitle,
-                          QStringLiteral(" Invalid Picture"));
+        prompts().message(platform::Icon::Information, platform::ProductTitle, u" Invalid Picture"_s);
         return {};
     }
     return picture;

@@ -9,6 +9,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int LongestName = 150; // the library keeps 199 characters, a number may be added
@@ -27,10 +29,8 @@ bool mayHold(const QString &path, const QByteArray &bytes)
 // A name as the library can keep it: no path, not hidden, of the code page's characters.
 QString plainName(const QString &wanted)
 {
-    static const QRegularExpression Unfit(QStringLiteral("^\\.+|[\\x00-\\x1F/\\\\:?]"));
-    return common::fromCodePage(common::toCodePage(wanted))
-        .right(LongestName)
-        .replace(Unfit, QStringLiteral("_"));
+    static const QRegularExpression Unfit(u"^\\.+|[\\x00-\\x1F/\\\\:?]"_s);
+    return common::fromCodePage(common::toCodePage(wanted)).right(LongestName).replace(Unfit, u"_"_s);
 }
 
 // The plain name, with the first number from 2 on under which it serves.
@@ -42,7 +42,7 @@ QString numbered(const QString &wanted, Test serves)
     const QString ending = parts.suffix().isEmpty() ? QString() : u'.' + parts.suffix();
     QString name = plain;
     for (int number = 2; !serves(name); ++number)
-        name = QStringLiteral("%1 %2%3").arg(parts.completeBaseName(), QString::number(number), ending);
+        name = u"%1 %2%3"_s.arg(parts.completeBaseName(), QString::number(number), ending);
     return name;
 }
 
@@ -72,15 +72,12 @@ QImage keptPicture(const QString &folder, const QString &name)
 
 QString loadedName(char kind, const QTime &time, int number)
 {
-    return QStringLiteral("%1%2%3.bmp")
-        .arg(QLatin1Char(kind))
-        .arg(time.toString(QStringLiteral("hhmmss")))
-        .arg(number);
+    return u"%1%2%3.bmp"_s.arg(QLatin1Char(kind)).arg(time.toString(u"hhmmss"_s)).arg(number);
 }
 
 void removeUnusedCopies(const platform::Folders &folders)
 {
-    static const QRegularExpression Loaded(QStringLiteral("^[SA]\\d{7,}( \\d+)*\\.bmp$"));
+    static const QRegularExpression Loaded(u"^[SA]\\d{7,}( \\d+)*\\.bmp$"_s);
     QByteArray library;
     const QString libraryFile = folders.ControlConfigFile();
     if (QFileInfo::exists(libraryFile) &&

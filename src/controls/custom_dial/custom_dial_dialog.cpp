@@ -4,6 +4,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize PreviewSize(240, 240); // pixels
@@ -16,19 +18,19 @@ qint16 evenSide(qint16 side) { return static_cast<qint16>(side & ~1); }
 
 std::optional<forms::Verdict> validateCustomDial(const forms::Typed &typed)
 {
-    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"));
+    return refusedOpacity(typed, u"Invalid Alfa Value"_s);
 }
 
 CustomDialDialog::CustomDialDialog(CustomDial &dial)
-    : PropertyDialog(dial, QStringLiteral("Custom Dial Properties"), dial.get()), m_preview(new QLabel)
+    : PropertyDialog(dial, u"Custom Dial Properties"_s, dial.get()), m_preview(new QLabel)
 {
     addPlaceRows();
     addScaleRows();
     addTicRows();
     addCaptionRows();
     addAnnularRows();
-    m_preview->setObjectName(QStringLiteral("picPreview"));
-    m_preview->setAccessibleName(QStringLiteral("Preview"));
+    m_preview->setObjectName(u"picPreview"_s);
+    m_preview->setAccessibleName(u"Preview"_s);
     m_preview->setMinimumSize(PreviewSize);
     m_preview->setAlignment(Qt::AlignCenter);
     addGroup("Preview");
@@ -72,9 +74,7 @@ void CustomDialDialog::addScaleRows()
 void CustomDialDialog::addTicRows()
 {
     choice(&V::curTicStyle, {"cmbTicStyle", "Tic &style"},
-           forms::numbered(std::array{QStringLiteral("Rectangle"), QStringLiteral("Ellipse"),
-                                      QStringLiteral("Triangle"), QStringLiteral("Diamond")}),
-           0);
+           forms::numbered(std::array{u"Rectangle"_s, u"Ellipse"_s, u"Triangle"_s, u"Diamond"_s}), 0);
     number(&V::curTicDelta, {"txtTicDelta", "&Interval"});
     number(&V::curTicInner, {"txtTicInner", "Tic inner end", "of radius"});
     number(&V::curTicOuter, {"txtTicOuter", "Tic outer end", "of radius"});

@@ -7,6 +7,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int SecondsPerHour = 3600;
@@ -44,26 +46,26 @@ constexpr std::array Rows{
 // At least two digits; hours may have more.
 QString timePart(double number)
 {
-    const QString digits = QString::number(std::fabs(number), 'f', 0).rightJustified(2, QLatin1Char('0'));
-    return number < 0 ? QLatin1Char('-') + digits : digits;
+    const QString digits = QString::number(std::fabs(number), 'f', 0).rightJustified(2, '0'_L1);
+    return number < 0 ? '-'_L1 + digits : digits;
 }
 
 // The digits after the mark of the plain number; a number with an exponent has none that a time could show.
 QString fractionDigits(float number)
 {
     const QString plain = common::shortestText(number);
-    return plain.contains(QLatin1Char('E')) ? QString() : plain.section(QLatin1Char('.'), 1);
+    return plain.contains('E'_L1) ? QString() : plain.section('.'_L1, 1);
 }
 
 QString timeText(float seconds, int places)
 {
     const double whole = std::trunc(static_cast<double>(seconds));
     const double inHour = std::fmod(whole, SecondsPerHour);
-    QString text = timePart(std::trunc(whole / SecondsPerHour)) + QLatin1Char(':') +
-                   timePart(std::trunc(inHour / SecondsPerMinute)) + QLatin1Char(':') +
+    QString text = timePart(std::trunc(whole / SecondsPerHour)) + ':'_L1 +
+                   timePart(std::trunc(inHour / SecondsPerMinute)) + ':'_L1 +
                    timePart(std::fmod(inHour, SecondsPerMinute));
     if (places > 0)
-        text += QLatin1Char('.') + fractionDigits(seconds).leftJustified(places, QLatin1Char('0'), true);
+        text += '.'_L1 + fractionDigits(seconds).leftJustified(places, '0'_L1, true);
     return text;
 }
 
@@ -81,8 +83,7 @@ QString displayText(const DigitalDisplayValues &values)
     if (values.curTimeFormat != 0 && std::isfinite(number))
         return timeText(number, values.curDecPlaces);
     if (values.curDecPlaces > 0)
-        return common::fixedText(number, values.curDecPlaces,
-                                 values.curDecMark == 0 ? QStringLiteral(".") : QStringLiteral(","));
+        return common::fixedText(number, values.curDecPlaces, values.curDecMark == 0 ? u"."_s : u","_s);
     return common::shortestText(number);
 }
 

@@ -4,6 +4,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using V = LimitedDisplay;
@@ -33,7 +35,7 @@ DigitalDisplayValues typedFormat(const forms::Typed &typed)
 QString patternOf(DigitalDisplayValues format)
 {
     if (format.curTimeFormat == 0)
-        return QStringLiteral("0.00");
+        return u"0.00"_s;
     format.curDefaultVal = 0;
     return displayText(format);
 }
@@ -43,16 +45,16 @@ QString patternOf(DigitalDisplayValues format)
 std::optional<forms::Verdict> validateDigitalDisplay(const forms::Typed &typed)
 {
     if (typed.number("txtDecimalPlaces") > MostPlaces)
-        return forms::refusal(QStringLiteral("Invalid number of Decimal Places"), platform::Icon::Critical);
+        return forms::refusal(u"Invalid number of Decimal Places"_s, platform::Icon::Critical);
     if (typed.isOn("chkApplyLimits") && typed.number("txtLowerLimit") == 0 &&
         typed.number("txtUpperLimit") == 0)
-        return forms::refusal(QStringLiteral("Upper and lower limit can't be 0"));
+        return forms::refusal(u"Upper and lower limit can't be 0"_s);
     constexpr double Most = 255; // deliberate, although a percentage is typed
-    return refusedOpacity(typed, QStringLiteral("Invalid Alpha Value"), Most);
+    return refusedOpacity(typed, u"Invalid Alpha Value"_s, Most);
 }
 
 DigitalDisplayDialog::DigitalDisplayDialog(DigitalDisplay &display)
-    : TextDialog(display, QStringLiteral("Digital Display Properties"), shownValues(display))
+    : TextDialog(display, u"Digital Display Properties"_s, shownValues(display))
 {
     addGroup("Variable");
     variable(&V::curVarID, {"cmbVariable", "Va&riable"});
@@ -71,12 +73,12 @@ void DigitalDisplayDialog::addFormat()
     addGroup("Format");
     auto &value = number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
     auto &places = number(&V::curDecPlaces, {"txtDecimalPlaces", "Decimal place&s"});
-    auto &mark = choice(&V::curDecMark, {"cmbDecMark", "Decimal &mark"},
-                        {{QStringLiteral("Dot (.)"), 0}, {QStringLiteral("Comma (,)"), 1}}, 1);
-    mark.caption()->setObjectName(QStringLiteral("lblDecSymbol"));
+    auto &mark =
+        choice(&V::curDecMark, {"cmbDecMark", "Decimal &mark"}, {{u"Dot (.)"_s, 0}, {u"Comma (,)"_s, 1}}, 1);
+    mark.caption()->setObjectName(u"lblDecSymbol"_s);
     auto &time = check(&V::curTimeFormat, "chkShowInTimeFormat", "Show in &time format");
     auto *preview = new QLabel(displayText(kept()));
-    preview->setObjectName(QStringLiteral("lblPreview"));
+    preview->setObjectName(u"lblPreview"_s);
     auto *cell = new QHBoxLayout;
     cell->addWidget(preview);
     addRow("Preview", cell);

@@ -2,20 +2,21 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 std::optional<forms::Verdict> validateGauge(const forms::Typed &typed)
 {
     const double min = typed.number("txtMin");
     const double max = typed.number("txtMax");
     if (max == min)
-        return forms::refusal(QStringLiteral("Can't use same value for minimum and maximum "));
+        return forms::refusal(u"Can't use same value for minimum and maximum "_s);
     if (max < min)
-        return forms::refusal(QStringLiteral("Invalid Min and Max value "));
+        return forms::refusal(u"Invalid Min and Max value "_s);
     return std::nullopt;
 }
 
 GaugeDialog::GaugeDialog(Gauge &gauge)
-    : PropertyDialog(gauge, QStringLiteral("Analogue Dial Properties"),
-                     withPivot(gauge.get(), gauge.host().screen()))
+    : PropertyDialog(gauge, u"Analogue Dial Properties"_s, withPivot(gauge.get(), gauge.host().screen()))
 {
     using V = GaugeValues;
     addGroup("Variable");

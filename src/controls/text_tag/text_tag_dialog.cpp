@@ -4,6 +4,8 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using V = TypedText;
@@ -34,12 +36,12 @@ TextTagValues storedValues(const TypedText &typed, const TypedText &kept)
 std::optional<forms::Verdict> validateTextTag(const forms::Typed &typed)
 {
     if (typed.text("txtText").isEmpty())
-        return forms::refusal(QStringLiteral("Please enter text to display"));
-    return refusedOpacity(typed, QStringLiteral("Invalid Alfa Value"));
+        return forms::refusal(u"Please enter text to display"_s);
+    return refusedOpacity(typed, u"Invalid Alfa Value"_s);
 }
 
 TextTagDialog::TextTagDialog(TextTag &tag)
-    : TextDialog(tag, QStringLiteral("Simple Text Properties"), typedText(tag.get()))
+    : TextDialog(tag, u"Simple Text Properties"_s, typedText(tag.get()))
 {
     forms::TextField &text = addContent();
     addGroup("Place and font");
@@ -57,10 +59,10 @@ forms::TextField &TextTagDialog::addContent()
     auto &type = bind(add<forms::ListField>("cmbTextType", forms::numbered(TextTypes)), &V::textType);
     auto &value = bind(add<forms::NumberField>("txtDefaultVal", decimalMark()), &V::curDefaultVal);
     addTurns(type, value);
-    type.caption()->setObjectName(QStringLiteral("lblDefaultVal"));
+    type.caption()->setObjectName(u"lblDefaultVal"_s);
     auto &text = this->text(&V::text, {"txtText", "Text"});
-    text.caption()->setObjectName(QStringLiteral("lblText"));
-    addWide(new QLabel(QStringLiteral("Note : Maximum 30 characters for text")));
+    text.caption()->setObjectName(u"lblText"_s);
+    addWide(new QLabel(u"Note : Maximum 30 characters for text"_s));
     addGroup("Hiding");
     auto &variable = variableOrNone(&V::curVarID, {"cmbVariable", "Va&riable"});
     auto &lower = number(&V::curLowerLimit, {"txtLowerLimit", "Lo&wer limit"});
@@ -73,7 +75,7 @@ forms::TextField &TextTagDialog::addContent()
         isFree ? showTurn(type, value, "Special String") : showTurn(value, type, "Default Value");
         const bool isField = isFree && type.row() > 0;
         text.setEnabled(!isField);
-        text.caption()->setText(isField ? QStringLiteral("Field") : QStringLiteral("Text"));
+        text.caption()->setText(isField ? u"Field"_s : u"Text"_s);
         text.setCaption(text.caption());
     });
     react(type, [&type, &text] { text.setText(type.row() > 0 ? type.text() : TextTagValues::UsualText); });

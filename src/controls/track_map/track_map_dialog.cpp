@@ -4,6 +4,7 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
 using forms::Correction;
 using forms::Verdict;
 
@@ -17,9 +18,8 @@ std::optional<Verdict> tooWide(const forms::Typed &typed)
     for (const auto &[field, stroke] :
          {std::pair{"txtBorderWidth", "Border"}, {"txtMarkerWidth", "Marker"}, {"txtLineWidth", "Line"}}) {
         if (typed.number(field) > WidestStroke) {
-            return forms::refusal(
-                QStringLiteral("%1 width exceeds the maximum limit of 255,reduce and try again")
-                    .arg(QLatin1String(stroke)));
+            return forms::refusal(u"%1 width exceeds the maximum limit of 255,reduce and try again"_s.arg(
+                QLatin1String(stroke)));
         }
     }
     return std::nullopt;
@@ -47,9 +47,8 @@ std::optional<Verdict> offTheMapsSteps(const forms::Typed &typed)
     }
     if (corrections.isEmpty())
         return std::nullopt;
-    return correctable(
-        QStringLiteral("Left and top coordinates of the track map control must be divisible by 8."),
-        corrections);
+    return correctable(u"Left and top coordinates of the track map control must be divisible by 8."_s,
+                       corrections);
 }
 
 } // namespace
@@ -61,14 +60,13 @@ std::optional<Verdict> validateTrackMap(const forms::Typed &typed, recorder::Vid
     const bool withMap = typed.isOn("chkEnableMap");
     if (!withMap && !typed.isOn("chkRescale") &&
         (typed.number("txtIniHeight") <= 0 || typed.number("txtIniWidth") <= 0))
-        return forms::refusal(QStringLiteral("Initial width & height can't be 0"));
+        return forms::refusal(u"Initial width & height can't be 0"_s);
     if (auto verdict = tooLarge(typed, standard))
         return verdict;
     return withMap ? offTheMapsSteps(typed) : std::nullopt;
 }
 
-TrackMapDialog::TrackMapDialog(TrackMap &map)
-    : PropertyDialog(map, QStringLiteral("Track Map Properties"), map.get())
+TrackMapDialog::TrackMapDialog(TrackMap &map) : PropertyDialog(map, u"Track Map Properties"_s, map.get())
 {
     addBoxRows();
     addTrackRows();
@@ -85,8 +83,7 @@ void TrackMapDialog::addBoxRows()
     number(&V::curTopCoord, {"txtTopCoordinates", "&Top", "pixels"});
     number(&V::curWidth, {"txtWidth", "&Width", "pixels"});
     number(&V::curHeight, {"txtHeight", "&Height", "pixels"});
-    choice(&V::curBorderVisible, {"cmbBorderVisible", "&Border visible"},
-           {{QStringLiteral("No"), 0}, {QStringLiteral("Yes"), 1}}, 1);
+    choice(&V::curBorderVisible, {"cmbBorderVisible", "&Border visible"}, {{u"No"_s, 0}, {u"Yes"_s, 1}}, 1);
     number(&V::curBorderWidth, {"txtBorderWidth", "Border width", "pixels"});
     colour(&V::curBordercolor, {"picBorderColour", "Border colour"}, "cmdResetBordedrColour",
            standard.curBordercolor.packed());
@@ -127,16 +124,15 @@ void TrackMapDialog::addScaleRows()
         for (forms::Field *field : std::initializer_list<forms::Field *>{&rescale, &width, &height}) {
             field->setEnabled(!map.isOn());
             if (map.isOn())
-                field->setText(QStringLiteral("0"));
+                field->setText(u"0"_s);
         }
     });
     react(map, [this, &map] {
         if (!map.isOn())
             return;
-        prompts().message(
-            platform::Icon::Information, platform::ProductTitle,
-            QStringLiteral("To use this mode you must include a map file from the map generator "
-                           "program, please see the help file for more information"));
+        prompts().message(platform::Icon::Information, platform::ProductTitle,
+                          u"To use this mode you must include a map file from the map generator "
+                          "program, please see the help file for more information"_s);
     });
 }
 

@@ -4,6 +4,7 @@
 
 namespace controls {
 
+using namespace Qt::StringLiterals;
 using common::toInteger;
 using recorder::VideoStandard;
 using V = ShownVideoSource;
@@ -68,20 +69,19 @@ QPoint keptOnCanvas(QPoint place, const forms::Typed &typed, VideoStandard stand
 std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed, VideoStandard standard)
 {
     if (!bordersFit(typed))
-        return forms::refusal(QStringLiteral("Invalid Border Width"), platform::Icon::Critical);
+        return forms::refusal(u"Invalid Border Width"_s, platform::Icon::Critical);
     const QPoint place = keptOnCanvas(typedPlace(typed), typed, standard);
     const bool isAligned = place.x() % PlaceStep == 0 && place.y() % PlaceStep == 0;
     if (isAligned || typed.row("cmbSizeRatio") == BackgroundRow)
         return std::nullopt;
     const auto aligned = [](int coordinate) { return QString::number(coordinate / PlaceStep * PlaceStep); };
     return correctable(
-        QStringLiteral("Left and top coordinates of the video source control must be divisible by 16."),
-        {{QStringLiteral("txtLeftCoordinates"), aligned(place.x())},
-         {QStringLiteral("txtTopCoordinates"), aligned(place.y())}});
+        u"Left and top coordinates of the video source control must be divisible by 16."_s,
+        {{u"txtLeftCoordinates"_s, aligned(place.x())}, {u"txtTopCoordinates"_s, aligned(place.y())}});
 }
 
 VideoSourceDialog::VideoSourceDialog(VideoSource &source)
-    : PropertyDialog(source, QStringLiteral("Video Source Properties"), shown(source.get()))
+    : PropertyDialog(source, u"Video Source Properties"_s, shown(source.get()))
 {
     addSize();
     addBorders();
@@ -94,15 +94,12 @@ void VideoSourceDialog::addSize()
 {
     addGroup("Video");
     choice(&V::curCameraNo, {"cmbCameraNo", "Camera &number"},
-           forms::numbered(std::array{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
-                                      QStringLiteral("4")}));
-    auto &size = choice(&V::curDivisor, {"cmbSizeRatio", "&Size"},
-                        {{QStringLiteral("Background Video"), 1},
-                         {QStringLiteral("50%    (1/2)"), 2},
-                         {QStringLiteral("33%    (1/3)"), 3},
-                         {QStringLiteral("25%    (1/4)"), 4}});
+           forms::numbered(std::array{u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
+    auto &size = choice(
+        &V::curDivisor, {"cmbSizeRatio", "&Size"},
+        {{u"Background Video"_s, 1}, {u"50%    (1/2)"_s, 2}, {u"33%    (1/3)"_s, 3}, {u"25%    (1/4)"_s, 4}});
     auto &mirror = choice(&V::curMirror, {"cmbMirror", "&Mirror"},
-                          forms::numbered(std::array{QStringLiteral("Disable"), QStringLiteral("Enable")}));
+                          forms::numbered(std::array{u"Disable"_s, u"Enable"_s}));
     auto &width = shownText({"txtWidth", "Width", "pixels"});
     auto &height = shownText({"txtHeight", "Height", "pixels"});
     number(&V::curLeftCoord, {"txtLeftCoordinates", "&Left", "pixels"});

@@ -6,14 +6,15 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int LineGap = 4;
 constexpr quint32 White = 0x00FFFFFF;
 
-const QStringList SampleLines = {
-    QStringLiteral("AaBbCc 0123456789"), QStringLiteral("Speed 123.4 km/h (01:02.3)"),
-    QStringLiteral("\u00c4\u00d6\u00dc \u00e9\u00e8\u00ea \u00e7\u00e5\u00e6 ?!%#@&")};
+const QStringList SampleLines = {u"AaBbCc 0123456789"_s, u"Speed 123.4 km/h (01:02.3)"_s,
+                                 u"\u00c4\u00d6\u00dc \u00e9\u00e8\u00ea \u00e7\u00e5\u00e6 ?!%#@&"_s};
 
 } // namespace
 

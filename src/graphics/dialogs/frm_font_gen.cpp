@@ -11,6 +11,8 @@
 
 namespace graphics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int UsualSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72, 96, 144};
@@ -42,10 +44,10 @@ public:
 } // namespace
 
 frmFontGen::frmFontGen(FontStore &fonts, const FontRequest &first, const forms::Context &context)
-    : DialogOf(QStringLiteral("Font Generator"), first, context), m_fonts(fonts), m_preview(new QLabel),
+    : DialogOf(u"Font Generator"_s, first, context), m_fonts(fonts), m_preview(new QLabel),
       m_status(new QLabel), m_bar(new QProgressBar)
 {
-    setObjectName(QStringLiteral("frmFontGen"));
+    setObjectName(u"frmFontGen"_s);
     makeResizable();
     addChoice();
     addPreview();
@@ -77,8 +79,8 @@ void frmFontGen::addStyle(QLayout &row, bool FontStyle::*style, const char *name
 
 void frmFontGen::addPreview()
 {
-    m_preview->setObjectName(QStringLiteral("OutputText"));
-    m_preview->setAccessibleName(QStringLiteral("Preview"));
+    m_preview->setObjectName(u"OutputText"_s);
+    m_preview->setAccessibleName(u"Preview"_s);
     m_preview->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_preview->setAutoFillBackground(true);
     m_preview->setMargin(8);
@@ -96,14 +98,14 @@ void frmFontGen::addPreview()
 
 void frmFontGen::addProgress()
 {
-    m_status->setObjectName(QStringLiteral("lblstatus"));
+    m_status->setObjectName(u"lblstatus"_s);
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
     m_status->setMinimumHeight(fontMetrics().height()); // its place is kept while it is empty
-    m_bar->setObjectName(QStringLiteral("pBar"));
+    m_bar->setObjectName(u"pBar"_s);
     m_bar->setRange(0, 100);
     m_bar->setValue(0);
-    m_bar->setAccessibleName(QStringLiteral("Progress"));
+    m_bar->setAccessibleName(u"Progress"_s);
     layout()->addWidget(m_status);
     layout()->addWidget(m_bar);
 }
@@ -131,17 +133,15 @@ void frmFontGen::set(FontRequest &request)
         showReady(request);
         return;
     }
-    m_status->setText(
-        QStringLiteral("Written: %1 and %2").arg(fontFileName(request), extendedFontFileName(request)));
+    m_status->setText(u"Written: %1 and %2"_s.arg(fontFileName(request), extendedFontFileName(request)));
 }
 
 void frmFontGen::showReady(const FontRequest &chosen)
 {
     m_bar->setValue(0);
-    m_status->setText(
-        isInstalled(chosen.face)
-            ? QString()
-            : QStringLiteral("%1 is not installed; %2 stands in for it.").arg(chosen.face, ShippedFace));
+    m_status->setText(isInstalled(chosen.face)
+                          ? QString()
+                          : u"%1 is not installed; %2 stands in for it."_s.arg(chosen.face, ShippedFace));
 }
 
 void frmFontGen::refreshPreview()
@@ -152,7 +152,7 @@ void frmFontGen::refreshPreview()
     m_previewed = chosen;
     showReady(chosen);
     if (!isComplete(chosen)) {
-        showPreview({}, QStringLiteral("No size is chosen."));
+        showPreview({}, u"No size is chosen."_s);
         return;
     }
     QImage picture;
@@ -162,7 +162,7 @@ void frmFontGen::refreshPreview()
         if (const auto font = pair ? TextFont::fromFiles(pair->standard, pair->extended) : std::nullopt)
             picture = fontPreview(*font);
     });
-    showPreview(picture, QStringLiteral("This size is too big for font files."));
+    showPreview(picture, u"This size is too big for font files."_s);
 }
 
 void frmFontGen::showPreview(const QImage &picture, const QString &textInstead)

@@ -11,6 +11,8 @@
 
 namespace platform {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize PreviewSize(180, 144);
@@ -19,12 +21,11 @@ constexpr QSize PreviewSize(180, 144);
 // machines.
 QString qtFilter(const QString &filter)
 {
-    const QString caption = filter.section(QLatin1Char('|'), 0, 0);
-    const QString pattern = filter.section(QLatin1Char('|'), 1, 1);
+    const QString caption = filter.section('|'_L1, 0, 0);
+    const QString pattern = filter.section('|'_L1, 1, 1);
     QStringList patterns{pattern, pattern.toLower()};
     patterns.removeDuplicates();
-    return QStringLiteral("%1 (%2)").arg(caption.section(QLatin1Char('('), 0, 0).trimmed(),
-                                         patterns.join(QLatin1Char(' ')));
+    return u"%1 (%2)"_s.arg(caption.section('('_L1, 0, 0).trimmed(), patterns.join(' '_L1));
 }
 
 // Tells files by their names alone: a look into a pipe or a device may never end.
@@ -36,8 +37,8 @@ public:
     QString type(const QFileInfo &file) const override
     {
         if (file.isDir())
-            return QStringLiteral("Folder");
-        return QStringLiteral("%1 File").arg(file.suffix().toUpper()).trimmed();
+            return u"Folder"_s;
+        return u"%1 File"_s.arg(file.suffix().toUpper()).trimmed();
     }
 };
 
@@ -49,9 +50,8 @@ QList<QUrl> sidePlaces()
         places.append(QUrl::fromLocalFile(documents));
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
         const QString root = volume.rootPath();
-        const bool removable = root.startsWith(QLatin1String("/media/")) ||
-                               root.startsWith(QLatin1String("/run/media/")) ||
-                               root.startsWith(QLatin1String("/mnt/"));
+        const bool removable =
+            root.startsWith("/media/"_L1) || root.startsWith("/run/media/"_L1) || root.startsWith("/mnt/"_L1);
         if (volume.isReady() && removable)
             places.append(QUrl::fromLocalFile(root));
     }
@@ -67,11 +67,9 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
     setIconProvider(&icons);
     setAcceptMode(mode);
     setFileMode(mode == AcceptOpen ? ExistingFile : AnyFile);
-    setWindowTitle(!request.title.isEmpty() ? request.title
-                   : mode == AcceptOpen     ? QStringLiteral("Open")
-                                            : QStringLiteral("Save As"));
+    setWindowTitle(!request.title.isEmpty() ? request.title : mode == AcceptOpen ? u"Open"_s : u"Save As"_s);
     setNameFilter(qtFilter(request.filter));
-    setDefaultSuffix(request.filter.section(QLatin1Char('.'), -1));
+    setDefaultSuffix(request.filter.section('.'_L1, -1));
     setSidebarUrls(sidePlaces());
     const bool hasFolder = !request.folder.isEmpty() && QDir(request.folder).exists();
     setDirectory(hasFolder ? request.folder : QDir::homePath());
@@ -88,7 +86,7 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
 void FileDialog::addPreview(const std::function<QImage(const QString &)> &preview)
 {
     m_picture = new QLabel;
-    m_picture->setObjectName(QStringLiteral("picPreview"));
+    m_picture->setObjectName(u"picPreview"_s);
     m_picture->setFixedSize(PreviewSize);
     m_picture->setAlignment(Qt::AlignCenter);
     m_picture->setFrameShape(QFrame::StyledPanel);
@@ -99,7 +97,7 @@ void FileDialog::addPreview(const std::function<QImage(const QString &)> &previe
         showPreview(QFileInfo(path).isFile() ? preview(path) : QImage());
     };
     connect(this, &QFileDialog::currentChanged, this, show);
-    if (const auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
+    if (const auto *name = findChild<QLineEdit *>(u"fileNameEdit"_s)) {
         connect(name, &QLineEdit::textEdited, this,
                 [this, show](const QString &typed) { show(directory().absoluteFilePath(typed)); });
     }
@@ -108,7 +106,7 @@ void FileDialog::addPreview(const std::function<QImage(const QString &)> &previe
 void FileDialog::showPreview(const QImage &picture)
 {
     if (picture.isNull())
-        m_picture->setText(QStringLiteral("No preview"));
+        m_picture->setText(u"No preview"_s);
     else
         m_picture->setPixmap(
             QPixmap::fromImage(picture.scaled(PreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)));

@@ -22,6 +22,8 @@
 
 namespace platform {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QWidget *parent()
@@ -121,7 +123,7 @@ std::optional<int> QtPrompts::choose(const QString &title, const QString &text, 
     QButtonGroup group;
     for (int i = 0; i < options.size(); ++i) {
         auto *option = new QRadioButton(options[i]);
-        option->setObjectName(QStringLiteral("optChoice%1").arg(i));
+        option->setObjectName(u"optChoice%1"_s.arg(i));
         option->setChecked(i == 0);
         group.addButton(option, i);
         layout->addWidget(option);
@@ -189,9 +191,9 @@ void QtPrompts::showPage(const QUrl &page)
 {
     const QString place = page.toDisplayString(QUrl::PreferLocalFile);
     if (page.isLocalFile() && !FileExists(page.toLocalFile()))
-        throw common::RunTimeError(QStringLiteral("%1: there is no such file").arg(place));
+        throw common::RunTimeError(u"%1: there is no such file"_s.arg(place));
     if (!QDesktopServices::openUrl(page))
-        throw common::RunTimeError(QStringLiteral("%1: there is no program that shows it").arg(place));
+        throw common::RunTimeError(u"%1: there is no program that shows it"_s.arg(place));
 }
 
 } // namespace platform

@@ -6,6 +6,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int NarrowestColumn = 70; // pixels
@@ -72,8 +74,7 @@ void edit(ChapterRow &row, int column, const QVariant &value)
 } // namespace
 
 ChapterModel::ChapterModel(ChapterRows rows, const variables::VariableTable &table, QString decimalMark)
-    : GridModel({QStringLiteral("Chapter Type"), QStringLiteral("Value 1"), QStringLiteral("Sign 1"),
-                 QStringLiteral("Variable"), QStringLiteral("Sign 2"), QStringLiteral("Value 2")}),
+    : GridModel({u"Chapter Type"_s, u"Value 1"_s, u"Sign 1"_s, u"Variable"_s, u"Sign 2"_s, u"Value 2"_s}),
       m_rows(std::move(rows)), m_table(table), m_decimalMark(std::move(decimalMark))
 {
     endWithEmptyRow();

@@ -2,6 +2,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize GridSize(600, 260); // pixels, at least
@@ -18,8 +20,7 @@ forms::Choices lapTypeChoices()
 
 frmAutoChapterMark::frmAutoChapterMark(RecorderSettings &settings, const variables::VariableTable &table,
                                        const forms::Context &context)
-    : DialogOf(QStringLiteral("Auto chapter markers"), {settings.LapChapterActive, settings.LapChapterType},
-               context),
+    : DialogOf(u"Auto chapter markers"_s, {settings.LapChapterActive, settings.LapChapterType}, context),
       m_settings(settings), m_table(table),
       m_grid(new ChapterGrid(settings.ChapterList, table, decimalMark()))
 {
@@ -29,7 +30,7 @@ frmAutoChapterMark::frmAutoChapterMark(RecorderSettings &settings, const variabl
     addGroup("Laps");
     const auto &lap = check(&V::active, "chkMarkLapTimerChapters", "&Mark chapters when start of new lap");
     auto &type = choice(&V::type, {"cmbLapChapterType", "Chapter &type"}, lapTypeChoices());
-    type.caption()->setObjectName(QStringLiteral("lblChapterType"));
+    type.caption()->setObjectName(u"lblChapterType"_s);
     enableBy(lap, {&type});
     finish(forms::okAndCancel());
     m_grid->setFocus();
@@ -37,10 +38,10 @@ frmAutoChapterMark::frmAutoChapterMark(RecorderSettings &settings, const variabl
 
 void frmAutoChapterMark::addConditions()
 {
-    m_grid->setAccessibleName(QStringLiteral("Conditions for chapters"));
+    m_grid->setAccessibleName(u"Conditions for chapters"_s);
     m_grid->setMinimumSize(GridSize);
     body().addWidget(m_grid);
-    body().addWidget(new QLabel(QStringLiteral("A chapter type in the empty row adds a condition.")));
+    body().addWidget(new QLabel(u"A chapter type in the empty row adds a condition."_s));
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(makeButton("cmdSelectAll", "&Select All", [this] { m_grid->change(&tickAll); }));
     buttons->addWidget(makeButton("cmdDelete", "&Delete", [this] { m_grid->change(&removeTicked); }));

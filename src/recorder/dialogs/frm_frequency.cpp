@@ -7,6 +7,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize GridSize(600, 420); // pixels, at least
@@ -36,17 +38,17 @@ constexpr RateButton RateButtons[] = {
 } // namespace
 
 frmFrequency::frmFrequency(MessageTable &table, QString file, const forms::Context &context)
-    : Dialog(QStringLiteral("Set Message Frequency"), context), m_table(table), m_file(std::move(file)),
+    : Dialog(u"Set Message Frequency"_s, context), m_table(table), m_file(std::move(file)),
       m_grid(new MessageGrid(table))
 {
     makeResizable();
-    auto *heading = new QLabel(QStringLiteral("Set message &update frequency"));
+    auto *heading = new QLabel(u"Set message &update frequency"_s);
     heading->setBuddy(m_grid);
-    m_grid->setAccessibleName(QStringLiteral("Set message update frequency"));
+    m_grid->setAccessibleName(u"Set message update frequency"_s);
     m_grid->setMinimumSize(GridSize);
     body().addWidget(heading);
     body().addWidget(m_grid);
-    body().addWidget(new QLabel(QStringLiteral("Type a number or a name to go to that message.")));
+    body().addWidget(new QLabel(u"Type a number or a name to go to that message."_s));
     body().addLayout(makeButtons());
     addButtons(forms::okAndCancel());
     m_grid->setFocus();

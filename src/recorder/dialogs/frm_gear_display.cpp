@@ -8,6 +8,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint8 SensorMethod = 1;
@@ -27,15 +29,14 @@ std::optional<forms::Verdict> validateGears(const forms::Typed &typed)
 {
     if (gearCount(typed.text("txtNumOfGears")))
         return std::nullopt;
-    return forms::refusal(QStringLiteral("Number of gears should be 1 to %1").arg(MostGears),
-                          platform::Icon::Critical);
+    return forms::refusal(u"Number of gears should be 1 to %1"_s.arg(MostGears), platform::Icon::Critical);
 }
 
 frmGearDisplay::frmGearDisplay(RecorderSettings &settings, const variables::VariableTable &table,
                                const forms::Context &context)
-    : DialogOf(QStringLiteral("Gear indicator setup"), setupOf(settings), context), m_settings(settings),
-      m_table(table), m_grid(new GearGrid(decimalMark())),
-      m_chart(new SpanChart("picBands", QStringLiteral("Bands of the gears"), static_cast<int>(MostGears)))
+    : DialogOf(u"Gear indicator setup"_s, setupOf(settings), context), m_settings(settings), m_table(table),
+      m_grid(new GearGrid(decimalMark())),
+      m_chart(new SpanChart("picBands", u"Bands of the gears"_s, static_cast<int>(MostGears)))
 {
     addGroup("Method");
     addMethod();
@@ -59,20 +60,20 @@ void frmGearDisplay::addMethod()
         makeButton("cmdGearRatio", "Click here to calculate from gear &ratios", [this] { askForRatios(); });
     addWide(ratios);
     auto *help = new QLabel;
-    help->setObjectName(QStringLiteral("Helplbl"));
+    help->setObjectName(u"Helplbl"_s);
     addWide(help);
     follow([&method, &variable, ratios, help] {
         const bool bySensor = method.row() == SensorOption;
         variable.setEnabled(bySensor);
         ratios->setEnabled(!bySensor);
-        help->setText(bySensor ? QStringLiteral("Enter upper and lower limits in volts")
-                               : QStringLiteral("Enter upper and lower limits as kph per 1000rpm"));
+        help->setText(bySensor ? u"Enter upper and lower limits in volts"_s
+                               : u"Enter upper and lower limits as kph per 1000rpm"_s);
     });
 }
 
 void frmGearDisplay::addCount()
 {
-    const QByteArray caption = QStringLiteral("Set &number of gears 1-%1").arg(MostGears).toUtf8();
+    const QByteArray caption = u"Set &number of gears 1-%1"_s.arg(MostGears).toUtf8();
     m_count = &text(&GearSetup::count, {"txtNumOfGears", caption.constData()});
     new forms::NumericKeys(&m_count->box(), decimalMark());
     react(*m_count, [this] { takeCount(); });
@@ -81,7 +82,7 @@ void frmGearDisplay::addCount()
 
 void frmGearDisplay::addLimits()
 {
-    m_grid->setAccessibleName(QStringLiteral("Limits of the gears"));
+    m_grid->setAccessibleName(u"Limits of the gears"_s);
     m_grid->gears().show(m_settings.GearTable);
     m_grid->setFixedHeight(m_grid->horizontalHeader()->sizeHint().height() + 2 * m_grid->frameWidth() +
                            static_cast<int>(MostGears) * m_grid->verticalHeader()->defaultSectionSize());
@@ -140,7 +141,7 @@ void frmGearDisplay::set(GearSetup &setup)
 {
     const bool bySensor = setup.option == SensorOption;
     if (bySensor && variableName(setup.variable, m_table).isEmpty())
-        throw common::RunTimeError(QStringLiteral("No variable is chosen for the gearbox sensor"));
+        throw common::RunTimeError(u"No variable is chosen for the gearbox sensor"_s);
     m_settings.GearTable = m_grid->gears().limits();
     m_settings.GearVariable = bySensor ? setup.variable : 0;
     m_settings.GearMethod = bySensor ? SensorMethod : 0;

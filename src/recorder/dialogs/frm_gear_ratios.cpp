@@ -10,6 +10,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr float Huge = 1e6F; // from where on a number is written with its exponent
@@ -34,7 +36,7 @@ void drawBands(SpanChart &chart, const std::vector<GearLimits> &bands, const QSt
     double end = 1;
     for (std::size_t gear = 0; gear < bands.size(); ++gear) {
         const auto [lower, upper] = bands[gear];
-        const QString range = QStringLiteral("%1 - %2").arg(text(lower), text(upper));
+        const QString range = u"%1 - %2"_s.arg(text(lower), text(upper));
         spans.append({gearName(gear), lower, upper, lower < upper ? range : QString()});
         end = std::max(end, double{upper});
     }
@@ -42,8 +44,8 @@ void drawBands(SpanChart &chart, const std::vector<GearLimits> &bands, const QSt
 }
 
 frmGearRatios::frmGearRatios(const GearRatios &ratios, std::size_t gears, const forms::Context &context)
-    : DialogOf(QStringLiteral("Enter Gear Ratios"), ratios, context), m_gears(gears),
-      m_chart(new SpanChart("picBands", QStringLiteral("kph at 1000 rpm"), static_cast<int>(gears)))
+    : DialogOf(u"Enter Gear Ratios"_s, ratios, context), m_gears(gears),
+      m_chart(new SpanChart("picBands", u"kph at 1000 rpm"_s, static_cast<int>(gears)))
 {
     addGroup("Gearbox");
     for (std::size_t gear = 0; gear < GearRows.size(); ++gear)

@@ -8,21 +8,22 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array CardSizes{4, 8, 16, 32}; // GB
 constexpr int NotesWidth = 360;               // pixels
 
-QString kilobits(int rate) { return QStringLiteral("%1 Kbps").arg(rate); }
+QString kilobits(int rate) { return u"%1 Kbps"_s.arg(rate); }
 
 QList<Span> cardSpans(int rate, const QString &decimalMark)
 {
     QList<Span> spans;
     for (const int size : CardSizes) {
         const double hours = hoursOnCard(size, rate);
-        spans.append(
-            {QStringLiteral("%1 GB").arg(size), 0, hours,
-             QStringLiteral("%1 h").arg(common::fixedText(static_cast<float>(hours), 1, decimalMark))});
+        spans.append({u"%1 GB"_s.arg(size), 0, hours,
+                      u"%1 h"_s.arg(common::fixedText(static_cast<float>(hours), 1, decimalMark))});
     }
     return spans;
 }
@@ -42,8 +43,8 @@ QLabel *addNote(QBoxLayout &layout, const char *name)
 
 // A rate that cannot be chosen becomes the nearest one.
 frmManualBitRate::frmManualBitRate(quint8 &rate, const forms::Context &context)
-    : DialogOf(QStringLiteral("Bit Rate"),
-               static_cast<quint8>(std::clamp(int{rate}, LowestBitRate, HighestBitRate)), context),
+    : DialogOf(u"Bit Rate"_s, static_cast<quint8>(std::clamp(int{rate}, LowestBitRate, HighestBitRate)),
+               context),
       m_rate(rate)
 {
     addGroup("Rate");
@@ -71,13 +72,12 @@ void frmManualBitRate::addNotes()
     auto *notes = new QVBoxLayout;
     m_note = addNote(*notes, "lblNote");
     m_warning = addNote(*notes, "lblWarning");
-    m_warning->setText(QStringLiteral("WARNING: This bitrate is too high for the DVD standard, playback will "
-                                      "only be possible on the PC"));
+    m_warning->setText(u"WARNING: This bitrate is too high for the DVD standard, playback will "
+                       "only be possible on the PC"_s);
     QSizePolicy keepsItsRoom = m_warning->sizePolicy();
     keepsItsRoom.setRetainSizeWhenHidden(true);
     m_warning->setSizePolicy(keepsItsRoom);
-    m_cards =
-        new SpanChart("picCards", QStringLiteral("Hours on a card"), static_cast<int>(CardSizes.size()));
+    m_cards = new SpanChart("picCards", u"Hours on a card"_s, static_cast<int>(CardSizes.size()));
     across->addLayout(notes);
     across->addWidget(m_cards);
     body().addLayout(across);
@@ -86,8 +86,8 @@ void frmManualBitRate::addNotes()
 void frmManualBitRate::showRate(int rate)
 {
     m_video->setText(kilobits(videoRate(rate)));
-    m_usage->setText(QStringLiteral("%1 GB").arg(
-        common::shortestText(static_cast<float>(usagePerHour(rate)), decimalMark())));
+    m_usage->setText(
+        u"%1 GB"_s.arg(common::shortestText(static_cast<float>(usagePerHour(rate)), decimalMark())));
     m_note->setText(bitRateNote(rate).value_or(m_note->text()));
     m_warning->setVisible(isTooHighForDvd(rate));
     m_cards->draw(cardSpans(rate, decimalMark()), hoursOnCard(CardSizes.back(), LowestBitRate));

@@ -4,19 +4,20 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 std::optional<forms::Verdict> validateSpecialIcon(const forms::Typed &typed)
 {
-    const QStringList sides = typed.text("cmdBrowse").split(QStringLiteral(" x "));
+    const QStringList sides = typed.text("cmdBrowse").split(u" x "_s);
     const QSize size(sides.first().toInt(), sides.last().toInt());
     if (size == graphics::alignedSize(size))
         return std::nullopt;
-    return forms::refusal(
-        QStringLiteral("The image width should be multiples of 8 and height should be multiples of 2"),
-        platform::Icon::Critical);
+    return forms::refusal(u"The image width should be multiples of 8 and height should be multiples of 2"_s,
+                          platform::Icon::Critical);
 }
 
 frmSpecialIcons::frmSpecialIcons(SpecialIcon &icon, const forms::Context &context)
-    : DialogOf(QStringLiteral("Special Icons"), {icon, {icon.picture.picture(), {}}}, context), m_icon(icon)
+    : DialogOf(u"Special Icons"_s, {icon, {icon.picture.picture(), {}}}, context), m_icon(icon)
 {
     using V = IconOfFile;
     addGroup("Icon");
@@ -24,9 +25,9 @@ frmSpecialIcons::frmSpecialIcons(SpecialIcon &icon, const forms::Context &contex
     auto &left = number(&V::left, {"txtLeft", "&Left", "pixels"});
     auto &top = number(&V::top, {"txtTop", "&Top", "pixels"});
     auto &alpha = percent(&V::alpha, {"txtAlpha", "&Alpha Factor", "%"});
-    left.caption()->setObjectName(QStringLiteral("lblLeft"));
-    top.caption()->setObjectName(QStringLiteral("lblTop"));
-    alpha.caption()->setObjectName(QStringLiteral("lblAlpha"));
+    left.caption()->setObjectName(u"lblLeft"_s);
+    top.caption()->setObjectName(u"lblTop"_s);
+    alpha.caption()->setObjectName(u"lblAlpha"_s);
     enableBy(enabled, {&left, &top, &alpha});
     addGroup("Picture");
     auto &picture = add<forms::PictureField>(

@@ -6,6 +6,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 struct TriggerNames
 {
     const char *title;
@@ -36,13 +38,13 @@ void keep(F &field, Member &member)
 
 frmStartStopRec::frmStartStopRec(RecordingTrigger &autoStart, RecordingTrigger &autoStop,
                                  const variables::VariableTable &table, const forms::Context &context)
-    : Dialog(QStringLiteral("Auto Start / Stop Recording"), context)
+    : Dialog(u"Auto Start / Stop Recording"_s, context)
 {
     m_rows.push_back(addRows(Start, autoStart, table));
     m_rows.push_back(addRows(Stop, autoStop, table));
     addGroup("Note :");
-    auto *note = new QLabel(QStringLiteral("Please note that the autostart will only trigger if the autostop "
-                                           "condition is also false"));
+    auto *note = new QLabel(u"Please note that the autostart will only trigger if the autostop "
+                            "condition is also false"_s);
     note->setWordWrap(true);
     addWide(note);
     addButtons(forms::okAndCancel());
@@ -75,7 +77,7 @@ void frmStartStopRec::take()
 {
     for (const Rows &rows : m_rows) {
         if (rows.variable.row() < 0 && rows.condition.row() != 0)
-            throw common::RunTimeError(QStringLiteral("No variable is chosen for the condition"));
+            throw common::RunTimeError(u"No variable is chosen for the condition"_s);
         keep(rows.variable, rows.trigger.variable);
     }
     for (const Rows &rows : m_rows)

@@ -5,6 +5,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array<const char *, MostGears> Names{"1st", "2nd", "3rd", "4th", "5th", "6th", "7th"};
@@ -14,8 +16,7 @@ constexpr std::array<const char *, MostGears> Names{"1st", "2nd", "3rd", "4th", 
 QString gearName(std::size_t gear) { return QLatin1String(Names.at(gear)); }
 
 GearModel::GearModel(QString decimalMark)
-    : GridModel({QStringLiteral("Gear"), QStringLiteral("Lower limit"), QStringLiteral("Upper limit")}),
-      m_decimalMark(std::move(decimalMark))
+    : GridModel({u"Gear"_s, u"Lower limit"_s, u"Upper limit"_s}), m_decimalMark(std::move(decimalMark))
 {
 }
 

@@ -8,6 +8,8 @@
 
 namespace recorder {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int HeaderPadding = 12; // pixels
@@ -28,8 +30,7 @@ quint8 MessageEntry::*rateOf(int column)
 } // namespace
 
 MessageModel::MessageModel(MessageTable table)
-    : GridModel({QStringLiteral("No."), QStringLiteral("Message"), QStringLiteral("Storage Frequency"),
-                 QStringLiteral("Output Frequency")}),
+    : GridModel({u"No."_s, u"Message"_s, u"Storage Frequency"_s, u"Output Frequency"_s}),
       m_table(std::move(table))
 {
 }

@@ -6,10 +6,12 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString InputCaption = QStringLiteral("Input X (Volts)");
-const QString OutputCaption = QStringLiteral("Output Y");
+const QString InputCaption = u"Input X (Volts)"_s;
+const QString OutputCaption = u"Output Y"_s;
 constexpr int GridRows = 30;
 constexpr int CurveSteps = 201;
 constexpr int GridWidth = 260; // pixels
@@ -28,22 +30,22 @@ QRectF rangeOf(const QList<QPointF> &points)
 } // namespace
 
 frmCurveFit::frmCurveFit(const forms::Context &context)
-    : Dialog(QStringLiteral("Generate an equation from a table"), context),
+    : Dialog(u"Generate an equation from a table"_s, context),
       m_grid(new PointGrid(GridRows, {InputCaption, OutputCaption}, decimalMark())),
       m_chart(new Chart(InputCaption, OutputCaption)), m_equation(new QLabel)
 {
     makeResizable();
-    m_grid->setObjectName(QStringLiteral("grdInput"));
-    m_grid->setAccessibleName(QStringLiteral("Table of inputs and outputs"));
+    m_grid->setObjectName(u"grdInput"_s);
+    m_grid->setAccessibleName(u"Table of inputs and outputs"_s);
     m_grid->setFixedWidth(GridWidth);
-    m_chart->setObjectName(QStringLiteral("chtPolyFit"));
-    m_chart->setAccessibleName(QStringLiteral("Chart of table and curve"));
+    m_chart->setObjectName(u"chtPolyFit"_s);
+    m_chart->setAccessibleName(u"Chart of table and curve"_s);
     m_chart->setMinimumSize(480, 360);
-    m_equation->setObjectName(QStringLiteral("lblEquationLabel"));
+    m_equation->setObjectName(u"lblEquationLabel"_s);
     m_equation->setTextFormat(Qt::PlainText);
     m_equation->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto *tableCaption = new QLabel(QStringLiteral("&Table"));
+    auto *tableCaption = new QLabel(u"&Table"_s);
     tableCaption->setBuddy(m_grid);
     body().addWidget(tableCaption);
     body().addWidget(m_grid);
@@ -65,7 +67,7 @@ std::optional<Coefficients> frmCurveFit::run()
 void frmCurveFit::Recalculate()
 {
     QList<QPointF> points;
-    QString text = QStringLiteral("No curve can be calculated from this table");
+    QString text = u"No curve can be calculated from this table"_s;
     m_fit.reset();
     platform::skipFailures([&] {
         points = fitPoints(m_grid->cells());

@@ -4,6 +4,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int NarrowestBody = 300; // pixels
@@ -13,9 +15,9 @@ constexpr double AxisLength = 2;    // up to the Nyquist frequency
 
 Chart *newResponseChart()
 {
-    auto *chart = new Chart(QStringLiteral("Frequency (0Hz to 50Hz)"), QStringLiteral("Amplitude"));
-    chart->setObjectName(QStringLiteral("chtResponse"));
-    chart->setAccessibleName(QStringLiteral("Chart of the frequency response"));
+    auto *chart = new Chart(u"Frequency (0Hz to 50Hz)"_s, u"Amplitude"_s);
+    chart->setObjectName(u"chtResponse"_s);
+    chart->setAccessibleName(u"Chart of the frequency response"_s);
     chart->setMinimumSize(480, 320);
     QMap<double, QString> texts;
     for (int hertz = 0; hertz <= FilterNyquist; hertz += 10)
@@ -28,7 +30,7 @@ Chart *newResponseChart()
 
 frmFilterDesign::frmFilterDesign(const QString &variable, const FilterSettings &initial,
                                  const forms::Context &context)
-    : DialogOf(QStringLiteral("Filter design for ") + variable, initial, context),
+    : DialogOf(u"Filter design for "_s + variable, initial, context),
       m_model(choice(&FilterSettings::model, {"cmbModel", "Filter &model"}, forms::choicesOf(FilterModels))),
       m_chart(newResponseChart())
 {
@@ -45,7 +47,7 @@ void frmFilterDesign::addSettings()
 {
     using F = FilterSettings;
     m_settings = &addGroup("Settings");
-    m_settings->setObjectName(QStringLiteral("fraSettings"));
+    m_settings->setObjectName(u"fraSettings"_s);
     forms::ListField &type = choice(&F::type, {"cmbType", "Filter &type"}, forms::choicesOf(FilterTypes));
     m_upper = &frequency(&F::upper, {"txtUpperFrequency", "&Upper frequency [Hz]"});
     m_lower = &frequency(&F::lower, {"txtLowerFrequency", "&Lower frequency [Hz]"});

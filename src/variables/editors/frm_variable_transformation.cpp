@@ -10,6 +10,8 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <typename Entries>
@@ -36,11 +38,11 @@ frmVariableTransformation::frmVariableTransformation(int index, Catalogue &catal
     : DialogOf(transformationTitle(recordOf(catalogue, index)), transformationOf(recordOf(catalogue, index)),
                context),
       m_index(index), m_catalogue(catalogue), m_generated(generated),
-      m_standard(add<forms::CheckField>(new QRadioButton(QStringLiteral("&Standard units")), "Option1_0")),
+      m_standard(add<forms::CheckField>(new QRadioButton(u"&Standard units"_s), "Option1_0")),
       m_units(bind(add<forms::ListField>("StandardTransCombo",
                                          forms::numbered(unitChoices(record(), m_catalogue.units))),
                    &TransformationForm::unit)),
-      m_custom(bind(add<forms::CheckField>(new QRadioButton(QStringLiteral("Custom e&quation")), "Option1_1"),
+      m_custom(bind(add<forms::CheckField>(new QRadioButton(u"Custom e&quation"_s), "Option1_1"),
                     &TransformationForm::custom)),
       m_equation(bind(add<forms::TextArea>("UserFunctionTxt"), &TransformationForm::equation))
 {
@@ -58,10 +60,10 @@ frmVariableTransformation::frmVariableTransformation(int index, Catalogue &catal
 
 QLayout *frmVariableTransformation::newUnitRow()
 {
-    m_units.box().setAccessibleName(QStringLiteral("Standard units"));
+    m_units.box().setAccessibleName(u"Standard units"_s);
     m_units.box().setMinimumWidth(280);
     auto *unitLabel = new QLabel;
-    unitLabel->setObjectName(QStringLiteral("DisplayUnitsLbl"));
+    unitLabel->setObjectName(u"DisplayUnitsLbl"_s);
     unitLabel->setTextFormat(Qt::PlainText);
     follow([this, unitLabel] {
         unitLabel->setText(variables::unitLabel(record(), m_units.row(), m_catalogue.units));
@@ -71,7 +73,7 @@ QLayout *frmVariableTransformation::newUnitRow()
     row->addWidget(&m_standard.button());
     row->addWidget(&m_units.box());
     row->addSpacing(16);
-    row->addWidget(new QLabel(QStringLiteral("Units as displayed:")));
+    row->addWidget(new QLabel(u"Units as displayed:"_s));
     row->addWidget(unitLabel);
     row->addStretch();
     return row;
@@ -79,14 +81,14 @@ QLayout *frmVariableTransformation::newUnitRow()
 
 QGroupBox *frmVariableTransformation::newEquationPart()
 {
-    m_equation.box().setAccessibleName(QStringLiteral("Equation"));
+    m_equation.box().setAccessibleName(u"Equation"_s);
     m_equation.box().setFixedHeight(fontMetrics().lineSpacing() * 5);
     auto *part = new QGroupBox;
     follow([this, part] { part->setEnabled(m_custom.isOn()); });
     auto *layout = new QVBoxLayout(part);
     layout->addWidget(&m_equation.box());
     layout->addLayout(newGeneratorRow());
-    layout->addWidget(new QLabel(QStringLiteral("Valid entries for the custom formula:")));
+    layout->addWidget(new QLabel(u"Valid entries for the custom formula:"_s));
     layout->addLayout(newPickLists(), 1);
     return part;
 }
@@ -95,10 +97,10 @@ QLayout *frmVariableTransformation::newGeneratorRow()
 {
     auto &units = bind(add<forms::TextField>("UserUnits"), &TransformationForm::units);
     units.box().setFixedWidth(80);
-    auto *unitsCaption = new QLabel(QStringLiteral("&Units to display:"));
+    auto *unitsCaption = new QLabel(u"&Units to display:"_s);
     units.setCaption(unitsCaption);
-    auto *fromTable = newGenerator("cmdGenerateA", QStringLiteral("&Generate an equation from a table"));
-    auto *byHand = newGenerator("cmdEnterEquation", QStringLiteral("&Enter an equation manually"));
+    auto *fromTable = newGenerator("cmdGenerateA", u"&Generate an equation from a table"_s);
+    auto *byHand = newGenerator("cmdEnterEquation", u"&Enter an equation manually"_s);
     for (QPushButton *button : {fromTable, byHand})
         button->setEnabled(hasOwnEquation(record()));
     connect(fromTable, &QPushButton::clicked, this, [this] { takeGenerated(frmCurveFit(within()).run()); });
@@ -123,14 +125,13 @@ QLayout *frmVariableTransformation::newPickLists()
     };
     auto *columns = new QHBoxLayout;
     for (const Column &column :
-         {Column{QStringLiteral("&Variables"),
-                 newPickList("MSFlexGridVarNames", variableEntries(m_catalogue.staging)), 4},
-          Column{QStringLiteral("Co&nstants"), newPickList("MSFlexGridConstants", ConstantEntries), 3},
-          Column{QStringLiteral("&Maths functions"), newPickList("MathFunctGrid", FunctionEntries), 4}}) {
+         {Column{u"&Variables"_s, newPickList("MSFlexGridVarNames", variableEntries(m_catalogue.staging)), 4},
+          Column{u"Co&nstants"_s, newPickList("MSFlexGridConstants", ConstantEntries), 3},
+          Column{u"&Maths functions"_s, newPickList("MathFunctGrid", FunctionEntries), 4}}) {
         connect(column.list, &PickList::picked, this, &frmVariableTransformation::insert);
         auto *label = new QLabel(column.caption);
         label->setBuddy(column.list);
-        column.list->setAccessibleName(QString(column.caption).remove(QLatin1Char('&')));
+        column.list->setAccessibleName(QString(column.caption).remove('&'_L1));
         auto *layout = new QVBoxLayout;
         layout->addWidget(label);
         layout->addWidget(column.list, 1);

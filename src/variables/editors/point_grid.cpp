@@ -14,13 +14,15 @@
 
 namespace variables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The grid gets to see the keys of its editor before the filter of numbers does.
 QLineEdit *makeEditor(const QString &decimalSeparator)
 {
     auto *editor = new QLineEdit;
-    editor->setObjectName(QStringLiteral("txtCell"));
+    editor->setObjectName(u"txtCell"_s);
     new forms::NumericKeys(editor, decimalSeparator);
     return editor;
 }
@@ -31,11 +33,11 @@ PointGrid::PointGrid(int rows, const QStringList &headers, const QString &decima
     : EditGrid(rows, headers, makeEditor(decimalSeparator)), m_menu(new QMenu(this))
 {
     setSelectionMode(ContiguousSelection);
-    m_menu->setObjectName(QStringLiteral("mnuPop"));
-    addEntry("mnuCut", QStringLiteral("Cu&t"), QKeySequence::Cut, &PointGrid::cut);
-    addEntry("mnuCopy", QStringLiteral("&Copy"), QKeySequence::Copy, &PointGrid::copy);
-    addEntry("mnuPaste", QStringLiteral("&Paste"), QKeySequence::Paste, &PointGrid::paste);
-    addEntry("mnuDelete", QStringLiteral("&Delete"), QKeySequence::Delete, &PointGrid::deleteBlock);
+    m_menu->setObjectName(u"mnuPop"_s);
+    addEntry("mnuCut", u"Cu&t"_s, QKeySequence::Cut, &PointGrid::cut);
+    addEntry("mnuCopy", u"&Copy"_s, QKeySequence::Copy, &PointGrid::copy);
+    addEntry("mnuPaste", u"&Paste"_s, QKeySequence::Paste, &PointGrid::paste);
+    addEntry("mnuDelete", u"&Delete"_s, QKeySequence::Delete, &PointGrid::deleteBlock);
 }
 
 void PointGrid::addEntry(const char *name, const QString &text, QKeySequence::StandardKey key,
