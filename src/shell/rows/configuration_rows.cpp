@@ -18,15 +18,13 @@ using recorder::EncodePattern;
 namespace {
 
 template <EncodePattern Pattern>
-void setPattern(frmMain &w)
+constexpr Command pattern(const char *name, const char *caption)
 {
-    w.state().settings.encodePattern = Pattern;
-}
-
-template <EncodePattern Pattern>
-bool isPattern(const frmMain &w)
-{
-    return w.state().settings.encodePattern == Pattern;
+    return {.places = EncodePatternMenu,
+            .name = name,
+            .caption = caption,
+            .run = [](frmMain &w) { w.state().settings.encodePattern = Pattern; },
+            .isChecked = [](const frmMain &w) { return w.state().settings.encodePattern == Pattern; }};
 }
 
 constexpr Command Rows[] = {
@@ -96,21 +94,9 @@ constexpr Command Rows[] = {
      .name = "mnuEncodePattern",
      .caption = "Encode Pattern",
      .isMorvelOnly = true},
-    {.places = EncodePatternMenu,
-     .name = "mnuI",
-     .caption = "I",
-     .run = &setPattern<EncodePattern::I>,
-     .isChecked = &isPattern<EncodePattern::I>},
-    {.places = EncodePatternMenu,
-     .name = "mnuIP",
-     .caption = "IP",
-     .run = &setPattern<EncodePattern::IP>,
-     .isChecked = &isPattern<EncodePattern::IP>},
-    {.places = EncodePatternMenu,
-     .name = "mnuIPB",
-     .caption = "IPB",
-     .run = &setPattern<EncodePattern::IPB>,
-     .isChecked = &isPattern<EncodePattern::IPB>},
+    pattern<EncodePattern::I>("mnuI", "I"),
+    pattern<EncodePattern::IP>("mnuIP", "IP"),
+    pattern<EncodePattern::IPB>("mnuIPB", "IPB"),
 };
 
 } // namespace

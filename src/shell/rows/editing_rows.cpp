@@ -44,49 +44,52 @@ void paste(frmMain &w)
         w.design().mnuPaste_Click();
 }
 
-template <Qt::Edge Edge>
-void align(frmMain &w)
-{
-    w.design().align(Edge);
-}
-
-template <Qt::Orientation Along>
-void spaceEqually(frmMain &w)
-{
-    w.design().spaceEqually(Along);
-}
-
 template <int Members>
 bool hasMembers(const frmMain &w)
 {
     return w.design().group().size() >= Members;
 }
 
+bool groupMenuCopies(const frmMain &w) { return !w.groupMenuPastes(); }
+
+template <Qt::Key Key>
+constexpr Command nudge(const char *name, const char *caption, const char *icon)
+{
+    return {.places = Toolbar,
+            .name = name,
+            .caption = caption,
+            .icon = icon,
+            .run = &sendKey<Key>,
+            .isEnabled = &hasCurrent};
+}
+
+template <Qt::Edge Edge>
+constexpr Command edges(const char *name, const char *caption, const char *icon)
+{
+    return {.places = GroupPopup,
+            .name = name,
+            .caption = caption,
+            .icon = icon,
+            .run = [](frmMain &w) { w.design().align(Edge); },
+            .isEnabled = &hasMembers<2>};
+}
+
+template <Qt::Orientation Along>
+constexpr Command spacing(const char *name, const char *caption, const char *icon)
+{
+    return {.places = GroupPopup,
+            .name = name,
+            .caption = caption,
+            .icon = icon,
+            .run = [](frmMain &w) { w.design().spaceEqually(Along); },
+            .isEnabled = &hasMembers<3>};
+}
+
 constexpr Command Rows[] = {
-    {.places = Toolbar,
-     .name = "cmdLeft",
-     .caption = "Nudge left",
-     .icon = "toolbar/left",
-     .run = &sendKey<Qt::Key_Left>,
-     .isEnabled = &hasCurrent},
-    {.places = Toolbar,
-     .name = "cmdUp",
-     .caption = "Nudge up",
-     .icon = "toolbar/up",
-     .run = &sendKey<Qt::Key_Up>,
-     .isEnabled = &hasCurrent},
-    {.places = Toolbar,
-     .name = "cmdDown",
-     .caption = "Nudge down",
-     .icon = "toolbar/down",
-     .run = &sendKey<Qt::Key_Down>,
-     .isEnabled = &hasCurrent},
-    {.places = Toolbar,
-     .name = "cmdRight",
-     .caption = "Nudge right",
-     .icon = "toolbar/right",
-     .run = &sendKey<Qt::Key_Right>,
-     .isEnabled = &hasCurrent},
+    nudge<Qt::Key_Left>("cmdLeft", "Nudge left", "toolbar/left"),
+    nudge<Qt::Key_Up>("cmdUp", "Nudge up", "toolbar/up"),
+    nudge<Qt::Key_Down>("cmdDown", "Nudge down", "toolbar/down"),
+    nudge<Qt::Key_Right>("cmdRight", "Nudge right", "toolbar/right"),
     {.places = Toolbar},
     {.places = Toolbar,
      .name = "cmdPrevious",
@@ -184,13 +187,13 @@ constexpr Command Rows[] = {
      .caption = "Cut",
      .icon = "menu/cut",
      .run = &take<Operation::Cut>,
-     .isEnabled = [](const frmMain &w) { return !w.groupMenuPastes(); }},
+     .isEnabled = &groupMenuCopies},
     {.places = GroupPopup,
      .name = "mnuGroupCopy",
      .caption = "Copy",
      .icon = "menu/copy",
      .run = &take<Operation::Copy>,
-     .isEnabled = [](const frmMain &w) { return !w.groupMenuPastes(); }},
+     .isEnabled = &groupMenuCopies},
     {.places = GroupPopup,
      .name = "mnuGroupPaste",
      .caption = "Paste",
@@ -198,43 +201,13 @@ constexpr Command Rows[] = {
      .run = [](frmMain &w) { w.design().PasteAllObjects(); },
      .isEnabled = [](const frmMain &w) { return w.groupMenuPastes(); }},
     {.places = GroupPopup},
-    {.places = GroupPopup,
-     .name = "mnuAlignLeft",
-     .caption = "Align &Left Edges",
-     .icon = "menu/align_left",
-     .run = &align<Qt::LeftEdge>,
-     .isEnabled = &hasMembers<2>},
-    {.places = GroupPopup,
-     .name = "mnuAlignRight",
-     .caption = "Align &Right Edges",
-     .icon = "menu/align_right",
-     .run = &align<Qt::RightEdge>,
-     .isEnabled = &hasMembers<2>},
-    {.places = GroupPopup,
-     .name = "mnuAlignTop",
-     .caption = "Align &Top Edges",
-     .icon = "menu/align_top",
-     .run = &align<Qt::TopEdge>,
-     .isEnabled = &hasMembers<2>},
-    {.places = GroupPopup,
-     .name = "mnuAlignBottom",
-     .caption = "Align &Bottom Edges",
-     .icon = "menu/align_bottom",
-     .run = &align<Qt::BottomEdge>,
-     .isEnabled = &hasMembers<2>},
+    edges<Qt::LeftEdge>("mnuAlignLeft", "Align &Left Edges", "menu/align_left"),
+    edges<Qt::RightEdge>("mnuAlignRight", "Align &Right Edges", "menu/align_right"),
+    edges<Qt::TopEdge>("mnuAlignTop", "Align &Top Edges", "menu/align_top"),
+    edges<Qt::BottomEdge>("mnuAlignBottom", "Align &Bottom Edges", "menu/align_bottom"),
     {.places = GroupPopup},
-    {.places = GroupPopup,
-     .name = "mnuSpaceAcross",
-     .caption = "Space &Horizontally",
-     .icon = "menu/space_horizontally",
-     .run = &spaceEqually<Qt::Horizontal>,
-     .isEnabled = &hasMembers<3>},
-    {.places = GroupPopup,
-     .name = "mnuSpaceDown",
-     .caption = "Space &Vertically",
-     .icon = "menu/space_vertically",
-     .run = &spaceEqually<Qt::Vertical>,
-     .isEnabled = &hasMembers<3>},
+    spacing<Qt::Horizontal>("mnuSpaceAcross", "Space &Horizontally", "menu/space_horizontally"),
+    spacing<Qt::Vertical>("mnuSpaceDown", "Space &Vertically", "menu/space_vertically"),
 
     {.places = LibraryPopup,
      .name = "mnuRenameControl",

@@ -13,41 +13,40 @@ using surface::PanelId;
 
 namespace {
 
-template <PanelId Id>
-void togglePanel(frmMain &w)
-{
-    surface::PanelArea &panels = w.design().panels();
-    panels.setPanelVisible(Id, !panels.isPanelVisible(Id));
-}
-
-template <PanelId Id>
-bool isPanelVisible(const frmMain &w)
-{
-    return w.design().panels().isPanelVisible(Id);
-}
-
 template <VideoStandard Standard>
-void setStandard(frmMain &w)
+constexpr Command standard(const char *name, const char *caption)
 {
-    w.design().setVideoStandard(Standard);
-}
-
-template <VideoStandard Standard>
-bool isStandard(const frmMain &w)
-{
-    return w.state().settings.VideoType == Standard;
+    return {.places = ViewMenu,
+            .name = name,
+            .caption = caption,
+            .run = [](frmMain &w) { w.design().setVideoStandard(Standard); },
+            .isChecked = [](const frmMain &w) { return w.state().settings.VideoType == Standard; }};
 }
 
 template <int Percent>
-void setZoom(frmMain &w)
+constexpr Command zoom(const char *name, const char *caption, const char *shortcut)
 {
-    w.design().view().setZoom(Percent);
+    return {.places = ViewMenu,
+            .name = name,
+            .caption = caption,
+            .shortcut = shortcut,
+            .run = [](frmMain &w) { w.design().view().setZoom(Percent); },
+            .isChecked = [](const frmMain &w) { return w.design().view().zoom() == Percent; }};
 }
 
-template <int Percent>
-bool isZoom(const frmMain &w)
+template <PanelId Id>
+constexpr Command panel(const char *name, const char *caption, const char *shortcut)
 {
-    return w.design().view().zoom() == Percent;
+    return {.places = ViewMenu,
+            .name = name,
+            .caption = caption,
+            .shortcut = shortcut,
+            .run =
+                [](frmMain &w) {
+                    surface::PanelArea &panels = w.design().panels();
+                    panels.setPanelVisible(Id, !panels.isPanelVisible(Id));
+                },
+            .isChecked = [](const frmMain &w) { return w.design().panels().isPanelVisible(Id); }};
 }
 
 constexpr Command Rows[] = {
@@ -57,16 +56,8 @@ constexpr Command Rows[] = {
      .icon = "menu/options",
      .run = [](frmMain &w) { frmOptions(w.design(), w.dialogContext()).exec(); }},
     {.places = ViewMenu},
-    {.places = ViewMenu,
-     .name = "mnuPAL",
-     .caption = "PAL",
-     .run = &setStandard<VideoStandard::Pal>,
-     .isChecked = &isStandard<VideoStandard::Pal>},
-    {.places = ViewMenu,
-     .name = "mnuNTSC",
-     .caption = "NTSC",
-     .run = &setStandard<VideoStandard::Ntsc>,
-     .isChecked = &isStandard<VideoStandard::Ntsc>},
+    standard<VideoStandard::Pal>("mnuPAL", "PAL"),
+    standard<VideoStandard::Ntsc>("mnuNTSC", "NTSC"),
     {.places = ViewMenu},
     {.places = ViewMenu,
      .name = "mnuZoomIn",
@@ -78,17 +69,8 @@ constexpr Command Rows[] = {
      .caption = "Zoom O&ut",
      .shortcut = "Ctrl+-",
      .run = [](frmMain &w) { w.design().view().stepZoom(false); }},
-    {.places = ViewMenu,
-     .name = "mnuZoom100",
-     .caption = "&100 %",
-     .shortcut = "Ctrl+0",
-     .run = &setZoom<100>,
-     .isChecked = &isZoom<100>},
-    {.places = ViewMenu,
-     .name = "mnuZoom200",
-     .caption = "&200 %",
-     .run = &setZoom<200>,
-     .isChecked = &isZoom<200>},
+    zoom<100>("mnuZoom100", "&100 %", "Ctrl+0"),
+    zoom<200>("mnuZoom200", "&200 %", ""),
     {.places = ViewMenu,
      .name = "mnuZoomFit",
      .caption = "&Fit to Panel",
@@ -101,24 +83,9 @@ constexpr Command Rows[] = {
      .run = [](frmMain &w) { w.design().showSafeAreas(!w.design().showsSafeAreas()); },
      .isChecked = [](const frmMain &w) { return w.design().showsSafeAreas(); }},
     {.places = ViewMenu},
-    {.places = ViewMenu,
-     .name = "mnuPanelDesign",
-     .caption = "&Design Panel",
-     .shortcut = "Ctrl+1",
-     .run = &togglePanel<PanelId::Design>,
-     .isChecked = &isPanelVisible<PanelId::Design>},
-    {.places = ViewMenu,
-     .name = "mnuPanelLibrary",
-     .caption = "&Control Library Panel",
-     .shortcut = "Ctrl+2",
-     .run = &togglePanel<PanelId::Library>,
-     .isChecked = &isPanelVisible<PanelId::Library>},
-    {.places = ViewMenu,
-     .name = "mnuPanelFunctions",
-     .caption = "&Variables Panel",
-     .shortcut = "Ctrl+3",
-     .run = &togglePanel<PanelId::Functions>,
-     .isChecked = &isPanelVisible<PanelId::Functions>},
+    panel<PanelId::Design>("mnuPanelDesign", "&Design Panel", "Ctrl+1"),
+    panel<PanelId::Library>("mnuPanelLibrary", "&Control Library Panel", "Ctrl+2"),
+    panel<PanelId::Functions>("mnuPanelFunctions", "&Variables Panel", "Ctrl+3"),
     {.places = ViewMenu},
     {.places = ViewMenu,
      .name = "mnuNextPanel",
