@@ -55,6 +55,13 @@ QPointF pulledInto(QPointF place, const Box &box, float frame, recorder::VideoSt
                        static_cast<float>(recorder::canvasHeight(standard)))};
 }
 
+QPointF keptOnCanvas(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
+                     const platform::Screen &screen)
+{
+    const QPointF corner = pulledInto(place, box, frame, standard, screen);
+    return {std::max(corner.x(), std::min(place.x(), 0.0)), std::max(corner.y(), std::min(place.y(), 0.0))};
+}
+
 Box withSize(const Box &box, Handle handle, float width, float height)
 {
     return {movesLeft(handle) ? box.right() - width : box.Left,

@@ -78,6 +78,9 @@ constexpr float pulledInto(float position, float outerSize, float frame, float c
 // Canvas pixels.
 QPointF pulledInto(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
                    const platform::Screen &screen);
+// The same, but a box that is larger than the canvas is not pushed out at the other side.
+QPointF keptOnCanvas(QPointF place, const Box &box, float frame, recorder::VideoStandard standard,
+                     const platform::Screen &screen);
 
 // One axis of a nudge by `step` that the rule above would stop at `stopped`: it does not lead beyond, and
 // never backwards.

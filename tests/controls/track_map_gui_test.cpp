@@ -26,6 +26,8 @@ TEST(TrackMapRules, TheFirstComplaintCounts)
         {"IniWidth=0 LeftCoordinates=16 TopCoordinates=8.5", "chkEnableMap", Correction,
          "txtTopCoordinates=8"},
         {"IniWidth=0 LeftCoordinates=16", "chkEnableMap", {}, ""},
+        {"LeftCoordinates=696 Width=100", "chkEnableMap", Correction,
+         "txtLeftCoordinates=608"}, // pulled in to 610
     };
     for (const auto &[texts, on, said, corrected] : cases) {
         SCOPED_TRACE(texts);

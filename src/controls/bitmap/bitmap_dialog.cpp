@@ -20,23 +20,13 @@ constexpr double MostAlpha = 255; // deliberate, although a percentage is typed
 
 int even(int coordinate) { return coordinate / 2 * 2; }
 
-// One axis: pulled in at the far edge. A bitmap larger than the canvas begins at 0.
-int pulled(qint16 place, float outerSize, float frame, int canvas)
-{
-    const float kept = pulledInto(place, outerSize, frame, static_cast<float>(canvas));
-    return common::toInteger<int>(double{std::max(kept, std::min<float>(place, 0))});
-}
-
 void keepOnCanvas(BitmapValues &values, const ControlHost &host)
 {
     const platform::Screen &screen = host.screen();
-    const Box box = placed(values, screen).box;
-    const int left = pulled(values.curLeftCoord, screen.toPixelsX(box.Width), screen.toPixelsX(FrameTwips),
-                            recorder::CanvasWidth);
-    const int top = pulled(values.curTopCoord, screen.toPixelsY(box.Height), screen.toPixelsY(FrameTwips),
-                           recorder::canvasHeight(host.VideoType()));
-    values.curLeftCoord = common::toInteger<qint16>(left);
-    values.curTopCoord = common::toInteger<qint16>(even(top));
+    const QPointF corner = keptOnCanvas(QPoint(values.curLeftCoord, values.curTopCoord),
+                                        placed(values, screen).box, FrameTwips, host.VideoType(), screen);
+    values.curLeftCoord = common::toInteger<qint16>(corner.x());
+    values.curTopCoord = common::toInteger<qint16>(even(common::toInteger<int>(corner.y())));
 }
 
 } // namespace

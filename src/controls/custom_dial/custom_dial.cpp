@@ -127,7 +127,7 @@ CustomDialValues placed(CustomDialValues values, recorder::VideoStandard standar
     values.curHeight = toInteger<qint16>(height);
     const QPoint wanted(values.curCenterX, values.curCenterY);
     box = framed(QRect(wanted, QSize(width, height)), screen);
-    const QPointF corner = pulledInto(wanted, box, FrameTwips, standard, screen);
+    const QPointF corner = keptOnCanvas(wanted, box, FrameTwips, standard, screen);
     values.curCenterX = toInteger<qint16>(corner.x());
     values.curCenterY = toInteger<qint16>(corner.y());
     box = framed(QRect(values.curCenterX, values.curCenterY, width, height), screen);

@@ -51,7 +51,7 @@ TrackMapValues placed(TrackMapValues values, recorder::VideoStandard standard, c
     box.Width = screen.toTwipsX(values.curWidth) + BothFrames;
     box.Height = screen.toTwipsY(values.curHeight) + BothFrames;
     const QPointF corner =
-        pulledInto(QPoint(values.curLeftCoord, values.curTopCoord), box, 0, standard, screen);
+        keptOnCanvas(QPoint(values.curLeftCoord, values.curTopCoord), box, 0, standard, screen);
     values.curLeftCoord = toInteger<qint16>(corner.x());
     values.curTopCoord = toInteger<qint16>(corner.y());
     box.Left = screen.toTwipsX(values.curLeftCoord);

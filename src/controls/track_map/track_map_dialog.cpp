@@ -36,13 +36,18 @@ std::optional<Verdict> tooLarge(const forms::Typed &typed, recorder::VideoStanda
     return std::nullopt;
 }
 
-std::optional<Verdict> offTheMapsSteps(const forms::Typed &typed)
+// The place counts where the map will stand: once it was pulled onto the canvas.
+std::optional<Verdict> offTheMapsSteps(const forms::Typed &typed, recorder::VideoStandard standard)
 {
+    const platform::Screen screen;
+    const QPointF typedPlace(typed.number("txtLeftCoordinates"), typed.number("txtTopCoordinates"));
+    const Box box = framed({0, 0, typed.number("txtWidth"), typed.number("txtHeight")}, screen);
+    const QPointF place = keptOnCanvas(typedPlace, box, 0, standard, screen);
     QList<Correction> corrections;
-    for (const char *field : {"txtLeftCoordinates", "txtTopCoordinates"}) {
-        const double place = typed.number(field);
-        const double step = std::trunc(place / MapStep) * MapStep;
-        if (place != step)
+    for (const auto &[field, coordinate] :
+         {std::pair{"txtLeftCoordinates", place.x()}, {"txtTopCoordinates", place.y()}}) {
+        const double step = std::trunc(coordinate / MapStep) * MapStep + 0.0; // no negative 0
+        if (coordinate != step)
             corrections.append({QLatin1String(field), QString::number(step, 'f', 0)});
     }
     if (corrections.isEmpty())
@@ -63,7 +68,7 @@ std::optional<Verdict> validateTrackMap(const forms::Typed &typed, recorder::Vid
         return forms::refusal(u"Initial width & height can't be 0"_s);
     if (auto verdict = tooLarge(typed, standard))
         return verdict;
-    return withMap ? offTheMapsSteps(typed) : std::nullopt;
+    return withMap ? offTheMapsSteps(typed, standard) : std::nullopt;
 }
 
 TrackMapDialog::TrackMapDialog(TrackMap &map) : PropertyDialog(map, u"Track Map Properties"_s, map.get())
