@@ -135,9 +135,9 @@ void CustomLibrary::configure(OverlayControl &control, const QString &key) const
     QStringList texts = textsFor(control, store, entry->place);
     const QString folder = m_host.folders().pictureFolder();
     for (const auto &[element, picture] : control.copies()) {
-        const QString entrys = std::exchange(texts[element], {}); // which stays the entry's alone
+        const QString entrys = texts[element];
         const QString wanted = placedName(control, element, m_stamp.now().time());
-        skipFailures([&] {
+        skipFailures([&] { // a control that gets no file of its own shares the entry's
             const QByteArray bytes = platform::readFile(platform::nameWithin(folder, entrys));
             const QString own = controls::ownCopyName(folder, wanted, entrys);
             controls::keepCopy(folder, own, bytes, platform::Flush::None);

@@ -80,8 +80,9 @@ QImage picture(OverlayControl &control)
 
 bool isUsual(const Box &box, const platform::Screen &screen)
 {
-    const float most = screen.toTwipsX(graphics::MaxPictureSide) + controls::BothFrames;
-    return box.Width >= 0 && box.Width <= most && box.Height >= 0 && box.Height <= most;
+    constexpr int Side = graphics::MaxPictureSide;
+    const controls::Box largest = controls::framed({{}, graphics::paddedSize({Side, Side})}, screen);
+    return box.Width >= 0 && box.Width <= largest.Width && box.Height >= 0 && box.Height <= largest.Height;
 }
 
 } // namespace
