@@ -2,6 +2,7 @@
 
 #include "common/code_page.h"
 #include "common/rounding.h"
+#include "platform/guards.h"
 
 namespace layoutfile {
 
@@ -27,19 +28,31 @@ void addFiles(RecordGroups &groups, const std::vector<std::shared_ptr<const grap
 FontList::Name FontList::add(const graphics::FontRequest &request, int usualSize)
 {
     const QString name = graphics::fontFileName(request);
+    const QByteArray stored = common::toCodePage(name);
     qsizetype place = m_names.indexOf(name);
     if (place < 0) {
         place = common::toInteger<quint8>(static_cast<double>(m_names.size()));
-        if (m_store) {
-            platform::NoProgress silent; // a second window would take the place of the save's
-            auto font = m_store->open(request, usualSize, silent);
-            if (font->standsInFor(request))
-                m_replaced.append(name);
-            m_fonts.push_back(std::move(font));
-        }
+        if (m_store && m_isStrict)
+            makeFont(request, usualSize);
+        else if (m_store && !platform::skipFailures([&] { makeFont(request, usualSize); }))
+            giveUpFonts();
+        if (m_store && (m_fonts.back()->standsInFor(request) || common::fromCodePage(stored) != name))
+            m_replaced.append(name);
         m_names.append(name);
     }
-    return {static_cast<quint8>(place), {common::toCodePage(name)}};
+    return {static_cast<quint8>(place), {stored}};
+}
+
+void FontList::makeFont(const graphics::FontRequest &request, int usualSize)
+{
+    platform::NoProgress silent; // a second window would take the place of the save's
+    m_fonts.push_back(m_store->open(request, usualSize, silent));
+}
+
+void FontList::giveUpFonts()
+{
+    m_store = nullptr;
+    m_fonts.clear();
 }
 
 void FontList::addRecords(RecordGroups &groups) const

@@ -10,7 +10,8 @@ class FontList
 {
 public:
     // Without a store there are ids and names only, and no font is made: for layouts that no recorder reads.
-    explicit FontList(graphics::FontStore *store) : m_store(store) {}
+    // The same holds, unless it is `strict`, once a font cannot be made.
+    FontList(graphics::FontStore *store, bool strict) : m_store(store), m_isStrict(strict) {}
 
     // How a record names its font.
     struct Name
@@ -19,17 +20,21 @@ public:
         FixedText<30> file;
     };
     // A font that cannot be made is stored as the one that stands in for it; `usualSize`, in points, is the
-    // family's. Throws RunTimeError when no font can be made, and for the 257th.
+    // family's. Throws RunTimeError for the 257th, and, if it is strict, when no font can be made.
     Name add(const graphics::FontRequest &request, int usualSize);
 
-    // Those that something else stands in for.
+    // Those that something else stands in for, and those whose name a layout cannot hold.
     const QStringList &replaced() const { return m_replaced; }
 
     // Adds the directories and the rasters; nothing without fonts.
     void addRecords(RecordGroups &groups) const;
 
 private:
+    void makeFont(const graphics::FontRequest &request, int usualSize);
+    void giveUpFonts();
+
     graphics::FontStore *m_store;
+    bool m_isStrict;
     QStringList m_names;
     QStringList m_replaced;
     std::vector<std::shared_ptr<const graphics::ReadyFont>> m_fonts; // as many as there are names, or none

@@ -171,8 +171,11 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
 LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlList &controls)
 {
     // Recovery makes no fonts: nothing but the tool reads it.
-    Gathering save{
-        {}, {}, FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts), {}, context.screen};
+    Gathering save{{},
+                   {},
+                   FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts, kind == SaveKind::Command),
+                   {},
+                   context.screen};
     if (kind != SaveKind::Recovery)
         gatherThumbnail(save.groups, kind, context);
     ProgressScope progress(context.progress, kind == SaveKind::Command ? u"Saving configuration....."_s

@@ -37,7 +37,7 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
 
 TEST(FontList, countsAsFarAsAByteReaches)
 {
-    FontList fonts(nullptr);
+    FontList fonts(nullptr, true);
     for (int size = 0; size < 256; ++size)
         EXPECT_EQ(fonts.add({"Arial", size, {}}, 9).id, size);
     EXPECT_THROW(fonts.add({"Arial", 256, {}}, 9), common::RunTimeError);
