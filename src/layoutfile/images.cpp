@@ -20,13 +20,13 @@ QByteArray take(common::ByteReader &planes, qsizetype length) { return planes.ge
 StoredImage takeImage(common::ByteReader &planes, const BitmapRecord &bitmap, int number)
 {
     if (bitmap.width <= 0 || bitmap.height <= 0)
-        return {number, {}};
+        return {number};
     const qsizetype luma = qsizetype{bitmap.width} * bitmap.height;
     const qsizetype chroma = qsizetype{bitmap.width / 2} * (bitmap.height / 2);
     const graphics::Planes colours{bitmap.width, bitmap.height, take(planes, luma), take(planes, chroma),
                                    take(planes, chroma)};
     const graphics::AlphaPlane alpha{bitmap.width, bitmap.height, take(planes, luma)};
-    return {number, graphics::PlanePicture::fromFile(colours, alpha)};
+    return {number, graphics::PlanePicture::fromFile(colours, alpha), alpha.isComplete()};
 }
 
 } // namespace
@@ -34,14 +34,13 @@ StoredImage takeImage(common::ByteReader &planes, const BitmapRecord &bitmap, in
 void ImageList::add(const graphics::PlanePicture &image)
 {
     const graphics::Planes &colours = image.planes();
-    for (const QByteArray &plane : {colours.y, colours.u, colours.v, image.alpha().values})
-        m_planes += plane;
+    m_planes += {colours.y, colours.u, colours.v, image.alpha().values};
 }
 
 void ImageList::addRecord(RecordGroups &groups) const
 {
     if (!m_planes.isEmpty())
-        groups.add(ImagePlanesRecord{Bulk{m_planes}});
+        groups.add(ImagePlanesRecord{Bulk{m_planes.join()}});
 }
 
 StoredImages storedImages(const std::vector<LayoutRecord> &records)

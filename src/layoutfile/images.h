@@ -20,7 +20,7 @@ public:
     void addRecord(RecordGroups &groups) const;
 
 private:
-    QByteArray m_planes;
+    QByteArrayList m_planes; // shared with the pictures
 };
 
 // One image as it was read. It is none where the record does not hold its colours in full, and opaque where
@@ -29,7 +29,8 @@ struct StoredImage
 {
     int number = 0; // of its colours, from 0; that of its alpha plane is the next
     graphics::PlanePicture picture{};
-    QString fileName{}; // of its copy in the picture folder, once it was given one
+    bool isComplete = false; // whether the record held all its planes
+    QString fileName{};      // of its copy in the picture folder, once it was given one
     QString alphaFileName{};
 };
 using StoredImages = std::map<qint16, StoredImage>; // by the bitmap record's object number
