@@ -3,6 +3,8 @@
 #include "controls/bitmap/picture_copies.h"
 #include "graphics/picture_loader.h"
 
+#include <algorithm>
+
 namespace layoutfile {
 
 Loading::Loading(const std::vector<LayoutRecord> &records, const platform::Folders &givenFolders,
@@ -38,6 +40,14 @@ void Loading::keepCopies(const ObjectNames &claimed)
     }
     for (const auto &[name, bytes] : copies)
         controls::keepCopy(folder, name, bytes, platform::Flush::None);
+}
+
+int Loading::damagedImages(const ObjectNames &claimed) const
+{
+    return static_cast<int>(std::count_if(m_images.begin(), m_images.end(), [&](const auto &entry) {
+        const auto &[object, image] = entry;
+        return !image.isComplete && !claimed.contains({RecordType::Bitmap, object});
+    }));
 }
 
 } // namespace layoutfile

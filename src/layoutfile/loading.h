@@ -31,8 +31,10 @@ public:
     const StoredImage *imageOf(qint16 bitmapObject) const;
 
     // Names the images that no other record claims, and puts copies of them into the user's picture folder.
-    // Throws RunTimeError at the first that cannot be written; all have their names then.
+    // Throws RunTimeError when one cannot be written; all have their names then.
     void keepCopies(const ObjectNames &claimed);
+    // How many of these images the layout does not hold in full.
+    int damagedImages(const ObjectNames &claimed) const;
 
     const platform::Folders &folders;
     const platform::Stamp &stamp;

@@ -14,6 +14,8 @@
 
 namespace layoutfile {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using controls::OverlayControl;
@@ -57,11 +59,23 @@ ObjectNames claimedParts(const Records &records)
     return parts;
 }
 
+void tellDamagedImages(int count, platform::Prompts &prompts)
+{
+    if (count == 0)
+        return;
+    const QString which =
+        count == 1 ? u"the pictures of one bitmap"_s : u"the pictures of %1 bitmaps"_s.arg(count);
+    prompts.message(platform::Icon::Warning, platform::ProductTitle,
+                    u"The layout does not hold %1 in full. Choose them again in the properties: a bitmap "
+                    "without pictures is not saved."_s.arg(which));
+}
+
 void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
 {
     Loading load(records, context.folders, context.stamp, context.screen);
     const ObjectNames parts = claimedParts(records);
     platform::reportFailures(context.prompts, [&] { load.keepCopies(parts); });
+    tellDamagedImages(load.damagedImages(parts), context.prompts);
     const qsizetype total = controlCount(records);
     qsizetype done = 0;
     for (const FamilyRecord &family : familyRecords()) {
@@ -121,12 +135,11 @@ bool LoadVGL(const QString &path, const LoadContext &context)
 {
     const auto file = validFile(path);
     if (!file) {
-        context.prompts.message(platform::Icon::Critical, platform::ProductTitle,
-                                QStringLiteral("Invalid File Format"));
+        context.prompts.message(platform::Icon::Critical, platform::ProductTitle, u"Invalid File Format"_s);
         return false;
     }
     {
-        platform::ProgressScope progress(context.progress, QStringLiteral("Loading configuration....."));
+        platform::ProgressScope progress(context.progress, u"Loading configuration....."_s);
         const Records records = readRecords(*file, context.folders, progress);
         const recorder::VideoStandard before = context.settings.VideoType;
         const recorder::VideoStandard stored = settingsFromRecords(records, context.settings);

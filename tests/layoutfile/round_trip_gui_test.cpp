@@ -254,6 +254,21 @@ TEST(Load, aRefusedFileChangesNothing)
     EXPECT_EQ(d.design().caption(), "Untitled");
 }
 
+TEST(Load, saysWhichPicturesALayoutDoesNotHold)
+{
+    DesignWindow d;
+    RecordGroups groups;
+    for (int i = 0; i < 3; ++i)
+        groups.add(BitmapRecord{2, 2, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+    groups.add(ImagePlanesRecord{Bulk{"YYYYUVAAAA"
+                                      "YYYYUVA"}});
+    d.world.prompts.expectMessage(
+        "The layout does not hold the pictures of 2 bitmaps in full. Choose them again in "
+        "the properties: a bitmap without pictures is not saved.");
+    test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
+    EXPECT_EQ(d.design().controls().size(), 3);
+}
+
 // With a good CRC every value reaches the design. It must stay one that can be looked at and saved.
 TEST(Load, extremeValuesLeaveADesignThatWorks)
 {
@@ -283,6 +298,9 @@ TEST(Load, extremeValuesLeaveADesignThatWorks)
     groups.add(VariableEntry{2, 1, Nan, Infinite, -1, 1});
     groups.add(ChapterRecord{255, Nan, 255, -5, 255, Infinite});
     DesignWindow d;
+    d.world.prompts.expectMessage(
+        "The layout does not hold the pictures of 3 bitmaps in full. Choose them again in "
+        "the properties: a bitmap without pictures is not saved.");
     test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
     EXPECT_EQ(d.design().controls().size(), 22);
     EXPECT_FALSE(d.canvas().grab().isNull());
