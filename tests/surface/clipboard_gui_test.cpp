@@ -1,5 +1,5 @@
+#include "bars.h"
 #include "controls/bitmap/bitmap.h"
-#include "support/design_window.h"
 #include "surface/placing.h"
 
 namespace {
@@ -11,22 +11,9 @@ using controls::OverlayControl;
 using test::DesignWindow;
 using test::placeOf;
 
-constexpr QPoint Middle(65, 15); // of a new bar graph, 130 pixels by 30
-
-struct Pasting : testing::Test
+struct Pasting : test::Bars
 {
-    DesignWindow w;
-    BarGraph &one = w.addBar(100, 100);
-    BarGraph &two = w.addBar(150, 180);
-
     void ctrl(Qt::Key key) { test::press(w, key, Qt::ControlModifier); }
-    QList<QPoint> places()
-    {
-        QList<QPoint> places;
-        for (const OverlayControl *control : w.design().controls())
-            places.append(placeOf(*control));
-        return places;
-    }
     // The menu that the right button opens there, and the entries that it offers.
     QStringList rightClick(QPoint at)
     {
@@ -43,8 +30,8 @@ struct Pasting : testing::Test
     void markBoth()
     {
         test::click(w, {20, 20});
-        test::click(w, placeOf(one) + Middle, Qt::ControlModifier);
-        test::click(w, placeOf(two) + Middle, Qt::ControlModifier);
+        ctrlClick(one);
+        ctrlClick(two);
     }
 };
 

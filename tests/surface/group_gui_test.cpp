@@ -1,4 +1,4 @@
-#include "support/design_window.h"
+#include "bars.h"
 #include "surface/placing.h"
 
 namespace {
@@ -9,19 +9,10 @@ using controls::OverlayControl;
 using test::DesignWindow;
 using test::placeOf;
 
-constexpr QPoint Middle(65, 15); // of a new bar graph, 130 pixels by 30
-
-struct Group : testing::Test
+struct Group : test::Bars
 {
-    DesignWindow w;
-    BarGraph &one = w.addBar(100, 100);
-    BarGraph &two = w.addBar(100, 200);
     BarGraph &three = w.addBar(300, 200);
 
-    void ctrlClick(const OverlayControl &control)
-    {
-        test::click(w, placeOf(control) + Middle, Qt::ControlModifier);
-    }
     // Presses a control and leads it through `way`, without a release.
     void grab(const OverlayControl &control, const QList<QPoint> &way, Qt::KeyboardModifiers keys = {})
     {
@@ -31,7 +22,6 @@ struct Group : testing::Test
             QTest::mouseMove(&w.canvas(), from + step);
     }
     void letGo(QPoint at) { QTest::mouseRelease(&w.canvas(), Qt::LeftButton, {}, at); }
-    QList<QPoint> places() { return {placeOf(one), placeOf(two), placeOf(three)}; }
 };
 
 TEST_F(Group, MembersFollowTheDraggedOneAsFarAsTheCanvasGoes)
@@ -44,11 +34,11 @@ TEST_F(Group, MembersFollowTheDraggedOneAsFarAsTheCanvasGoes)
         QPoint way;
         QList<QPoint> places;
     } drags[] = {
-        {{5, 5}, {{100, 100}, {100, 200}, {300, 200}}}, // jitter
-        {{40, -20}, {{140, 80}, {140, 180}, {340, 180}}},
-        {{300, 0}, {{440, 80}, {440, 180}, {590, 180}}}, // the third stays at the edge
-        {{-340, 0}, {{100, 80}, {100, 180}, {250, 180}}},
-        {{0, -150}, {{100, 0}, {100, 100}, {250, 100}}}, // so does the first, whom the others follow
+        {{5, 5}, {{100, 100}, {150, 180}, {300, 200}}}, // jitter
+        {{40, -20}, {{140, 80}, {190, 160}, {340, 180}}},
+        {{300, 0}, {{440, 80}, {490, 160}, {590, 180}}}, // the third stays at the edge
+        {{-340, 0}, {{100, 80}, {150, 160}, {250, 180}}},
+        {{0, -150}, {{100, 0}, {150, 80}, {250, 100}}}, // so does the first, whom the others follow
     };
     for (const auto &[way, expected] : drags) {
         // The first press puts it into the group, too.
