@@ -38,6 +38,13 @@ float innerHeight(const Box &box, const platform::Screen &screen)
     return screen.toPixelsY(box.Height - BothFrames);
 }
 
+Box shrunk(const Box &box, const QMarginsF &margins)
+{
+    const QRectF inner = QRectF(box.Left, box.Top, box.Width, box.Height).marginsRemoved(margins);
+    return {static_cast<float>(inner.x()), static_cast<float>(inner.y()), static_cast<float>(inner.width()),
+            static_cast<float>(inner.height())};
+}
+
 Box framed(const QRectF &content, const platform::Screen &screen)
 {
     return {screen.toTwipsX(static_cast<float>(content.x())) - FrameTwips,

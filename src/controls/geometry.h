@@ -3,6 +3,7 @@
 #include "platform/screen.h"
 #include "recorder/recorder_settings.h"
 
+#include <QMarginsF>
 #include <QPointF>
 #include <QRect>
 
@@ -35,6 +36,8 @@ QRect pixelRect(const Box &box, const platform::Screen &screen);
 // The extent of what lies within the frame, canvas pixels.
 float innerWidth(const Box &box, const platform::Screen &screen);
 float innerHeight(const Box &box, const platform::Screen &screen);
+// The box less these margins, twips; negative ones enlarge it.
+Box shrunk(const Box &box, const QMarginsF &margins);
 // The box of a control whose content stands here, canvas pixels.
 Box framed(const QRectF &content, const platform::Screen &screen);
 

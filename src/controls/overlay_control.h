@@ -61,6 +61,8 @@ public:
     virtual void fitCanvasHeight(float height);
     // How far the control may stand outside the canvas when it is dragged or placed, twips.
     virtual QMarginsF overhang() const { return {}; }
+    // How far within its box the recorder's picture of it stands, twips.
+    virtual QMarginsF margins() const { return {FrameTwips, FrameTwips, FrameTwips, FrameTwips}; }
     // An arrow key: changes the position property by (dx, dy) canvas pixels and has the host reposition it.
     virtual void nudge(int dx, int dy) = 0;
     // The box on the canvas, the part of it within the frame, and all that the control covers, canvas pixels.

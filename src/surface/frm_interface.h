@@ -146,7 +146,8 @@ private:
     void setPlayMode(bool playMode);
     void showCanvasMenu(const QPoint &globalPosition);
     controls::OverlayControl &paste(const CopiedControl &copied);
-    void rearrange(const ControlList &group, const QList<Box> &boxes);
+    // Moves each so that the recorder's picture of it stands here.
+    void rearrange(const ControlList &group, const QList<Box> &pictures);
     void connectCanvas();
     // Adds a control that `fill` gives its properties.
     void addFilled(controls::ControlType family, QPointF twips,

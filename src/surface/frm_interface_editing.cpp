@@ -87,27 +87,29 @@ void frmInterface::showCanvasMenu(const QPoint &globalPosition)
 
 namespace {
 
-QList<Box> boxesOf(const ControlList &group)
+// Where the recorder draws each.
+QList<Box> picturesOf(const ControlList &group)
 {
-    QList<Box> boxes;
+    QList<Box> pictures;
     for (const OverlayControl *control : group)
-        boxes.append(control->box());
-    return boxes;
+        pictures.append(controls::shrunk(control->box(), control->margins()));
+    return pictures;
 }
 
 } // namespace
 
-void frmInterface::align(Qt::Edge edge) { rearrange(group(), aligned(boxesOf(group()), edge)); }
+void frmInterface::align(Qt::Edge edge) { rearrange(group(), aligned(picturesOf(group()), edge)); }
 
 void frmInterface::spaceEqually(Qt::Orientation along)
 {
-    rearrange(group(), spaced(boxesOf(group()), along));
+    rearrange(group(), spaced(picturesOf(group()), along));
 }
 
-void frmInterface::rearrange(const ControlList &group, const QList<Box> &boxes)
+void frmInterface::rearrange(const ControlList &group, const QList<Box> &pictures)
 {
     for (qsizetype i = 0; i < group.size(); ++i) {
-        const QPoint corner = controls::pixelRect(boxes[i], screen()).topLeft();
+        const Box box = controls::shrunk(pictures[i], -group[i]->margins());
+        const QPoint corner = controls::pixelRect(box, screen()).topLeft();
         MoveTo(*group[i], screen().toTwips(QPointF(corner)), rules());
     }
     emit designChanged();

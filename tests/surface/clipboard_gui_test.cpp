@@ -114,6 +114,17 @@ TEST_F(Pasting, EdgesOfAGroupAreAligned)
     EXPECT_EQ(one.get().curLeft, 2325);
 }
 
+// What the recorder draws of them, wherever their boxes end.
+TEST_F(Pasting, PicturesOfAMixedGroupAreAligned)
+{
+    w.design().addControl(ControlType::VideoSource, {15 * 160, 15 * 320});
+    w.design().controls().last()->write("newLeftBorderWidth", 8); // cropped off
+    w.design().addControl(ControlType::TrackMap, {15 * 300, 15 * 400});
+    test::press(w, Qt::Key_A, Qt::ControlModifier);
+    w.run("mnuAlignLeft");
+    EXPECT_EQ(places(), (QList<QPoint>{{100, 100}, {100, 180}, {97, 320}, {105, 400}}));
+}
+
 TEST_F(Pasting, ABitmapIsPastedWithItsPictureWhileItsSourceLives)
 {
     w.design().addControl(ControlType::Bitmap, {4500, 4500});

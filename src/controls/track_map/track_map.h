@@ -50,6 +50,7 @@ public:
     void applyInitialProperties() override;
     QSizeF startSize() const override { return {1650, 1650}; }
     void paint(Composition &onto) const override;
+    QMarginsF margins() const override { return {}; }
     QRect drawnArea() const override { return outerRect(); }
     double complexity() const override;
 

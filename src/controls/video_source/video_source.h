@@ -55,6 +55,8 @@ public:
     void standardChanged() override;
     void fitCanvasHeight(float height) override;
     QMarginsF overhang() const override;
+    // What is cropped off; nothing of the background's marker.
+    QMarginsF margins() const override { return isFullFrame() ? QMarginsF() : overhang(); }
     void applyInitialProperties() override;
     QSizeF startSize() const override;
     void paint(Composition &onto) const override;
