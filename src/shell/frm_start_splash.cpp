@@ -4,6 +4,7 @@
 #include "platform/product.h"
 #include "shell/version.h"
 
+#include <QBitmap>
 #include <QLabel>
 #include <QPainter>
 
@@ -30,8 +31,9 @@ frmStartSplash::frmStartSplash(const platform::Folders &folders, QWidget *owner)
     const QString replacement = folders.program + u"Splash.jpg"_s;
     m_picture = QPixmap::fromImage(graphics::loadPicture(replacement).picture);
     if (m_picture.isNull())
-        m_picture.load(u":/splash.jpg"_s);
+        m_picture.load(u":/splash.png"_s);
     setFixedSize(m_picture.size());
+    setMask(QBitmap::fromImage(m_picture.toImage().createAlphaMask()));
     setWindowTitle(owner ? u"About Us"_s : platform::ProductTitle);
     QLabel *version = addLabel(u"VERSION   "_s + programVersion());
     version->move(Margin, height() - 44);
@@ -64,7 +66,12 @@ void frmStartSplash::showLicences(const QWidget &owner, QLabel &version)
     move(owner.frameGeometry().center() - rect().center());
 }
 
-void frmStartSplash::paintEvent(QPaintEvent *) { QPainter(this).drawPixmap(0, 0, m_picture); }
+void frmStartSplash::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::black); // shows through along the edge of the picture
+    painter.drawPixmap(0, 0, m_picture);
+}
 
 void frmStartSplash::mousePressEvent(QMouseEvent *) { accept(); }
 

@@ -8,8 +8,8 @@ class QLabel;
 
 namespace shell {
 
-// The splash picture with the version; a press closes it. With an owner it is
-// the "About Us" window, which names the licences, too.
+// The splash picture with the version, as a window of the picture's outline; a press closes it. With an owner
+// it is the "About Us" window, which names the licences, too.
 class frmStartSplash final : public QDialog
 {
     Q_OBJECT

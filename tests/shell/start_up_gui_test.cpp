@@ -1,6 +1,7 @@
 #include "layoutfile/layout_file.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
+#include "shell/frm_start_splash.h"
 #include "shell/start_up.h"
 #include "support/design_window.h"
 #include "surface/library_panel.h"
@@ -184,6 +185,20 @@ TEST_F(Start, AClosedPanelStaysClosedAndKeepsItsBarUntilTheViewMenuBringsItBack)
         action("mnuPanelLibrary").trigger();
     }
     EXPECT_EQ(library()->sizes(), sizes);
+}
+
+TEST(Splash, HasTheOutlineOfItsPicture)
+{
+    test::World world;
+    const shell::frmStartSplash rounded(world.state.folders, nullptr);
+    EXPECT_TRUE(rounded.mask().contains(rounded.rect().center()));
+    EXPECT_FALSE(rounded.mask().contains(QPoint(1, 1)));
+    QImage square(40, 30, QImage::Format_RGB32);
+    square.fill(Qt::white);
+    square.save(world.state.folders.program + "Splash.jpg");
+    const shell::frmStartSplash plain(world.state.folders, nullptr);
+    EXPECT_EQ(plain.size(), square.size());
+    EXPECT_TRUE(plain.mask().isEmpty()); // all of it
 }
 
 } // namespace
