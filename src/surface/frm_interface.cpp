@@ -103,8 +103,7 @@ void frmInterface::addFilled(controls::ControlType family, QPointF twips,
                              const std::function<void(OverlayControl &)> &fill)
 {
     OverlayControl &control = loadControl(family);
-    const QSizeF size = control.startSize();
-    control.setBox({0, 0, static_cast<float>(size.width()), static_cast<float>(size.height())});
+    setStartSize(control, {});
     MoveTo(control, twips, rules());
     skipFailures([&] { fill(control); });
     MoveTo(control, cornerOf(control), rules()); // the properties may have sized it

@@ -4,6 +4,7 @@
 #include "graphics/picture_loader.h"
 #include "platform/guards.h"
 #include "surface/overlay_picture.h"
+#include "surface/placing.h"
 
 #include <QFileInfo>
 
@@ -54,25 +55,11 @@ private:
     ControlHost &m_host;
 };
 
-void setStartSize(OverlayControl &control, const Box &place)
-{
-    const QSizeF size = control.startSize();
-    control.setBox(
-        {place.Left, place.Top, static_cast<float>(size.width()), static_cast<float>(size.height())});
-}
-
-void moveTo(OverlayControl &control, QPoint corner)
-{
-    const QPointF twips = control.host().screen().toTwips(QPointF(corner));
-    control.moveTo(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
-    control.updatePosition();
-}
-
 // The control alone, as the recorder would draw it.
 QImage picture(OverlayControl &control)
 {
-    moveTo(control, {0, 0});
-    moveTo(control, -control.area().topLeft());
+    place(control, {});
+    place(control, control.host().screen().toTwips(QPointF(-control.area().topLeft())));
     QImage ground(control.area().size().boundedTo(LargestShown).expandedTo({1, 1}), QImage::Format_RGB32);
     ground.fill(Plate);
     return overlayPicture(ground, {&control});
@@ -111,13 +98,14 @@ void fillStandard(OverlayControl &control)
 
 void fillConfigured(OverlayControl &control, const QStringList &texts)
 {
-    const Box place = control.box();
+    const QPointF corner = cornerOf(control);
     if (platform::skipFailures([&] { control.Deserialise(texts); }) &&
         isUsual(control.box(), control.host().screen())) {
-        control.moveTo(place.Left, place.Top); // some texts hold another one
+        // Some texts hold another one.
+        control.moveTo(static_cast<float>(corner.x()), static_cast<float>(corner.y()));
         return;
     }
-    setStartSize(control, place);
+    setStartSize(control, corner);
     control.applyInitialProperties();
 }
 

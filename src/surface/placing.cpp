@@ -4,6 +4,13 @@ namespace surface {
 
 using controls::OverlayControl;
 
+void setStartSize(OverlayControl &control, QPointF corner)
+{
+    control.setBox({static_cast<float>(corner.x()), static_cast<float>(corner.y()),
+                    static_cast<float>(control.startSize().width()),
+                    static_cast<float>(control.startSize().height())});
+}
+
 void place(OverlayControl &control, QPointF corner)
 {
     control.moveTo(static_cast<float>(corner.x()), static_cast<float>(corner.y()));

@@ -11,6 +11,8 @@ inline QPointF cornerOf(const controls::OverlayControl &control)
     return {control.box().Left, control.box().Top};
 }
 
+// Gives a control that was just created its start size, with its corner there (twips).
+void setStartSize(controls::OverlayControl &control, QPointF corner);
 // Moves the control's corner there (twips), and its position property with it.
 void place(controls::OverlayControl &control, QPointF corner);
 // The same, as far as the canvas lets it.
