@@ -2,6 +2,8 @@
 
 #include "forms/numeric_keys.h"
 
+#include <QRegularExpressionValidator>
+
 namespace forms {
 
 namespace {
@@ -43,6 +45,12 @@ NumberField::NumberField(const char *name, const QString &decimalMark)
       })
 {
     new NumericKeys(&box(), decimalMark);
+}
+
+void NumberField::requireDigits()
+{
+    const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    box().setValidator(new QRegularExpressionValidator(digits, &box()));
 }
 
 void NumberField::show(double number) { TextField::show(m_format(number)); }

@@ -54,6 +54,8 @@ public:
 
     // Takes no text that is not a number in whole from now on; else what can be read of it counts.
     void requireNumber() { m_parse = &common::requireNumber; }
+    // Takes no other keys than digits from now on.
+    void requireDigits();
     // Another way to write a number than the plain one.
     void setFormat(std::function<QString(double)> format) { m_format = std::move(format); }
 

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QRegularExpressionValidator>
 
 #include <algorithm>
 
@@ -71,10 +70,8 @@ frmOptions::frmOptions(surface::frmInterface &design, const forms::Context &cont
 {
     using V = Options;
     addGroup("Grid");
-    auto &size =
-        number([](auto &v) -> auto & { return v.grid.spacing; }, {"txtGridSize", "&Grid Size", "twips"});
-    const QRegularExpression digits(u"[0-9]*"_s);
-    size.box().setValidator(new QRegularExpressionValidator(digits, this));
+    number([](auto &v) -> auto & { return v.grid.spacing; }, {"txtGridSize", "&Grid Size", "twips"})
+        .requireDigits();
     check(
         [](auto &v) -> auto & { return v.grid.shown; }, "chkShowGrid", "&Show Grid");
     check(
