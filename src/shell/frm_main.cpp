@@ -174,32 +174,29 @@ void frmMain::makeStatusBar()
     m_bitRate->setVisible(platform::personality() == platform::Personality::MORVEL);
 }
 
+template <typename Signal>
+void frmMain::addPopup(QMenu &popup, const char *name, unsigned place, Signal requested)
+{
+    popup.setObjectName(QLatin1String(name));
+    fill(popup, place);
+    connect(m_design, requested, this, [&popup](const QPoint &position) { popup.popup(position); });
+}
+
 void frmMain::makePopups()
 {
-    m_canvasPopup.setObjectName(u"mnuDropDown"_s);
+    using Design = surface::frmInterface;
     QMenu *add = m_canvasPopup.addMenu(u"&Add Control"_s);
     add->setObjectName(u"mnuDDAddControl"_s);
     fillAddMenu(*add, u"mnuDD"_s);
-    fill(m_canvasPopup, CanvasPopup);
+    addPopup(m_canvasPopup, "mnuDropDown", CanvasPopup, &Design::canvasMenuRequested);
     fill(m_design->canvas(), CanvasPopup);
-    connect(m_design, &surface::frmInterface::canvasMenuRequested, this,
-            [this](const QPoint &position) { m_canvasPopup.popup(position); });
-    m_controlPopup.setObjectName(u"mnuDropDown3"_s);
-    fill(m_controlPopup, ControlPopup);
-    connect(m_design, &surface::frmInterface::controlMenuRequested, this,
-            [this](const QPoint &position) { m_controlPopup.popup(position); });
-    m_groupPopup.setObjectName(u"mnuGroupControl"_s);
-    fill(m_groupPopup, GroupPopup);
-    connect(m_design, &surface::frmInterface::groupMenuRequested, this,
-            [this](const QPoint &position, bool pastes) {
-                m_groupMenuPastes = pastes;
-                refreshFromState();
-                m_groupPopup.popup(position);
-            });
-    m_libraryPopup.setObjectName(u"mnuControl"_s);
-    fill(m_libraryPopup, LibraryPopup);
-    connect(m_design, &surface::frmInterface::libraryMenuRequested, this,
-            [this](const QPoint &position) { m_libraryPopup.popup(position); });
+    addPopup(m_controlPopup, "mnuDropDown3", ControlPopup, &Design::controlMenuRequested);
+    connect(m_design, &Design::groupMenuRequested, this, [this](const QPoint &, bool pastes) {
+        m_groupMenuPastes = pastes;
+        refreshFromState(); // before it opens
+    });
+    addPopup(m_groupPopup, "mnuGroupControl", GroupPopup, &Design::groupMenuRequested);
+    addPopup(m_libraryPopup, "mnuControl", LibraryPopup, &Design::libraryMenuRequested);
 }
 
 void frmMain::refreshFromState()

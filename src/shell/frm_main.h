@@ -54,6 +54,9 @@ private:
     void makeToolbar();
     void makeStatusBar();
     void makePopups();
+    // A popup with the entries of this place; it opens where the design window requests it.
+    template <typename Signal>
+    void addPopup(QMenu &popup, const char *name, unsigned place, Signal requested);
     void fill(QWidget &menu, unsigned place);
     void fillAddMenu(QMenu &menu, const QString &prefix);
 
