@@ -92,6 +92,30 @@ TEST_F(Library, AnEntryIsDefinedRenamedPlacedAndDeleted)
     EXPECT_FALSE(QFile::exists(folders.cache + "05365235900.bmp"));
 }
 
+TEST_F(Library, WhatIsRefusedLeavesTheEntriesAsTheyAre)
+{
+    constexpr int Gauges = 5;
+    OverlayControl &gauge = w.addGauge(100, 100);
+    define(gauge, "fast");
+    define(gauge, "slow");
+    entries(Gauges);
+    tree.setCurrentItem(tree.topLevelItem(Gauges)->child(0));
+    w.world.prompts.expectInput("slow");
+    w.world.prompts.expectMessage("Control name already exists");
+    press(Qt::Key_F2);
+    w.world.prompts.expectQuestion("Are you sure you wish to delete ?", false);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(entries(Gauges), (QStringList{"fast", "slow"}));
+
+    const QStringList thumbnails = files(folders.cache);
+    QFile::remove(folders.ControlConfigFile());
+    QDir().mkpath(folders.ControlConfigFile()); // where no file can be written
+    define(gauge, "third",
+           "The command could not be completed.\n" + folders.ControlConfigFile() + ": not a regular file");
+    EXPECT_EQ(entries(Gauges), (QStringList{"fast", "slow"}));
+    EXPECT_EQ(files(folders.cache), thumbnails);
+}
+
 TEST_F(Library, AnEntryAndWhatIsMadeOfItHaveTheirOwnPictures)
 {
     constexpr int Bitmaps = 1;

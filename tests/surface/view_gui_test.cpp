@@ -71,6 +71,19 @@ TEST(View, TheWheelZoomsAroundThePointer)
     EXPECT_FALSE(w.action("mnuZoomFit").isChecked());
 }
 
+TEST(View, AFitThatWasChosenBeforeTheFirstSizeIsMadeUpFor)
+{
+    auto &canvas = *new surface::Canvas;
+    surface::CanvasView view(canvas);
+    view.setFitting(true);
+    view.reveal({0, 0, 9, 9});
+    EXPECT_EQ(view.zoom(), 100);
+    canvas.display({}, {}, true);
+    view.resize(500, 400);
+    view.show();
+    EXPECT_EQ(view.zoom(), surface::fittingZoom({720, 576}, view.maximumViewportSize()));
+}
+
 TEST(View, WholeFactorsShowEachPixelOfThePictureAsItIs)
 {
     DesignWindow w;
