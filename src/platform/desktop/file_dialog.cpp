@@ -3,10 +3,12 @@
 #include <QDir>
 #include <QFileIconProvider>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QStorageInfo>
+#include <QTreeView>
 #include <QUrl>
 
 namespace platform {
@@ -79,8 +81,21 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
         addPreview(request.preview);
     constexpr QSize WithoutPreview(820, 460);
     resize(WithoutPreview + QSize(request.preview ? PreviewSize.width() : 0, 0));
+    showWholeColumns();
     if (auto *splitter = findChild<QSplitter *>())
         splitter->setSizes({160, width() - 160}); // the names of volumes are read, not guessed
+}
+
+// Sizes and dates in full; the names take what is left.
+void FileDialog::showWholeColumns()
+{
+    const auto *list = findChild<QTreeView *>(u"treeView"_s);
+    if (!list)
+        return;
+    QHeaderView &header = *list->header();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 void FileDialog::addPreview(const std::function<QImage(const QString &)> &preview)

@@ -20,6 +20,7 @@ public:
     QString chosenFile();
 
 private:
+    void showWholeColumns();
     void addPreview(const std::function<QImage(const QString &)> &preview);
     void showPreview(const QImage &picture);
 
