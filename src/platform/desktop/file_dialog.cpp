@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QStorageInfo>
@@ -80,7 +81,8 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
     if (request.preview)
         addPreview(request.preview);
     constexpr QSize WithoutPreview(820, 460);
-    resize(WithoutPreview + QSize(request.preview ? PreviewSize.width() : 0, 0));
+    const QSize wanted = WithoutPreview + QSize(request.preview ? PreviewSize.width() : 0, 0);
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
     showWholeColumns();
     if (auto *splitter = findChild<QSplitter *>())
         splitter->setSizes({160, width() - 160}); // the names of volumes are read, not guessed
