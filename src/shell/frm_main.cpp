@@ -51,6 +51,7 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     makeStatusBar();
     makePopups();
     setCentralWidget(m_design);
+    m_design->canvas().setFocus(); // the keys work on the design from the start
     connect(m_design, &surface::frmInterface::positionShown, m_position, &QLabel::setText);
     connect(m_design, &surface::frmInterface::currentShown, m_current, &ElidedLabel::setText);
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
