@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMouseEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -40,6 +41,13 @@ platform::Folders seededFolders(const QTemporaryDir &root)
     return folders;
 }
 
+void showExposed(QWidget &window)
+{
+    window.show();
+    while (!window.windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 Program::Program()
 {
     m_state.folders = seededFolders(m_root);
@@ -52,7 +60,7 @@ Program::Program()
     design().load();
     m_window->refreshFromState();
     m_window->resize(1440, 900);
-    m_window->show();
+    showExposed(*m_window);
     m_window->activateWindow();
     QApplication::processEvents();
 }

@@ -34,6 +34,9 @@ void choosePlatform();
 // Folders in `root` that hold a new user's data, as the launcher leaves it.
 platform::Folders seededFolders(const QTemporaryDir &root);
 
+// Shows a window and waits until it is painted on: a real display takes its time.
+void showExposed(QWidget &window);
+
 // The program as it stands after a first start, its window shown.
 class Program
 {

@@ -52,7 +52,7 @@ public:
             widget->setAttribute(Qt::WA_OpaquePaintEvent);
             widget->setGeometry(control->outerRect());
         }
-        show();
+        bench::showExposed(*this);
         QApplication::processEvents();
     }
 
