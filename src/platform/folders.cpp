@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 namespace platform {
 
@@ -57,6 +58,15 @@ QString Folders::inTemporary(const char *name) const
     return temporary + QLatin1String(name);
 }
 
+QString Folders::inNewSharedFolder(const char *name) const
+{
+    if (shared.isEmpty())
+        return {};
+    QTemporaryDir folder(shared + u"morvel-XXXXXX"_s);
+    folder.setAutoRemove(false);
+    return folder.isValid() ? folder.filePath(QLatin1String(name)) : QString();
+}
+
 Folders desktopFolders(const QString &programFolder)
 {
     using Paths = QStandardPaths;
@@ -65,6 +75,7 @@ Folders desktopFolders(const QString &programFolder)
     folders.applicationData = withSeparator(applicationDataRoot());
     folders.cache = privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), u"morvel-config"_s);
     folders.temporary = privateFolder(folders.cache, u"temporary"_s);
+    folders.shared = withSeparator(QDir::tempPath());
     return folders;
 }
 

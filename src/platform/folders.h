@@ -15,6 +15,7 @@ struct Folders
     QString applicationData; // per-user root of all applications' data; empty when the system names none
     QString temporary;       // private to this user
     QString cache;           // thumbnails; wiped at start and at exit
+    QString shared;          // the system's temporary folder, often on another volume than the others
 
     // The per-user data folder: "hVault" when the marker file stands one level above the program, else
     // "Torvane". The empty text when there is no application data folder. Looked up at every call.
@@ -38,6 +39,8 @@ struct Folders
     QString inUserData(const char *name) const { return GetAppDataFolder() + QLatin1String(name); }
     // The temporary folder is made again when somebody who clears caches has taken it away.
     QString inTemporary(const char *name) const;
+    // In a new folder of the shared one, private to this user; the empty text where none can be made.
+    QString inNewSharedFolder(const char *name) const;
 };
 
 // The folders of the running program; creates the temporary and the cache folder, readable by this user only.

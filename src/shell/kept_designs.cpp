@@ -63,7 +63,10 @@ QString keepAnywhere(const QByteArray &layout, const Folders &folders)
     if (platform::skipFailures([&] { keepAsBackup(layout, folders); }))
         return newestBackup(folders);
     const QString temporary = folders.inTemporary(Folders::WorkspaceName);
-    return written(temporary, layout) ? temporary : QString();
+    if (written(temporary, layout))
+        return temporary;
+    const QString shared = folders.inNewSharedFolder(Folders::WorkspaceName);
+    return !shared.isEmpty() && written(shared, layout) ? shared : QString();
 }
 
 QByteArray leftToRecover(const Folders &folders)

@@ -16,7 +16,7 @@ platform::Standing keepAsBackup(const QByteArray &layout, const platform::Folder
 platform::Standing keepAsWorkspace(const QByteArray &layout, const platform::Folders &folders);
 
 // Where a design that could not become the workspace was written: the newest backup, else a file in the
-// temporary folder; empty when neither could be written.
+// user's or the system's temporary folder; empty when none could be written.
 QString keepAnywhere(const QByteArray &layout, const platform::Folders &folders);
 
 // The whole layout that an earlier run has left in the recovery file; empty for none.

@@ -2,7 +2,8 @@
 #include "shell/termination.h"
 #include "support/design_window.h"
 
-#include <QDir>
+#include <QDirIterator>
+#include <QTemporaryDir>
 
 #include <csignal>
 
@@ -107,6 +108,14 @@ TEST_F(FileCommands, AWorkspaceThatCannotBeSavedIsKeptElsewhereOrKeepsTheWindowO
         QFile::remove(place);
         QDir().mkpath(place);
     }
+    // The volume of the user's folders takes nothing any more, but another one does.
+    QTemporaryDir other;
+    w.world.state.folders.shared = other.path() + '/';
+    prompts.expectMessage({});
+    EXPECT_EQ(w.window.files().saveWorkspace(), Parting::DesignIsSafe);
+    QDirIterator kept(other.path(), {"MORVELWorkspace.VGL"}, QDir::Files, QDirIterator::Subdirectories);
+    EXPECT_EQ(count(kept.next()), 1);
+    w.world.state.folders.shared.clear();
     prompts.expectQuestion(Clear, true);
     prompts.expectMessage({}); // no backup, no new design
     w.run("mnuNew");

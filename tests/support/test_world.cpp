@@ -10,7 +10,7 @@ World::World()
         QDir().mkpath(root.filePath(name));
         return root.filePath(name) + '/';
     };
-    state.folders = {folder("program"), folder("data"), folder("temporary"), folder("cache")};
+    state.folders = {folder("program"), folder("data"), folder("temporary"), folder("cache"), {}};
     QDir().mkpath(state.folders.GetAppDataFolder());
     state.stamp = {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, "driver", "pitwall"};
     addVariable(2, "Speed");

@@ -33,8 +33,11 @@ public:
     Workshop(const QString &programFolder, const platform::Stamp &stamp)
     {
         const QString home = m_home.path();
-        m_state.folders = {programFolder + QLatin1Char('/'), home + QLatin1String("/data/"),
-                           home + QLatin1String("/temporary/"), home + QLatin1String("/cache/")};
+        m_state.folders = {programFolder + QLatin1Char('/'),
+                           home + QLatin1String("/data/"),
+                           home + QLatin1String("/temporary/"),
+                           home + QLatin1String("/cache/"),
+                           {}};
         m_state.stamp = stamp;
         const platform::Folders &folders = m_state.folders;
         shell::seedUserData(folders, shell::shippedFiles(folders));
