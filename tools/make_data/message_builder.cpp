@@ -1,5 +1,8 @@
 #include "make_data/message_builder.h"
 
+#include "recorder/message_rates.h"
+
+#include <algorithm>
 #include <bitset>
 
 namespace make_data {
@@ -10,26 +13,6 @@ constexpr int MessageCells = 5;
 constexpr int LongestName = 50;
 constexpr int LastKind = 2;
 constexpr auto Disabled = static_cast<quint8>(recorder::RateCode::Disabled);
-
-// The texts of the rate codes, in their order.
-const QStringList &rateTexts(quint8 kind)
-{
-    static const QStringList stream{
-        QStringLiteral("100Hz"), QStringLiteral("50Hz"),    QStringLiteral("25Hz"),  QStringLiteral("10Hz"),
-        QStringLiteral("5Hz"),   QStringLiteral("1Hz"),     QStringLiteral("0.5Hz"), QStringLiteral("0.2Hz"),
-        QStringLiteral("0.1Hz"), QStringLiteral("Disabled")};
-    static const QStringList event{QStringLiteral("On"), QStringLiteral("Off")};
-    return kind == 0 ? stream : event;
-}
-
-quint8 rateCode(RowReader &row, const QString &text, quint8 kind)
-{
-    const QStringList &texts = rateTexts(kind);
-    const qsizetype code = texts.indexOf(text);
-    if (code < 0)
-        row.complain(QStringLiteral("\"%1\" is no rate of a message of kind %2").arg(text).arg(kind));
-    return code == texts.size() - 1 ? Disabled : static_cast<quint8>(code);
-}
 
 recorder::MessageEntry entry(RowReader &row, quint8 number)
 {
@@ -47,6 +30,16 @@ recorder::MessageEntry entry(RowReader &row, quint8 number)
 }
 
 } // namespace
+
+quint8 rateCode(RowReader &row, const QString &text, quint8 kind)
+{
+    const forms::Choices rates = recorder::rateChoices(kind);
+    const auto rate = std::ranges::find(rates, text, &forms::Choice::text);
+    if (rate != rates.end())
+        return static_cast<quint8>(rate->value);
+    row.complain(QStringLiteral("\"%1\" is no rate of a message of kind %2").arg(text).arg(kind));
+    return Disabled;
+}
 
 recorder::MessageTable buildMessages(const TextTable &table, Problems &problems)
 {

@@ -1,7 +1,7 @@
 #include "make_layouts/recorder_row.h"
 
+#include "make_data/message_builder.h"
 #include "recorder/bit_rate.h"
-#include "recorder/message_rates.h"
 
 #include <algorithm>
 
@@ -12,7 +12,6 @@ namespace {
 using recorder::RecorderSettings;
 using recorder::RecordingTrigger;
 
-constexpr int MostGears = 7;
 constexpr int LongestTime = 255;
 
 const QStringList Patterns{QStringLiteral("I"), QStringLiteral("IP"), QStringLiteral("IPB")};
@@ -76,7 +75,7 @@ void takeLapChapters(RowReader &row, Workbench &bench)
 // The last row says how many gears there are.
 void takeGear(RowReader &row, Workbench &bench)
 {
-    bench.settings.GearTable.resize(byteFrom(row, 1, 1, MostGears));
+    bench.settings.GearTable.resize(byteFrom(row, 1, 1, static_cast<int>(recorder::MostGears)));
     bench.settings.GearTable.back() = {row.number(row.text(2)), row.number(row.text(3))};
 }
 
@@ -93,15 +92,8 @@ void takeMessage(RowReader &row, Workbench &bench)
         row.complain(QStringLiteral("there is no message \"%1\"").arg(row.text(1)));
         return;
     }
-    const auto rate = [&](qsizetype cell) {
-        const forms::Choices choices = recorder::rateChoices(entry->kind);
-        const auto choice = std::ranges::find(choices, row.text(cell), &forms::Choice::text);
-        if (choice == choices.end())
-            row.complain(QStringLiteral("\"%1\" is no rate of this message").arg(row.text(cell)));
-        return static_cast<quint8>(choice == choices.end() ? 0 : choice->value);
-    };
-    entry->storageRate = rate(2);
-    entry->outputRate = rate(3);
+    entry->storageRate = make_data::rateCode(row, row.text(2), entry->kind);
+    entry->outputRate = make_data::rateCode(row, row.text(3), entry->kind);
 }
 
 void takeUnit(RowReader &row, Workbench &bench)
