@@ -109,7 +109,7 @@ private:
         m_indices.enter(row, row.text(0), QString::number(index));
         m_physicalNames.enter(row, row.text(1), lookUpKey(row.text(1)));
         m_baseNames.enter(row, row.text(2), lookUpKey(row.text(2)));
-        m_catalogue.live[static_cast<std::size_t>(index)] = record(row, index);
+        m_catalogue.live[index] = record(row, index);
     }
 
     VariableRecord record(RowReader &row, int index)
@@ -186,7 +186,6 @@ variables::Catalogue buildCatalogue(const TextTable &units, const TextTable &var
     for (const Row &row : variableRows.rows)
         builder.addRow(row);
     variables::SetupVariables(catalogue);
-    catalogue.staging = catalogue.live;
     return catalogue;
 }
 

@@ -14,13 +14,18 @@ Row toRow(const QString &text, int line)
 {
     if (text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']')))
         return {line, true, {text.sliced(1, text.size() - 2).trimmed()}};
-    QStringList cells = text.split(QLatin1Char('|'));
-    for (QString &cell : cells)
-        cell = cell.trimmed();
-    return {line, false, cells};
+    return {line, false, cellsOf(text)};
 }
 
 } // namespace
+
+QStringList cellsOf(const QString &line)
+{
+    QStringList cells = line.split(QLatin1Char('|'));
+    for (QString &cell : cells)
+        cell = cell.trimmed();
+    return cells;
+}
 
 void Problems::add(const QString &path, int line, const QString &message)
 {

@@ -21,12 +21,15 @@ private:
     QStringList m_lines;
 };
 
+// What stands between the "|" of a line, without blanks at the ends.
+QStringList cellsOf(const QString &line);
+
 // A line of cells between "|", or a heading: one cell, the text between the square brackets.
 struct Row
 {
     int line = 0; // from 1
     bool isHeading = false;
-    QStringList cells; // without blanks at their ends
+    QStringList cells;
 };
 
 struct TextTable

@@ -100,14 +100,6 @@ const Family *familyCalled(const QString &caption)
     return found == all.end() ? nullptr : &*found;
 }
 
-QStringList cellsOf(const QString &heading)
-{
-    QStringList cells = heading.split(QLatin1Char('|'));
-    for (QString &cell : cells)
-        cell = cell.trimmed();
-    return cells;
-}
-
 void takeRows(const TextTable &text, Workbench bench, Problems &problems)
 {
     QStringList heading;
@@ -115,7 +107,7 @@ void takeRows(const TextTable &text, Workbench bench, Problems &problems)
     for (const make_data::Row &source : text.rows) {
         RowReader row(text, source, problems);
         if (source.isHeading) {
-            heading = cellsOf(row.text(0));
+            heading = make_data::cellsOf(row.text(0));
             family = familyCalled(heading[0]);
             if (!family && heading[0] != QLatin1String("Recorder"))
                 row.complain(QStringLiteral("there is no family \"%1\"").arg(heading[0]));
