@@ -25,6 +25,20 @@ QLabel *makeCaption(const char *text)
     return label;
 }
 
+// Where the desktop's order of buttons puts it.
+QDialogButtonBox::ButtonRole roleOf(Press press)
+{
+    switch (press) {
+    case Press::Apply:
+        return QDialogButtonBox::ActionRole;
+    case Press::Accept:
+        return QDialogButtonBox::AcceptRole;
+    case Press::Cancel:
+        break;
+    }
+    return QDialogButtonBox::RejectRole;
+}
+
 // Rows may stand without a group.
 void beginRows(QFormLayout *&form, QVBoxLayout &body)
 {
@@ -164,9 +178,7 @@ void Dialog::addButtons(const std::vector<Button> &buttons)
         push->setAutoDefault(false);
         push->setDefault(std::exchange(first, false));
         connect(push, &QPushButton::clicked, this, [this, what = button.press] { press(what); });
-        box->addButton(push, button.press == Press::Cancel   ? QDialogButtonBox::RejectRole
-                             : button.press == Press::Accept ? QDialogButtonBox::AcceptRole
-                                                             : QDialogButtonBox::ActionRole);
+        box->addButton(push, roleOf(button.press));
     }
     arrangeColumns();
     layout()->addWidget(box);
@@ -282,8 +294,6 @@ bool Dialog::isConfirmed(const Verdict &verdict)
         return false;
     case Verdict::Kind::OkCancel:
         return prompts().confirm(verdict.icon, platform::ProductTitle, verdict.text);
-    case Verdict::Kind::YesNo:
-        return prompts().ask(verdict.icon, platform::ProductTitle, verdict.text);
     case Verdict::Kind::Silent:
         return true;
     }

@@ -32,11 +32,11 @@ struct Correction
 };
 
 // What a rule says to what was typed. A refusal keeps the dialog open. A question does so too unless it is
-// answered with OK or Yes: then the corrections are made and the rules are asked again. A silent correction
-// is made without asking.
+// answered with OK: then the corrections are made and the rules are asked again. A silent correction is made
+// without asking.
 struct Verdict
 {
-    enum class Kind { Refusal, OkCancel, YesNo, Silent };
+    enum class Kind { Refusal, OkCancel, Silent };
 
     Kind kind = Kind::Refusal;
     platform::Icon icon = platform::Icon::Information;
