@@ -1,6 +1,5 @@
 #include "forms/columns.h"
 
-#include <algorithm>
 #include <numeric>
 
 namespace forms {

@@ -8,6 +8,8 @@
 #include "forms/slider_field.h"
 #include "forms/text_field.h"
 
+#include <QCheckBox>
+
 #include <algorithm>
 #include <functional>
 

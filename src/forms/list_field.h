@@ -3,11 +3,9 @@
 #include "forms/choice.h"
 #include "forms/field.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QComboBox>
-#include <QRadioButton>
 
-#include <concepts>
 #include <type_traits>
 
 namespace forms {

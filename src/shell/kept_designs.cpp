@@ -3,7 +3,6 @@
 #include "layoutfile/layout_file.h"
 #include "platform/guards.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace shell {

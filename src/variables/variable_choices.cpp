@@ -1,7 +1,5 @@
 #include "variables/variable_choices.h"
 
-#include <algorithm>
-
 namespace variables {
 
 forms::Choices variableChoices(const VariableTable &table, bool VariableRecord::*offered, qint32 stored)

@@ -3,7 +3,7 @@
 #include "platform/desktop/progress_window.h"
 
 #include <QApplication>
-#include <QCloseEvent>
+#include <QEvent>
 #include <QVBoxLayout>
 
 namespace platform {
