@@ -31,12 +31,6 @@ QString orNoneSet(const QString &caption, bool isSet, const QString &value)
     return caption + (isSet ? value : u"None Set"_s);
 }
 
-const QString &unitLabel(const VariableRecord &record, const variables::UnitTable &units)
-{
-    return record.UseCustomTrans ? record.CustomUnits
-                                 : units[findUnit(units, record.ApplyTransformation)].Uniit;
-}
-
 } // namespace
 
 QString variableKey(const char *role, int index) { return u"#%1#%2"_s.arg(QLatin1String(role)).arg(index); }
@@ -64,7 +58,7 @@ std::vector<VariableDetail> variableDetails(const VariableRecord &record, int in
         details.push_back(
             {"AVAILABLETYPE", u"Advanced options"_s, "advanced", {{"MAXROC", roc, "roc"}}, "ADVANCED"});
     }
-    details.push_back({"TRANSFORMTYPE", unitLine(record, unitLabel(record, units)), "units"});
+    details.push_back({"TRANSFORMTYPE", unitLine(record, shownUnit(record, units)), "units"});
     details.push_back({"USERNAME", u"Variable Name: "_s + record.BaseName, "name"});
     details.push_back({"SMOOTHING", smoothing, "smooth"});
     return details;

@@ -1,7 +1,5 @@
 #include "variables/catalogue.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <array>
 
@@ -39,32 +37,6 @@ void normaliseFlags(VariableRecord &record, int index)
         record.SmoothingTime = record.MaximumROC = 0;
 }
 
-// The label of each unit name; names that are in no row have the label of row 0.
-class UnitLabels
-{
-public:
-    explicit UnitLabels(const UnitTable &units)
-    {
-        if (!units.empty())
-            m_unknown = units.front().Uniit;
-        for (const UnitRecord &unit : units) {
-            if (!m_labels.contains(unit.UnitName))
-                m_labels.insert(unit.UnitName, unit.Uniit);
-        }
-    }
-    const QString &of(const QString &unitName) const
-    {
-        const auto found = m_labels.constFind(unitName);
-        return found == m_labels.constEnd() ? m_unknown : *found;
-    }
-
-private:
-    QHash<QString, QString> m_labels;
-    QString m_unknown;
-};
-
-QString bracketed(const QString &name, const QString &unit) { return name + " ["_L1 + unit + ']'_L1; }
-
 // The two forms in which names are compared: as they stand, and without what may be a unit.
 QString whole(const QString &name) { return name.trimmed().toUpper(); }
 QString cut(const QString &name) { return whole(name.section('['_L1, 0, 0)); }
@@ -80,28 +52,29 @@ bool isPermitted(int index)
 void SetupVariables(Catalogue &catalogue)
 {
     catalogue.staging = {}; // so that the slots are changed where they are
-    const UnitLabels labels(catalogue.units);
-    const QString emptySlotName = bracketed({}, labels.of({}));
+    const QString emptySlotName = displayName({}, catalogue.units);
     for (qsizetype i = 1; i < catalogue.live.size(); ++i) {
         VariableRecord &record = catalogue.live[i];
         normaliseFlags(record, static_cast<int>(i));
-        const QString &label =
-            record.UseCustomTrans ? record.CustomUnits : labels.of(record.ApplyTransformation);
         // One text is shared by the thousands of empty slots.
         const bool empty =
             record.BaseName.isEmpty() && !record.UseCustomTrans && record.ApplyTransformation.isEmpty();
-        record.DisplayName = empty ? emptySlotName : bracketed(record.BaseName, label);
+        record.DisplayName = empty ? emptySlotName : displayName(record, catalogue.units);
     }
     if (catalogue.live.size() > LastIndex)
         catalogue.live[LastIndex].Enabled = catalogue.live[LastIndex].Available = false;
     catalogue.staging = catalogue.live;
 }
 
+const QString &shownUnit(const VariableRecord &record, const UnitTable &units)
+{
+    return record.UseCustomTrans ? record.CustomUnits
+                                 : units[findUnit(units, record.ApplyTransformation)].Uniit;
+}
+
 QString displayName(const VariableRecord &record, const UnitTable &units)
 {
-    return bracketed(record.BaseName, record.UseCustomTrans
-                                          ? record.CustomUnits
-                                          : units[findUnit(units, record.ApplyTransformation)].Uniit);
+    return record.BaseName + " ["_L1 + shownUnit(record, units) + ']'_L1;
 }
 
 int findByName(const VariableTable &table, const QString &name, NameField field)

@@ -91,6 +91,10 @@ bool isPermitted(int index);
 // the same afterwards.
 void SetupVariables(Catalogue &catalogue);
 
+// The unit that a variable's value is shown in: its own text, or the label of the conversion in force. A
+// conversion that is in no row has the label of row 0.
+const QString &shownUnit(const VariableRecord &record, const UnitTable &units);
+
 // BaseName [unit]: the display name of one record.
 QString displayName(const VariableRecord &record, const UnitTable &units);
 
