@@ -33,7 +33,7 @@ QString orNoneSet(const QString &caption, bool isSet, const QString &value)
 
 } // namespace
 
-QString variableKey(const char *role, int index) { return u"#%1#%2"_s.arg(QLatin1String(role)).arg(index); }
+QString variableKey(QLatin1String role, int index) { return u"#%1#%2"_s.arg(role).arg(index); }
 
 QString VariableDetail::key(int index) const
 {
@@ -55,12 +55,15 @@ std::vector<VariableDetail> variableDetails(const VariableRecord &record, int in
                                         shortestText(record.SmoothingTime, decimalMark) + u" seconds"_s);
     std::vector<VariableDetail> details;
     if (index < FirstWithoutOptions && index != FirstRecord) {
-        details.push_back(
-            {"AVAILABLETYPE", u"Advanced options"_s, "advanced", {{"MAXROC", roc, "roc"}}, "ADVANCED"});
+        details.push_back({role::Variable,
+                           u"Advanced options"_s,
+                           "advanced",
+                           {{role::MaximumRoc, roc, "roc"}},
+                           "ADVANCED"});
     }
-    details.push_back({"TRANSFORMTYPE", unitLine(record, shownUnit(record, units)), "units"});
-    details.push_back({"USERNAME", u"Variable Name: "_s + record.BaseName, "name"});
-    details.push_back({"SMOOTHING", smoothing, "smooth"});
+    details.push_back({role::Unit, unitLine(record, shownUnit(record, units)), "units"});
+    details.push_back({role::Name, u"Variable Name: "_s + record.BaseName, "name"});
+    details.push_back({role::Smoothing, smoothing, "smooth"});
     return details;
 }
 

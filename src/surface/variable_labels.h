@@ -15,27 +15,37 @@ struct VariableGroupNode
 {
     variables::VariableGroup group;
     const char *text;
-    const char *image; // image letter
-    const char *art;   // icon in the resources
+    const char *art; // icon in the resources
     QString key() const { return QStringLiteral("VT_%1").arg(static_cast<int>(group)); }
 };
 
 inline constexpr std::array<VariableGroupNode, 9> VariableGroups{{
-    {variables::VariableGroup::Standard, "Standard variables", "N", "standard"},
-    {variables::VariableGroup::ExternalInput, "External inputs", "I", "input"},
-    {variables::VariableGroup::Gps, "GPS variables", "G", "gps"},
-    {variables::VariableGroup::UserDefined, "User defined variables", "U", "user"},
-    {variables::VariableGroup::Serial, "Serial variables", "S", "serial"},
-    {variables::VariableGroup::External, "External variables", "E", "external"},
-    {variables::VariableGroup::Debugging, "Debugging variables", "D", "debug"},
-    {variables::VariableGroup::LapTiming, "Lap timing variables", "T", "laptime"},
-    {variables::VariableGroup::Misc, "Misc variables", "M", "misc"},
+    {variables::VariableGroup::Standard, "Standard variables", "standard"},
+    {variables::VariableGroup::ExternalInput, "External inputs", "input"},
+    {variables::VariableGroup::Gps, "GPS variables", "gps"},
+    {variables::VariableGroup::UserDefined, "User defined variables", "user"},
+    {variables::VariableGroup::Serial, "Serial variables", "serial"},
+    {variables::VariableGroup::External, "External variables", "external"},
+    {variables::VariableGroup::Debugging, "Debugging variables", "debug"},
+    {variables::VariableGroup::LapTiming, "Lap timing variables", "laptime"},
+    {variables::VariableGroup::Misc, "Misc variables", "misc"},
 }};
+
+// What a line is about, as its key says it.
+namespace role {
+
+inline constexpr QLatin1String Variable{"AVAILABLETYPE"}; // itself, and the branch of its advanced options
+inline constexpr QLatin1String MaximumRoc{"MAXROC"};
+inline constexpr QLatin1String Unit{"TRANSFORMTYPE"};
+inline constexpr QLatin1String Name{"USERNAME"};
+inline constexpr QLatin1String Smoothing{"SMOOTHING"};
+
+} // namespace role
 
 // One line below a variable.
 struct VariableDetail
 {
-    const char *role;
+    QLatin1String role;
     QString text;
     const char *art;
     std::vector<VariableDetail> children = {};
@@ -46,7 +56,7 @@ struct VariableDetail
 };
 
 // "#", the role, "#", the catalogue index.
-QString variableKey(const char *role, int index);
+QString variableKey(QLatin1String role, int index);
 
 // The name and, in brackets, the channel it comes from.
 QString variableText(const variables::VariableRecord &record);

@@ -143,7 +143,7 @@ void VariableTree::addVariable(QTreeWidgetItem *group, qsizetype index)
     const variables::VariableRecord &record = std::as_const(m_context.catalogue).staging[index];
     const int number = static_cast<int>(index);
     QTreeWidgetItem *item =
-        newItem(group, variableKey("AVAILABLETYPE", number), variableText(record), m_icons.of("variable"));
+        newItem(group, variableKey(role::Variable, number), variableText(record), m_icons.of("variable"));
     item->setData(0, IndexRole, number);
     item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
 }
@@ -234,17 +234,17 @@ void VariableTree::edit(const QString &key)
     RegenerateVariableTree();
 }
 
-bool VariableTree::editRecord(const QString &role, int index)
+bool VariableTree::editRecord(const QString &about, int index)
 {
     variables::VariableRecord &record = m_context.catalogue.staging[index];
     const QString &mark = m_context.locale.decimalSeparator;
-    if (role == "MAXROC"_L1)
+    if (about == role::MaximumRoc)
         return editMaximumRoc(record, m_context.prompts, mark);
-    if (role == "USERNAME"_L1)
+    if (about == role::Name)
         return editName(record, m_context.prompts);
-    if (role == "SMOOTHING"_L1)
+    if (about == role::Smoothing)
         return editSmoothing(record, m_context.prompts, mark);
-    if (role == "TRANSFORMTYPE"_L1)
+    if (about == role::Unit)
         return m_editors.editTransformation(index, window());
     return false;
 }

@@ -56,7 +56,7 @@ private:
     void addVariable(QTreeWidgetItem *group, qsizetype index);
     void fillDetails(QTreeWidgetItem *item);
     void edit(const QString &key);
-    bool editRecord(const QString &role, int index);
+    bool editRecord(const QString &about, int index);
     void filter(const QString &text);
     void openBranches(const QSet<QString> &keys);
     void makeCurrent(const QString &key); // the line of this key, unless it lies in a closed branch
