@@ -1,5 +1,7 @@
 #include "platform/folders.h"
 
+#include "platform/program_name.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -73,7 +75,7 @@ Folders desktopFolders(const QString &programFolder)
     Folders folders;
     folders.program = withSeparator(programFolder);
     folders.applicationData = withSeparator(applicationDataRoot());
-    folders.cache = privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), u"morvel-config"_s);
+    folders.cache = privateFolder(Paths::writableLocation(Paths::GenericCacheLocation), ProgramName);
     folders.temporary = privateFolder(folders.cache, u"temporary"_s);
     folders.shared = withSeparator(QDir::tempPath());
     return folders;

@@ -1,6 +1,7 @@
 #include "platform/process_lock.h"
 
 #include "platform/file_replace.h"
+#include "platform/program_name.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -132,8 +133,8 @@ void ProcessLock::writeOwner()
 {
     m_file.resize(0);
     m_file.seek(0);
-    m_file.write(u"%1\nmorvel-config\n%2\n"_s.arg(QCoreApplication::applicationPid())
-                     .arg(QSysInfo::machineHostName())
+    m_file.write(u"%1\n%2\n%3\n"_s.arg(QCoreApplication::applicationPid())
+                     .arg(ProgramName, QSysInfo::machineHostName())
                      .toUtf8());
 }
 

@@ -3,6 +3,7 @@
 // core, so that nobody waits for it.
 
 #include "platform/become_program.h"
+#include "platform/program_name.h"
 #include "shell/command_line.h"
 #include "shell/seed_user_data.h"
 
@@ -16,7 +17,7 @@ int main(int argc, char **argv)
     const QString folder = QCoreApplication::applicationDirPath();
     const QStringList arguments = QCoreApplication::arguments().sliced(1);
     if (shell::isComplete(platform::desktopFolders(folder)))
-        platform::becomeProgram(folder + QStringLiteral("/morvel-config"),
+        platform::becomeProgram(folder + QLatin1Char('/') + platform::ProgramName,
                                 shell::argumentsForProgram(arguments));
     platform::becomeProgram(folder + QStringLiteral("/morvel-setup"), arguments);
     return EXIT_FAILURE;

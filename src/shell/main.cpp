@@ -1,15 +1,18 @@
 #include "platform/desktop/appearance.h"
 #include "platform/desktop/qt_prompts.h"
+#include "platform/program_name.h"
 #include "shell/single_instance.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
 
 #include <QApplication>
 
+#include <cstdlib>
+
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("morvel-config"));
+    QApplication::setApplicationName(platform::ProgramName);
     QApplication::setApplicationVersion(QStringLiteral(MORVEL_VERSION));
     const platform::Folders folders = platform::desktopFolders(QApplication::applicationDirPath());
     const shell::StartUpInput input{folders, platform::userNumberLocale(), platform::systemStamp(),

@@ -5,11 +5,13 @@
 #include "platform/desktop/appearance.h"
 #include "platform/desktop/qt_prompts.h"
 #include "platform/guards.h"
+#include "platform/program_name.h"
 #include "shell/command_line.h"
 #include "shell/seed_user_data.h"
 
 #include <QApplication>
 
+#include <cstdlib>
 #include <functional>
 
 namespace {
@@ -58,7 +60,7 @@ int main(int argc, char **argv)
     {
         const QCoreApplication self(argc, argv);
         const QString folder = QCoreApplication::applicationDirPath();
-        program = folder + QStringLiteral("/morvel-config");
+        program = folder + QLatin1Char('/') + platform::ProgramName;
         passed = shell::argumentsForProgram(QCoreApplication::arguments().sliced(1));
         first = completeUserData(platform::desktopFolders(folder));
     }

@@ -1,5 +1,6 @@
 #include "shell/single_instance.h"
 
+#include "platform/program_name.h"
 #include "shell/command_line.h"
 
 #include <QDir>
@@ -11,9 +12,20 @@ namespace shell {
 using namespace Qt::StringLiterals;
 using platform::ProcessLock;
 
+namespace {
+
+// In a folder that is there, even at a first start.
+QString lockFile(const QString &folder)
+{
+    QDir().mkpath(folder);
+    return folder + platform::ProgramName + ".lock"_L1;
+}
+
+} // namespace
+
 SingleInstance::SingleInstance(const QString &dataFolder, platform::Prompts &prompts,
                                ProcessLock::SystemLock lock)
-    : m_lock((QDir().mkpath(dataFolder), dataFolder + u"morvel-config.lock"_s), lock)
+    : m_lock(lockFile(dataFolder), lock)
 {
     if (m_lock.state() != ProcessLock::State::OtherHosts)
         return;
