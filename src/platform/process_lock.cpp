@@ -10,6 +10,7 @@
 #include <QSysInfo>
 
 #include <optional>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
@@ -76,7 +77,7 @@ bool isAnotherProcess(qint64 process)
     if (process == QCoreApplication::applicationPid())
         return false;
 #ifdef Q_OS_UNIX
-    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+    return std::in_range<pid_t>(process) && (::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
 #else
     return true;
 #endif

@@ -136,7 +136,8 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
         {parent + "\n" + name + end, 60, State::Others},
         {parent + "\nanother name" + end, 60, State::Ours}, // a number that came round again
         {self + "\nmorvel-config" + end, 0, State::Ours},
-        {"4194305\nmorvel-config" + end, 0, State::Ours}, // no process has this number
+        {"4194305\nmorvel-config" + end, 0, State::Ours},    // no process has this number
+        {"4294967297\nmorvel-config" + end, 0, State::Ours}, // nor this one, which ends in that of the first
         {parent + "\nmorvel-config\npitwall\n", 60, State::OtherHosts},
     };
     for (const auto &[content, age, state] : cases) {
