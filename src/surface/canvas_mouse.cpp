@@ -1,5 +1,6 @@
 // The mouse on the canvas: the contract's order of events, in one place.
 
+#include "platform/desktop/tool_tip.h"
 #include "platform/guards.h"
 #include "surface/canvas.h"
 #include "surface/control_text.h"
@@ -241,7 +242,7 @@ void Canvas::showToolTip(const QHelpEvent &event)
 {
     const OverlayControl *control = m_isPlayMode ? nullptr : controlAt(m_zoom.toCanvas(event.pos()));
     if (control) {
-        QToolTip::showText(event.globalPos(), controlText(*control), this,
+        QToolTip::showText(event.globalPos(), platform::toolTipOf(controlText(*control)), this,
                            m_zoom.shown(control->outerRect()));
     } else {
         QToolTip::hideText();

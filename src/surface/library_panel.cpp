@@ -1,6 +1,7 @@
 #include "surface/library_panel.h"
 
 #include "platform/desktop/art_icon.h"
+#include "platform/desktop/tool_tip.h"
 #include "platform/guards.h"
 #include "platform/settings_keys.h"
 #include "surface/canvas.h"
@@ -47,7 +48,7 @@ QTreeWidgetItem *newItem(const QString &key, const QString &text, const QIcon &i
     auto *item = new QTreeWidgetItem({text});
     item->setData(0, KeyRole, key);
     item->setIcon(0, icon);
-    item->setToolTip(0, text); // may be too long for the panel
+    item->setToolTip(0, platform::toolTipOf(text)); // may be too long for the panel
     return item;
 }
 
@@ -199,7 +200,7 @@ void LibraryPanel::addToList(const QString &key, const QString &caption, const Q
     const QPixmap picture(platform::nameWithin(m_host.folders().cache, thumbnail));
     auto *item = new QListWidgetItem(QIcon(picture), caption, m_list);
     item->setData(KeyRole, key);
-    item->setToolTip(caption);
+    item->setToolTip(platform::toolTipOf(caption));
 }
 
 void LibraryPanel::showMenu(const QString &key, const QPoint &globalPosition)

@@ -48,6 +48,7 @@ Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
     bold.setBold(true);
     m_title->setFont(bold);
     m_title->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_title->setTextFormat(Qt::PlainText); // the layout's is the name of its file
     auto *close = new QToolButton;
     for (QWidget *inside : {content, static_cast<QWidget *>(close)})
         inside->setCursor(Qt::ArrowCursor); // not the one of the edges

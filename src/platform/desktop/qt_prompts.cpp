@@ -143,7 +143,13 @@ std::optional<int> QtPrompts::choose(const QString &title, const QString &text, 
 QString QtPrompts::input(const QString &title, const QString &prompt, const QString &initial)
 {
     const ArrowPointer pointer;
-    return QInputDialog::getText(parent(), title, prompt, QLineEdit::Normal, initial);
+    QInputDialog dialog(parent());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(initial);
+    if (auto *label = dialog.findChild<QLabel *>())
+        label->setTextFormat(Qt::PlainText); // as in a box
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 QString QtPrompts::openFile(const FileRequest &request)
