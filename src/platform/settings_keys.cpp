@@ -21,6 +21,13 @@ QString textOf(const SettingsFile &file, const NumberKey &key)
     return file.read(QLatin1String(key.section), QLatin1String(key.key), {}, NumberBuffer);
 }
 
+template <typename Read>
+QRect rectOf(const PanelKeys &panel, const Screen &screen, Read read)
+{
+    const auto pixels = [&](const NumberKey &key) { return screen.storedToPixels(read(key)); };
+    return {pixels(panel.left), pixels(panel.top), pixels(panel.width), pixels(panel.height)};
+}
+
 } // namespace
 
 int NumberKey::readUnclamped(const SettingsFile &file) const
@@ -69,6 +76,24 @@ bool PanelKeys::stored(const SettingsFile &file) const
 {
     const QStringList texts{textOf(file, left), textOf(file, top), textOf(file, width), textOf(file, height)};
     return std::ranges::any_of(texts, [](const QString &text) { return !text.isEmpty(); });
+}
+
+QRect PanelKeys::read(const SettingsFile &file, const Screen &screen) const
+{
+    return rectOf(*this, screen, [&file](const NumberKey &key) { return key.read(file); });
+}
+
+QRect PanelKeys::readUnclamped(const SettingsFile &file, const Screen &screen) const
+{
+    return rectOf(*this, screen, [&file](const NumberKey &key) { return key.readUnclamped(file); });
+}
+
+void PanelKeys::write(SettingsFile &file, const QRect &pixels, const Screen &screen) const
+{
+    left.write(file, screen.pixelsToStored(pixels.left()));
+    top.write(file, screen.pixelsToStored(pixels.top()));
+    width.write(file, screen.pixelsToStored(pixels.width()));
+    height.write(file, screen.pixelsToStored(pixels.height()));
 }
 
 } // namespace platform

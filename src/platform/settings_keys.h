@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/screen.h"
 #include "platform/settings_file.h"
 
+#include <QRect>
+
 #include <array>
+#include <limits>
 
 namespace platform {
 
@@ -12,9 +16,9 @@ struct NumberKey
     const char *section;
     const char *key;
     int fallback;
-    int low = -2147483647 - 1; // a value below `low` becomes `belowLow`
+    int low = std::numeric_limits<int>::min(); // a value below `low` becomes `belowLow`
     int belowLow = low;
-    int high = 2147483647; // a value above `high` becomes `high`
+    int high = std::numeric_limits<int>::max(); // a value above `high` becomes `high`
 
     int read(const SettingsFile &file) const;
     int readUnclamped(const SettingsFile &file) const;
@@ -49,6 +53,10 @@ struct PanelKeys
     NumberKey left, top, width, height;
     // Whether any of the four stands in the file.
     bool stored(const SettingsFile &file) const;
+    // In pixels.
+    QRect read(const SettingsFile &file, const Screen &screen) const;
+    QRect readUnclamped(const SettingsFile &file, const Screen &screen) const;
+    void write(SettingsFile &file, const QRect &pixels, const Screen &screen) const;
 };
 
 namespace keys {

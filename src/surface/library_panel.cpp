@@ -156,7 +156,7 @@ void LibraryPanel::restoreBar(const platform::SettingsFile &file, const platform
     if (!Bar.stored(file))
         return;
     setStretchFactor(0, 0); // the tree keeps its width, the list takes what is left
-    setSizes({screen.storedToPixels(Bar.left.read(file)), 1});
+    setSizes({Bar.read(file, screen).left(), 1});
 }
 
 void LibraryPanel::resetBar()
@@ -171,11 +171,7 @@ void LibraryPanel::saveBar(platform::SettingsFile &file, const platform::Screen 
 {
     if (testAttribute(Qt::WA_PendingResizeEvent))
         return; // the panel has been closed all the time, and the bar was never laid out
-    const QRect bar = handle(1)->geometry();
-    Bar.left.write(file, screen.pixelsToStored(bar.left()));
-    Bar.top.write(file, screen.pixelsToStored(bar.top()));
-    Bar.width.write(file, screen.pixelsToStored(bar.width()));
-    Bar.height.write(file, screen.pixelsToStored(bar.height()));
+    Bar.write(file, handle(1)->geometry(), screen);
 }
 
 void LibraryPanel::loadControlList()

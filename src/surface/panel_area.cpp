@@ -10,7 +10,6 @@ namespace surface {
 
 namespace {
 
-using platform::NumberKey;
 using platform::PanelKeys;
 namespace keys = platform::keys;
 
@@ -72,13 +71,6 @@ void PanelArea::reset()
 
 void PanelArea::restore(const platform::SettingsFile &file)
 {
-    using Reader = int (NumberKey::*)(const platform::SettingsFile &) const;
-    const auto rect = [this](const PanelKeys &key, Reader read, const platform::SettingsFile &from) {
-        const auto pixels = [&](const NumberKey &number) {
-            return m_screen.storedToPixels((number.*read)(from));
-        };
-        return QRect(pixels(key.left), pixels(key.top), pixels(key.width), pixels(key.height));
-    };
     const platform::SettingsFile nothing({});
     bool stored = false;
     PanelRects unclamped;
@@ -86,8 +78,8 @@ void PanelArea::restore(const platform::SettingsFile &file)
         const PanelKeys &key = keysOf(i);
         const bool isStored = key.stored(file);
         stored = stored || isStored;
-        unclamped[i] = rect(key, &NumberKey::readUnclamped, file);
-        m_wanted[i] = rect(key, &NumberKey::read, isStored ? file : nothing);
+        unclamped[i] = key.readUnclamped(file, m_screen);
+        m_wanted[i] = key.read(isStored ? file : nothing, m_screen);
         m_visible[i] = keys::Visible[i].read(file) != 0;
         m_panels[i]->setVisible(m_visible[i]);
     }
@@ -97,16 +89,8 @@ void PanelArea::restore(const platform::SettingsFile &file)
 void PanelArea::save(platform::SettingsFile &file) const
 {
     const PanelRects rects = current();
-    for (std::size_t i = 0; i < rects.size(); ++i) {
-        const PanelKeys &key = keysOf(i);
-        const auto write = [&](const NumberKey &number, int pixels) {
-            number.write(file, m_screen.pixelsToStored(pixels));
-        };
-        write(key.left, rects[i].left());
-        write(key.top, rects[i].top());
-        write(key.width, rects[i].width());
-        write(key.height, rects[i].height());
-    }
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        keysOf(i).write(file, rects[i], m_screen);
 }
 
 PanelRects PanelArea::current() const
