@@ -46,7 +46,7 @@ bool StartUp::run()
     m_commandLine = parseCommandLine(rawCommandLine(m_input.arguments),
                                      [](const QString &path) { return FileExists(path) != 0; });
     readSettings();
-    makeFolders();
+    prepareFolders();
     const QString ownIcon = m_state.folders.program + u"User.ico"_s;
     QApplication::setWindowIcon(QIcon(FileExists(ownIcon) ? ownIcon : u":/icon.png"_s));
     if (!loadVariables() || !loadMessages() || !checkExpressions())
@@ -67,7 +67,7 @@ void StartUp::readSettings()
     m_state.settings.VideoType = m_commandLine.videoOverride.value_or(stored);
 }
 
-void StartUp::makeFolders()
+void StartUp::prepareFolders()
 {
     QDir().mkpath(m_state.folders.pictureFolder());
     QDir().mkpath(m_state.folders.FontFolder());
@@ -75,9 +75,6 @@ void StartUp::makeFolders()
                                   m_state.folders.FontFolder(), m_state.folders.temporary})
         platform::removeStagedFiles(folder);
     controls::removeUnusedCopies(m_state.folders);
-    const QDir temporary(m_state.folders.temporary);
-    for (const QString &left : temporary.entryList({u"save*"_s}, QDir::Dirs | QDir::NoDotAndDotDot))
-        QDir(temporary.filePath(left)).removeRecursively(); // earlier versions wrote layouts there
 }
 
 void StartUp::missingFile(const QString &name)

@@ -35,7 +35,7 @@ public:
 
 private:
     void readSettings();
-    void makeFolders();
+    void prepareFolders();
     bool loadVariables();
     void replaceLostDefinitions();
     bool loadMessages();
