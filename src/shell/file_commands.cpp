@@ -263,17 +263,17 @@ Parting FileCommands::saveWorkspace(Leaving leaving)
     QByteArray layout;
     auto standing = platform::Standing::NotConfirmed;
     auto failure = platform::failureOf([&] { standing = keepDesign(prompts, layout); });
-    QString place;
-    if (failure && !layout.isEmpty())
-        place = keepAnywhere(layout, m_state.folders);
+    if (!failure)
+        return standing == platform::Standing::Confirmed ? Parting::DesignIsSafe : Parting::DesignAtRisk;
+    const QString place = layout.isEmpty() ? QString() : keepAnywhere(layout, m_state.folders);
     if (!place.isEmpty())
         failure->append(u"\nThe design is kept in\n"_s + place);
-    if (failure)
-        platform::reportFailure(prompts, *failure);
-    if (failure ? !place.isEmpty() && !sessionEnds : standing == platform::Standing::Confirmed)
+    platform::reportFailure(prompts, *failure);
+    if (sessionEnds)
+        return Parting::DesignAtRisk; // nobody has read where it is
+    if (!place.isEmpty())
         return Parting::DesignIsSafe;
-    const bool leaves = !failure || sessionEnds || !place.isEmpty() ||
-                        prompts.ask(Icon::Warning, ProductTitle,
+    const bool leaves = prompts.ask(Icon::Warning, ProductTitle,
                                     u"The layout could not be saved. Do you want to leave anyway?"_s);
     return leaves ? Parting::DesignAtRisk : Parting::Stays;
 }
