@@ -94,7 +94,7 @@ QString writeThumbnail(const QByteArray &jpeg, const platform::Folders &folders)
 {
     const QString path = folders.inTemporary("Thumb.jpg");
     const bool written =
-        platform::skipFailures([&] { platform::StagedFile(path, jpeg, platform::Flush::None).commit(); });
+        platform::skipFailures([&] { platform::replaceFile(path, jpeg, platform::Flush::None); });
     return written ? path : QString();
 }
 

@@ -16,7 +16,6 @@
 
 #include <cerrno>
 #include <optional>
-#include <utility>
 
 namespace platform {
 
@@ -86,8 +85,11 @@ std::optional<Failure> stage(const QString &path, const QByteArray &bytes, Flush
     return failure;
 }
 
-std::optional<Failure> swapIn(const QString &path)
+// Whole or not at all.
+std::optional<Failure> put(const QString &path, const QByteArray &bytes, Flush flush)
 {
+    if (auto failure = stage(path, bytes, flush))
+        return failure;
     auto failure = renameOver(stagedPath(path), path);
     if (failure)
         QFile::remove(stagedPath(path));
@@ -161,38 +163,18 @@ void copyOver(const QString &path, const QByteArray &bytes, const QString &keepI
 
 } // namespace
 
-StagedFile::StagedFile(const QString &path, const QByteArray &bytes, Flush flush)
-    : m_path(targetOf(path)), m_flush(flush)
+Standing replaceFile(const QString &path, const QByteArray &bytes, Flush flush)
 {
-    if (const auto failure = stage(m_path, bytes, flush))
+    const QString target = targetOf(path);
+    if (const auto failure = put(target, bytes, flush))
         fail(path, *failure);
-}
-
-StagedFile::~StagedFile()
-{
-    if (!m_path.isEmpty())
-        QFile::remove(stagedPath(m_path));
-}
-
-Standing StagedFile::commit()
-{
-    const QString path = std::exchange(m_path, {});
-    if (const auto failure = swapIn(path))
-        fail(path, *failure);
-    return m_flush == Flush::None ? Standing::Confirmed : standingOf(path);
-}
-
-Standing replaceFile(const QString &path, const QByteArray &bytes)
-{
-    return StagedFile(path, bytes).commit();
+    return flush == Flush::None ? Standing::Confirmed : standingOf(target);
 }
 
 Standing replaceFile(const QString &path, const QByteArray &bytes, const QString &keepIn)
 {
     const QString target = targetOf(path);
-    auto failure = stage(target, bytes, Flush::ToDevice);
-    if (!failure)
-        failure = swapIn(target);
+    const auto failure = put(target, bytes, Flush::ToDevice);
     if (!failure)
         return standingOf(target);
     if (!mayCopyOver(target, bytes.size(), *failure))

@@ -16,28 +16,10 @@ enum class Standing {
 
 inline const QString KeptPrefix = QStringLiteral("kept");
 
-// A new file under the name of an old one, written whole beside it. It stands only from commit() on; until
-// then the old file is untouched, and what was written goes when the object goes. Names that lead to anything
-// but a regular file are refused.
-class StagedFile
-{
-public:
-    // Throws RunTimeError with the system's reason.
-    StagedFile(const QString &path, const QByteArray &bytes, Flush flush = Flush::ToDevice);
-    ~StagedFile();
-    Q_DISABLE_COPY_MOVE(StagedFile)
-
-    // Throws RunTimeError when the new file cannot be renamed over the old one.
-    Standing commit();
-
-private:
-    QString m_path;
-    Flush m_flush;
-};
-
 // Puts `bytes` under `path` as a whole: written beside the old file, flushed to the device, renamed over it,
-// the folder flushed. Throws RunTimeError with the system's reason; the old file is then as it was.
-Standing replaceFile(const QString &path, const QByteArray &bytes);
+// the folder flushed. Throws RunTimeError with the system's reason; the old file is then as it was. Names
+// that lead to anything but a regular file are refused.
+Standing replaceFile(const QString &path, const QByteArray &bytes, Flush flush = Flush::ToDevice);
 
 // The same for a place that the user chose, where a new file beside the old one may be refused (permission,
 // other device, name too long) or the volume may have room for one file only. There the old file is copied

@@ -229,7 +229,7 @@ void FileCommands::saveRecovery()
     const QString path = m_state.folders.recoveryFile();
     platform::NoProgress silent;
     if (const auto layout = layoutBytes(SaveKind::Recovery, m_prompts, silent))
-        platform::StagedFile(path, layout->file, platform::Flush::None).commit();
+        platform::replaceFile(path, layout->file, platform::Flush::None);
     else
         removeRecovery();
 }

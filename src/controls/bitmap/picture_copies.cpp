@@ -62,7 +62,7 @@ void keepCopy(const QString &folder, const QString &name, const QByteArray &byte
 {
     QDir().mkpath(folder);
     if (!QFileInfo::exists(folder + name))
-        platform::StagedFile(folder + name, bytes, flush).commit();
+        platform::replaceFile(folder + name, bytes, flush);
 }
 
 QImage keptPicture(const QString &folder, const QString &name)
