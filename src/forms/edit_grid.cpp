@@ -88,11 +88,32 @@ void EditGrid::updateGeometries()
     m_editor->setGeometry(visualRect(currentIndex()));
 }
 
-void EditGrid::moveBy(int rows, int columns)
+std::optional<EditGrid::Step> EditGrid::stepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Down:
+        return Step{1, 0};
+    case Qt::Key_Up:
+        return Step{-1, 0};
+    case Qt::Key_Left:
+        return Step{0, -1};
+    case Qt::Key_Right:
+        return Step{0, 1};
+    default:
+        return std::nullopt;
+    }
+}
+
+QModelIndex EditGrid::stepFrom(int row, int column, Step step) const
+{
+    return model()->index(std::clamp(row + step.rows, 0, rowCount() - 1),
+                          std::clamp(column + step.columns, 0, columnCount() - 1));
+}
+
+void EditGrid::moveBy(Step step)
 {
     commit();
-    setCurrentCell(std::clamp(currentRow() + rows, 0, rowCount() - 1),
-                   std::clamp(currentColumn() + columns, 0, columnCount() - 1));
+    setCurrentIndex(stepFrom(currentRow(), currentColumn(), step));
     m_editor->selectAll();
 }
 
@@ -105,20 +126,14 @@ bool EditGrid::eventFilter(QObject *watched, QEvent *event)
 
 bool EditGrid::keyPressed(const QKeyEvent &event)
 {
+    if (const auto step = stepOf(event.key())) {
+        moveBy(*step);
+        return true;
+    }
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        moveBy(1, 0);
-        return true;
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-        moveBy(event.key() == Qt::Key_Down ? 1 : -1, 0);
-        return true;
-    case Qt::Key_Left:
-        moveBy(0, -1);
-        return true;
-    case Qt::Key_Right:
-        moveBy(0, 1);
+        moveBy({1, 0});
         return true;
     case Qt::Key_Escape:
         return restoreCell();

@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QTableWidget>
 
+#include <optional>
+
 namespace forms {
 
 // A grid with a text box that always lies over the current cell. Enter and the arrow keys move it and commit
@@ -34,10 +36,20 @@ protected:
     // A key in the editor; true when it was used up.
     virtual bool keyPressed(const QKeyEvent &event);
     QLineEdit *editor() const { return m_editor; }
-    void moveBy(int rows, int columns);
+
+    struct Step
+    {
+        int rows;
+        int columns;
+    };
+    // Where an arrow key leads; nothing for other keys.
+    static std::optional<Step> stepOf(int key);
+    // The cell that a step from this one leads to; never out of the grid.
+    QModelIndex stepFrom(int row, int column, Step step) const;
     void commit(); // stores what stands in the editor
 
 private:
+    void moveBy(Step step);
     void setEdited(const QString &text);
     bool restoreCell();
 

@@ -7,10 +7,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
-
-#include <algorithm>
 
 namespace variables {
 
@@ -58,15 +55,14 @@ QTableWidgetSelectionRange PointGrid::block() const
 }
 
 // Moves the corner of the block that lies opposite the current cell.
-void PointGrid::extendBy(int rows, int columns)
+void PointGrid::extendBy(Step step)
 {
     const QTableWidgetSelectionRange selected = block();
     const int row = currentRow() == selected.topRow() ? selected.bottomRow() : selected.topRow();
     const int column =
         currentColumn() == selected.leftColumn() ? selected.rightColumn() : selected.leftColumn();
     commit();
-    extendTo(model()->index(std::clamp(row + rows, 0, rowCount() - 1),
-                            std::clamp(column + columns, 0, columnCount() - 1)));
+    extendTo(stepFrom(row, column, step));
     editor()->selectAll();
 }
 
@@ -99,23 +95,10 @@ bool PointGrid::keyPressed(const QKeyEvent &event)
 {
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier))
         return blockKeyPressed(event);
-    if (event.modifiers() & Qt::ShiftModifier) {
-        switch (event.key()) {
-        case Qt::Key_Down:
-            extendBy(1, 0);
-            return true;
-        case Qt::Key_Up:
-            extendBy(-1, 0);
-            return true;
-        case Qt::Key_Left:
-            extendBy(0, -1);
-            return true;
-        case Qt::Key_Right:
-            extendBy(0, 1);
-            return true;
-        default:
-            break;
-        }
+    const auto step = stepOf(event.key());
+    if (step && event.modifiers() & Qt::ShiftModifier) {
+        extendBy(*step);
+        return true;
     }
     return blockKeyPressed(event) || EditGrid::keyPressed(event);
 }
@@ -153,9 +136,10 @@ void PointGrid::cut()
 void PointGrid::copy()
 {
     const QTableWidgetSelectionRange selected = block();
+    const QList<QStringList> all = cells();
     QList<QStringList> rows;
     for (int row = selected.topRow(); row <= selected.bottomRow(); ++row)
-        rows.append(cells()[row].mid(selected.leftColumn(), selected.columnCount()));
+        rows.append(all[row].mid(selected.leftColumn(), selected.columnCount()));
     QGuiApplication::clipboard()->setText(tableText(rows));
 }
 

@@ -25,7 +25,7 @@ private:
     void addEntry(const char *name, const QString &text, QKeySequence::StandardKey key,
                   void (PointGrid::*handler)());
     bool blockKeyPressed(const QKeyEvent &event);
-    void extendBy(int rows, int columns);
+    void extendBy(Step step);
     void extendTo(const QModelIndex &corner);
 
     QTableWidgetSelectionRange block() const;
