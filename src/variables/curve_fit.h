@@ -18,7 +18,7 @@ inline constexpr int MostFitPoints = 25;
 // number is past all bounds.
 QList<QPointF> fitPoints(const QList<QStringList> &rows);
 
-// 3 from five points on, below that one less than the points.
+// 3, or one less than the points where that is less.
 int fitDegree(qsizetype points);
 
 // What is said in place of an equation; nothing when there are points enough for their degree, not too many,

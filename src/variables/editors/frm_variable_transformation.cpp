@@ -23,14 +23,6 @@ PickList *newPickList(const char *name, const Entries &entries)
     return list;
 }
 
-QPushButton *newGenerator(const char *name, const QString &caption)
-{
-    auto *button = new QPushButton(caption);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 frmVariableTransformation::frmVariableTransformation(int index, Catalogue &catalogue, Coefficients &generated,
@@ -99,13 +91,13 @@ QLayout *frmVariableTransformation::newGeneratorRow()
     units.box().setFixedWidth(80);
     auto *unitsCaption = new QLabel(u"&Units to display:"_s);
     units.setCaption(unitsCaption);
-    auto *fromTable = newGenerator("cmdGenerateA", u"&Generate an equation from a table"_s);
-    auto *byHand = newGenerator("cmdEnterEquation", u"&Enter an equation manually"_s);
+    auto *fromTable = makeButton("cmdGenerateA", "&Generate an equation from a table",
+                                 [this] { takeGenerated(frmCurveFit(within()).run()); });
+    auto *byHand = makeButton("cmdEnterEquation", "&Enter an equation manually", [this] {
+        takeGenerated(FrmEnterEquationManually(m_generated, within()).run());
+    });
     for (QPushButton *button : {fromTable, byHand})
         button->setEnabled(hasOwnEquation(record()));
-    connect(fromTable, &QPushButton::clicked, this, [this] { takeGenerated(frmCurveFit(within()).run()); });
-    connect(byHand, &QPushButton::clicked, this,
-            [this] { takeGenerated(FrmEnterEquationManually(m_generated, within()).run()); });
     auto *row = new QHBoxLayout;
     row->addWidget(unitsCaption);
     row->addWidget(&units.box());
