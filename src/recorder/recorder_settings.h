@@ -4,6 +4,7 @@
 #include "graphics/plane_picture.h"
 #include "recorder/message_table.h"
 
+#include <QSize>
 #include <QString>
 
 #include <vector>
@@ -17,6 +18,7 @@ constexpr int canvasHeight(VideoStandard standard)
 {
     return standard == VideoStandard::Pal ? common::PalHeight : common::NtscHeight;
 }
+constexpr QSize canvasSize(VideoStandard standard) { return {CanvasWidth, canvasHeight(standard)}; }
 
 enum class EncodePattern : quint8 { I = 0, IP = 1, IPB = 2 };
 

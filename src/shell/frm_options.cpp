@@ -28,7 +28,7 @@ Options shownOptions(surface::frmInterface &design)
 QImage chosenBackground(const QString &path, VideoStandard standard, platform::Prompts &prompts)
 {
     QImage picture = graphics::chosenPicture(path, prompts);
-    const QSize size = surface::backgroundSize(standard);
+    const QSize size = recorder::canvasSize(standard);
     if (picture.isNull() || picture.size() == size)
         return picture;
     prompts.message(platform::Icon::Critical, u"Invalid picture size"_s,

@@ -50,11 +50,6 @@ QString copyName(const QString &own, VideoStandard standard, const SettingsFile 
 
 } // namespace
 
-QSize backgroundSize(VideoStandard standard)
-{
-    return {recorder::CanvasWidth, recorder::canvasHeight(standard)};
-}
-
 QString Backgrounds::fileName(VideoStandard standard) const
 {
     return rowOf(standard).name.read(SettingsFile(m_folders.ConfigFile()));

@@ -10,9 +10,6 @@
 
 namespace surface {
 
-// What a standard's background has to be, pixels.
-QSize backgroundSize(recorder::VideoStandard standard);
-
 // The pictures under the controls, `picPAL` and `picNTSC`. Their files lie in the user data folder, under
 // the names that the settings give.
 class Backgrounds

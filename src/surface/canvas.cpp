@@ -60,7 +60,7 @@ Canvas::Canvas()
 void Canvas::display(const QImage &background, const CanvasRules &rules, bool dots)
 {
     m_rules = rules;
-    const QSize size(recorder::CanvasWidth, recorder::canvasHeight(rules.standard));
+    const QSize size = recorder::canvasSize(rules.standard);
     setFixedSize(m_zoom.shown(QRect(QPoint(), size)).size());
     m_ground = groundOf(size, background);
     QImage dotted = m_ground;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int PictureSide = 183;    // pixels: 203 less the editing frame
 constexpr int LargestControl = 146; // in it: the rest is margin
-constexpr QSize LargestShown(recorder::CanvasWidth, recorder::canvasHeight(recorder::VideoStandard::Pal));
+constexpr QSize LargestShown = recorder::canvasSize(recorder::VideoStandard::Pal);
 const QColor Plate(0x2f, 0x3b, 0x4a);
 
 // What the host tells a control counts, what the control tells the host does not: it stands nowhere.

@@ -14,7 +14,7 @@ using platform::skipFailures;
 
 namespace {
 
-constexpr QSize LargestFace(recorder::CanvasWidth, recorder::canvasHeight(recorder::VideoStandard::Pal));
+constexpr QSize LargestFace = recorder::canvasSize(recorder::VideoStandard::Pal);
 
 // A property of the face, or of the rest.
 template <auto M>

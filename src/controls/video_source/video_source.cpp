@@ -74,7 +74,7 @@ const PropertyTable &videoSourceProperties()
 
 QSizeF sourceSize(quint8 divisor, VideoStandard standard)
 {
-    const QSizeF frame(recorder::CanvasWidth, recorder::canvasHeight(standard));
+    const QSizeF frame = recorder::canvasSize(standard);
     return frame / (divisor > 1 ? divisor : MarkerDivisor);
 }
 
