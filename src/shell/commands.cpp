@@ -12,7 +12,8 @@ namespace {
 std::vector<Command> allRows()
 {
     std::vector<Command> all;
-    for (const auto rows : {fileRows(), viewRows(), configurationRows(), helpRows(), editingRows()})
+    for (const auto rows :
+         {fileRows(), viewRows(), configurationRows(), toolsRows(), helpRows(), editingRows()})
         all.insert(all.end(), rows.begin(), rows.end());
     return all;
 }

@@ -21,7 +21,8 @@ enum Place : unsigned {
     CanvasPopup = 1U << 6U, // the shortcuts of its entries are keys of the canvas
     ControlPopup = 1U << 7U,
     GroupPopup = 1U << 8U,
-    LibraryPopup = 1U << 9U
+    LibraryPopup = 1U << 9U,
+    ToolsMenu = 1U << 10U
 };
 
 // One entry: where it stands, how it looks, what it does, and what it shows of the program's state. In each

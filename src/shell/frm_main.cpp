@@ -135,6 +135,7 @@ void frmMain::makeMenus()
     addMenu(new QMenu(u"&View"_s, bar), "mnuView", ViewMenu);
     fillAddMenu(*addMenu(new QMenu(u"&Add Control"_s, bar), "mnuAddControl", 0), u"mnu"_s);
     addMenu(new QMenu(u"&Configuration"_s, bar), "mnuConfiguration", ConfigurationMenu);
+    addMenu(new QMenu(u"&Tools"_s, bar), "mnuTools", ToolsMenu)->setToolTipsVisible(true);
     addMenu(new QMenu(u"&Help"_s, bar), "mnuHelp", HelpMenu)->setToolTipsVisible(true);
 }
 

@@ -68,6 +68,7 @@ void frmInterface::connectCanvas()
             [this, addByKey](const QString &key) { addByKey(key, m_lastMousePosition); });
     connect(m_library, &LibraryPanel::menuRequested, this, &frmInterface::libraryMenuRequested);
     connect(m_library, &LibraryPanel::used, m_canvas, &Canvas::chooseNone);
+    connect(m_variables, &VariableTree::currentChanged, this, &frmInterface::selectionChanged);
     connect(m_variables, &VariableTree::used, m_canvas, &Canvas::chooseNone);
 }
 

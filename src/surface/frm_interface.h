@@ -92,6 +92,7 @@ public:
     void setCaption(const QString &name);
     PanelArea &panels() { return *m_panels; }
     LibraryPanel &library() { return *m_library; }
+    VariableTree &variables() { return *m_variables; }
     CanvasView &view() { return *m_canvasView; }
     // Outlines of the picture's safe areas, from now on and at the next start.
     void showSafeAreas(bool shown);

@@ -112,6 +112,7 @@ VariableTree::VariableTree(const VariableTreeContext &context)
                 edit(keyOf(item));
         });
     }
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, &VariableTree::currentChanged);
     connect(m_tree, &QTreeWidget::itemExpanded, this, &VariableTree::fillDetails);
     connect(m_tree, &QTreeWidget::itemPressed, this, [this](const QTreeWidgetItem *item) {
         emit used();
@@ -222,14 +223,37 @@ void VariableTree::filter(const QString &text)
 
 void VariableTree::edit(const QString &key)
 {
-    const auto line = variableLine(key);
-    if (!line)
-        return;
+    if (const auto line = variableLine(key))
+        change(line->index, [&] { return editRecord(line->role, line->index); });
+}
+
+int VariableTree::currentVariable() const
+{
+    const QTreeWidgetItem *item = m_tree->currentItem();
+    while (item && item->parent() && !isVariable(*item))
+        item = item->parent();
+    return item ? item->data(0, IndexRole).toInt() : 0;
+}
+
+void VariableTree::editFilter()
+{
+    const int index = currentVariable();
+    change(index, [&] { return m_editors.editFilter(index, window()); });
+}
+
+void VariableTree::editCalculus()
+{
+    const int index = currentVariable();
+    change(index, [&] { return m_editors.editCalculus(index, window()); });
+}
+
+void VariableTree::change(int index, const std::function<bool()> &edit)
+{
     bool changed = false;
-    platform::skipFailures([&] { changed = editRecord(line->role, line->index); });
+    platform::skipFailures([&] { changed = edit(); });
     if (!changed)
         return;
-    m_edited = line->index;
+    m_edited = index;
     variables::commitEdits(m_context.catalogue, m_context.folders, m_context.locale, m_context.prompts);
     RegenerateVariableTree();
 }

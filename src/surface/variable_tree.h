@@ -13,6 +13,7 @@
 #include <QTreeWidget>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace surface {
@@ -48,7 +49,14 @@ public:
     // Builds the tree anew from the staging table; open branches stay open, the current line stays current.
     void RegenerateVariableTree();
 
+    // The index of the variable that is the current line or has it below; 0 for none.
+    int currentVariable() const;
+    // Of the current variable, as a press on one of its lines edits what that says.
+    void editFilter();
+    void editCalculus();
+
 signals:
+    void currentChanged();
     void used(); // a press that takes the surface's group marks away
 
 private:
@@ -56,6 +64,8 @@ private:
     void addVariable(QTreeWidgetItem *group, qsizetype index);
     void fillDetails(QTreeWidgetItem *item);
     void edit(const QString &key);
+    // Runs what edits this variable, and keeps and shows what has become of it.
+    void change(int index, const std::function<bool()> &edit);
     bool editRecord(const QString &about, int index);
     void filter(const QString &text);
     void openBranches(const QSet<QString> &keys);

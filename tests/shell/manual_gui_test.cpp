@@ -1,11 +1,14 @@
 // Nothing that the program shows may be missing from the manual.
 
+#include "graphics/dialogs/frm_font_gen.h"
 #include "recorder/dialogs/frm_gear_ratios.h"
 #include "shell/commands.h"
 #include "support/design_window.h"
 #include "surface/variable_labels.h"
+#include "variables/editors/frm_calculus_setup.h"
 #include "variables/editors/frm_curve_fit.h"
 #include "variables/editors/frm_enter_equation_manually.h"
+#include "variables/editors/frm_filter_design.h"
 #include "variables/editors/frm_variable_transformation.h"
 #include "variables/expression/compiler.h"
 #include "variables/expression/opcodes.h"
@@ -130,6 +133,9 @@ TEST(Manual, NamesEveryFieldOfADialog)
     const variables::frmVariableTransformation transformation(1, w.world.state.catalogue, coefficients,
                                                               context);
     expectFields("equations.html", transformation);
+    expectFields("filters.html", variables::frmFilterDesign({}, {}, context));
+    expectFields("filters.html", variables::FrmCalculusSetup({}, context));
+    expectFields("fonts.html", graphics::frmFontGen(w.world.state.fonts, {}, context));
 }
 
 TEST(Manual, NamesWhatAnEquationIsMadeOf)

@@ -1,7 +1,9 @@
 #include "platform/file_replace.h"
 #include "support/design_window.h"
+#include "support/widgets.h"
 #include "variables/definition_file.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QTreeWidget>
@@ -124,6 +126,32 @@ TEST_F(VariableTree, AVariableDroppedOnAControlIsBoundToIt)
     EXPECT_FALSE(drops({510, 510})); // shows no variable
     EXPECT_FALSE(drops({100, 300})); // beside both
     EXPECT_EQ(w.design().controls().size(), 2);
+}
+
+TEST_F(VariableTree, TheToolsMenuEditsTheChosenVariable)
+{
+    const QAction &filter = w.action("mnuFilter");
+    standard->setExpanded(true);
+    tree.setCurrentItem(standard);
+    EXPECT_FALSE(filter.isEnabled());
+    standard->child(1)->setExpanded(true);
+    tree.setCurrentItem(standard->child(1)->child(1)); // a line below it will do
+    EXPECT_TRUE(filter.isEnabled());
+    test::whenOpened([](QWidget &window) {
+        EXPECT_EQ(window.windowTitle(), "Filter design for Engine speed");
+        test::child<QComboBox>(window, "cmbModel").setCurrentText("Butterworth Filter");
+        test::press(window, "cmdOk");
+    });
+    w.run("mnuFilter");
+    test::whenOpened([](QWidget &window) {
+        test::child<QComboBox>(window, "CalcCombo").setCurrentIndex(2);
+        test::press(window, "cmdOk");
+    });
+    w.run("mnuCalculus");
+    variables::Catalogue kept;
+    loadDefinitions(platform::readFile(w.world.state.folders.variablesFile()), kept);
+    EXPECT_EQ(kept.live[3].FilterDesign, 4);
+    EXPECT_EQ(kept.live[3].calculus, 2);
 }
 
 } // namespace

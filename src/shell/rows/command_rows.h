@@ -8,6 +8,7 @@ namespace shell {
 std::span<const Command> fileRows();
 std::span<const Command> viewRows();
 std::span<const Command> configurationRows();
+std::span<const Command> toolsRows();
 std::span<const Command> helpRows();
 std::span<const Command> editingRows();
 
