@@ -160,7 +160,7 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
 TEST_F(Files, markerFileAboveTheProgramMovesTheUserDataAtOnce)
 {
     QDir(folder.path()).mkdir("bin");
-    Folders folders{at("bin/"), {}, {}, {}};
+    Folders folders{at("bin/"), {}, {}, {}, {}};
     EXPECT_EQ(folders.ConfigFile(), "QLM6ConfigTool.cfg"); // no data folder: relative
     folders.applicationData = "/home/driver/";
     EXPECT_EQ(folders.GetAppDataFolder(), "/home/driver/Torvane/");
