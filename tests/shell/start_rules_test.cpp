@@ -66,7 +66,7 @@ struct UserData : testing::Test
 
 TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
 {
-    const platform::Folders folders{path("bin/"), path("home/"), {}, {}};
+    const platform::Folders folders{path("bin/"), path("home/"), {}, {}, {}};
     QDir(root.path()).mkpath("bin/defaults");
     EXPECT_TRUE(isNewUser(folders));
     const QStringList definitions{"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg"};
