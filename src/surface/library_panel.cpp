@@ -8,8 +8,11 @@
 #include "surface/drag_source.h"
 #include "surface/panel.h"
 
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTreeWidgetItemIterator>
+
+#include <algorithm>
 
 namespace surface {
 
@@ -163,7 +166,10 @@ void LibraryPanel::resetBar()
 {
     setStretchFactor(0, TreeShare);
     const int room = width() - handleWidth();
-    const int tree = room * TreeShare / (TreeShare + ListShare);
+    const QAbstractItemView &names = *m_tree;
+    const int whole =
+        names.sizeHintForColumn(0) + names.verticalScrollBar()->sizeHint().width() + 2 * names.frameWidth();
+    const int tree = std::max(room * TreeShare / (TreeShare + ListShare), std::min(whole, room / 2));
     setSizes({tree, room - tree});
 }
 
