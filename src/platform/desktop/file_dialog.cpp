@@ -82,7 +82,8 @@ FileDialog::FileDialog(QWidget *parent, const FileRequest &request, AcceptMode m
         addPreview(request.preview);
     constexpr QSize WithoutPreview(820, 460);
     const QSize wanted = WithoutPreview + QSize(request.preview ? PreviewSize.width() : 0, 0);
-    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+    constexpr QSize WindowFrame(16, 48); // at least
+    resize(wanted.boundedTo(screen()->availableSize() - WindowFrame));
     showWholeColumns();
     if (auto *splitter = findChild<QSplitter *>())
         splitter->setSizes({160, width() - 160}); // the names of volumes are read, not guessed
