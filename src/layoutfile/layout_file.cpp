@@ -141,11 +141,6 @@ QByteArray LayoutWriter::finish(const RecordGroups &groups)
     return m_out.bytes();
 }
 
-QByteArray assembleLayout(const RecordGroups &groups, const platform::Stamp &stamp)
-{
-    return LayoutWriter(stamp).finish(groups);
-}
-
 bool IsValidVGL(QByteArrayView file)
 {
     if (file.size() <= CrcSize)

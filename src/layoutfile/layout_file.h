@@ -42,9 +42,6 @@ private:
     std::size_t m_next = 0; // place in the format's order
 };
 
-// The whole file at once.
-QByteArray assembleLayout(const RecordGroups &groups, const platform::Stamp &stamp);
-
 // Whether the last four bytes are the CRC of all before them. That is all the validation there is.
 bool IsValidVGL(QByteArrayView file);
 

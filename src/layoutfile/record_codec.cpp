@@ -143,13 +143,6 @@ RecordType LayoutRecord::type() const
     return std::visit([](const auto &record) { return std::decay_t<decltype(record)>::Type; }, body);
 }
 
-QByteArray encodePayload(const RecordBody &body)
-{
-    ByteWriter writer;
-    encodePayload(body, writer);
-    return writer.bytes();
-}
-
 void encodePayload(const RecordBody &body, ByteWriter &out)
 {
     std::visit([&](const auto &record) { record.visit(record, FieldWriter(out)); }, body);

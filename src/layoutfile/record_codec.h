@@ -23,8 +23,7 @@ struct LayoutRecord
     RecordType type() const;
 };
 
-// The payload's bytes, by themselves or at the end of what `out` holds.
-QByteArray encodePayload(const RecordBody &body);
+// Adds the payload's bytes to the end of `out`.
 void encodePayload(const RecordBody &body, common::ByteWriter &out);
 
 // The length that the frame states for a payload: its own, but for the two types whose stated size is off on

@@ -5,8 +5,7 @@
 #include "graphics/planes.h"
 #include "layoutfile/fold_variables.h"
 #include "layoutfile/images.h"
-#include "layoutfile/layout_file.h"
-#include "layoutfile/modCRC.h"
+#include "layoutfile/layout_bytes.h"
 #include "layoutfile/settings_from_records.h"
 #include "platform/guards.h"
 #include "variables/definition_file.h"
@@ -30,19 +29,17 @@ using layoutfile::RecordType;
 QByteArray withGoodCrc(QByteArrayView bytes)
 {
     const QByteArrayView content = bytes.first(std::max<qsizetype>(bytes.size() - 4, 0));
-    const quint32 crc = layoutfile::modCRC(content);
-    const QByteArray sum(reinterpret_cast<const char *>(&crc), sizeof crc);
-    return content.isEmpty() ? bytes.toByteArray() : content.toByteArray() + sum;
+    return content.isEmpty() ? bytes.toByteArray() : test::withCrc(content.toByteArray());
 }
 
 // What was read can be written, and reads back the same.
 bool settles(const LayoutRecord &record)
 {
-    const QByteArray payload = layoutfile::encodePayload(record.body);
+    const QByteArray payload = test::payloadOf(record.body);
     const qint32 stated = layoutfile::statedSize(record.body, payload.size());
     common::ByteReader reader(payload);
     const auto again = layoutfile::decodePayload(static_cast<qint16>(record.type()), stated, reader);
-    return again && reader.remaining() == 0 && layoutfile::encodePayload(*again) == payload;
+    return again && reader.remaining() == 0 && test::payloadOf(*again) == payload;
 }
 
 // Every stored bitmap has planes that fit together, or none.

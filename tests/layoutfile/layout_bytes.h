@@ -48,6 +48,18 @@ inline platform::Stamp stamp(const QString &user, const QString &computer)
     return {[] { return QDateTime({2005, 12, 31}, {23, 59}); }, user, computer};
 }
 
+inline QByteArray payloadOf(const layoutfile::RecordBody &body)
+{
+    common::ByteWriter out;
+    layoutfile::encodePayload(body, out);
+    return out.bytes();
+}
+
+inline QByteArray fileOf(const layoutfile::RecordGroups &groups, const platform::Stamp &stamp)
+{
+    return layoutfile::LayoutWriter(stamp).finish(groups);
+}
+
 // The header of stamp("driver", "pitwall").
 inline QByteArray header()
 {

@@ -84,7 +84,7 @@ TEST(ProgramPass, everyUsedVariableGetsItsProgramOrNone)
     const platform::NumberLocale locale;
     ProgramPass pass(catalogue, used, locale);
     for (const VariableEntry &entry : expected)
-        EXPECT_EQ(encodePayload(pass.entry(entry.variable)).toHex(), encodePayload(entry).toHex());
+        EXPECT_EQ(test::payloadOf(pass.entry(entry.variable)).toHex(), test::payloadOf(entry).toHex());
     EXPECT_EQ(pass.programs().size(), 272);
     EXPECT_TRUE(pass.programs().startsWith(Doubled));
     EXPECT_TRUE(pass.programs().endsWith(bytes("01120100 0119")));

@@ -179,7 +179,7 @@ QStringList contents(const QByteArray &file)
     QStringList lines;
     qsizetype thumbnail = 0;
     for (const LayoutRecord &record : parseLayout(file)) {
-        const QByteArray payload = encodePayload(record.body);
+        const QByteArray payload = test::payloadOf(record.body);
         if (record.type() == RecordType::Thumbnail)
             thumbnail = payload.size();
         else

@@ -14,7 +14,7 @@ struct Row
     const char *notation = nullptr; // none where the round trips of the families have the bytes
     qsizetype statedSize = payload().size();
 
-    QByteArray payload() const { return notation ? bytes(notation) : encodePayload(body); }
+    QByteArray payload() const { return notation ? bytes(notation) : test::payloadOf(body); }
 };
 
 constexpr common::Yuv White{235, 128, 127}, Red{81, 90, 240};
@@ -71,10 +71,10 @@ TEST(RecordBytes, aFileIsHeaderRecordsWithSumsAndCrcInTheFormatsOrder)
     std::reverse(all.begin(), all.end());
     RecordGroups groups;
     for (const Row &row : all) {
-        EXPECT_EQ(encodePayload(row.body).toHex(' '), row.payload().toHex(' ')) << "type " << row.type;
+        EXPECT_EQ(test::payloadOf(row.body).toHex(' '), row.payload().toHex(' ')) << "type " << row.type;
         groups.add(row.body, static_cast<qint16>(row.type * 9));
     }
-    EXPECT_EQ(assembleLayout(groups, test::stamp("driver", "pitwall")).toHex(), test::withCrc(file).toHex());
+    EXPECT_EQ(test::fileOf(groups, test::stamp("driver", "pitwall")).toHex(), test::withCrc(file).toHex());
 }
 
 TEST(RecordBytes, theHeaderStampsClockUserAndComputerAndCountsInTheSumOfAnIcon)
@@ -90,7 +90,7 @@ TEST(RecordBytes, theHeaderStampsClockUserAndComputerAndCountsInTheSumOfAnIcon)
     for (const auto &[user, computer, names] : cases) {
         const QByteArray header = bytes("'QLVGL' 030000 1F0C05 173B") + bytes(names);
         const QByteArray icon = bytes("01 2000 0800 0000 0000 FF") + planes;
-        EXPECT_EQ(assembleLayout(groups, test::stamp(user, computer)),
+        EXPECT_EQ(test::fileOf(groups, test::stamp(user, computer)),
                   test::withCrc(test::withRecord(header, 27, 522, 1, icon)))
             << names;
     }

@@ -196,7 +196,7 @@ TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
         auto expected = linked.payloads;
         for (const LayoutRecord &record : parseLayout(test::savedDesign(d))) {
             if (const auto found = expected.find(record.type()); found != expected.end()) {
-                EXPECT_EQ(encodePayload(record.body).toHex(), test::bytes(found->second).toHex());
+                EXPECT_EQ(test::payloadOf(record.body).toHex(), test::bytes(found->second).toHex());
                 expected.erase(found);
             }
         }
@@ -214,10 +214,10 @@ TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
     for (const graphics::FontRequest &font : {graphics::FontRequest{"Block", 12, {}}, {"Block", 14, {true}}})
         test::writeBlockFont(d.world, font);
     RecordGroups groups = someLayout();
-    test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
+    test::loadDesign(d, test::fileOf(groups, d.world.state.stamp));
     const QByteArray file = test::savedDesign(d);
     groups.add(ThumbnailRecord{Bulk{extractThumbnail(file)}});
-    EXPECT_EQ(file.toHex(), assembleLayout(groups, d.world.state.stamp).toHex());
+    EXPECT_EQ(file.toHex(), test::fileOf(groups, d.world.state.stamp).toHex());
 
     const QDir copies(d.world.state.folders.pictureFolder());
     EXPECT_EQ(copies.entryList(QDir::Files),
@@ -243,7 +243,7 @@ TEST(Load, aRefusedFileChangesNothing)
 {
     DesignWindow d;
     const auto settings = d.world.state.settings;
-    const QByteArray file = assembleLayout(someLayout(), d.world.state.stamp);
+    const QByteArray file = test::fileOf(someLayout(), d.world.state.stamp);
     for (const QByteArray &damaged : {file + 'x', file.first(4)}) {
         d.world.prompts.expectMessage("Invalid File Format");
         test::loadDesign(d, damaged);
@@ -254,6 +254,14 @@ TEST(Load, aRefusedFileChangesNothing)
     EXPECT_EQ(d.design().caption(), "Untitled");
 }
 
+QString lacksPictures(int bitmaps)
+{
+    return QStringLiteral(
+               "The layout does not hold the pictures of %1 bitmaps in full. Choose them again in the "
+               "properties: a bitmap without pictures is not saved.")
+        .arg(bitmaps);
+}
+
 TEST(Load, saysWhichPicturesALayoutDoesNotHold)
 {
     DesignWindow d;
@@ -262,10 +270,8 @@ TEST(Load, saysWhichPicturesALayoutDoesNotHold)
         groups.add(BitmapRecord{2, 2, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0, 0, 0});
     groups.add(ImagePlanesRecord{Bulk{"YYYYUVAAAA"
                                       "YYYYUVA"}});
-    d.world.prompts.expectMessage(
-        "The layout does not hold the pictures of 2 bitmaps in full. Choose them again in "
-        "the properties: a bitmap without pictures is not saved.");
-    test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
+    d.world.prompts.expectMessage(lacksPictures(2));
+    test::loadDesign(d, test::fileOf(groups, d.world.state.stamp));
     EXPECT_EQ(d.design().controls().size(), 3);
 }
 
@@ -298,10 +304,8 @@ TEST(Load, extremeValuesLeaveADesignThatWorks)
     groups.add(VariableEntry{2, 1, Nan, Infinite, -1, 1});
     groups.add(ChapterRecord{255, Nan, 255, -5, 255, Infinite});
     DesignWindow d;
-    d.world.prompts.expectMessage(
-        "The layout does not hold the pictures of 3 bitmaps in full. Choose them again in "
-        "the properties: a bitmap without pictures is not saved.");
-    test::loadDesign(d, assembleLayout(groups, d.world.state.stamp));
+    d.world.prompts.expectMessage(lacksPictures(3));
+    test::loadDesign(d, test::fileOf(groups, d.world.state.stamp));
     EXPECT_EQ(d.design().controls().size(), 22);
     EXPECT_FALSE(d.canvas().grab().isNull());
     const variables::VariableRecord &speed = d.world.state.catalogue.live[2];
