@@ -16,8 +16,6 @@ constexpr int HeightStep = 2;
 
 qsizetype area(QSize size) { return qsizetype{size.width()} * size.height(); }
 
-QSize chromaSize(QSize size) { return {size.width() / 2, size.height() / 2}; }
-
 bool hasSize(const QByteArray &plane, QSize size) { return plane.size() == area(size); }
 
 bool covers(const QByteArray &plane, QSize size) { return plane.size() >= area(size); }

@@ -11,7 +11,7 @@ struct Planes
     int width = 0;
     int height = 0;
     QByteArray y; // one byte a pixel
-    QByteArray u; // one byte a block of 2 by 2: (width / 2) x (height / 2), rounded down
+    QByteArray u; // one byte a block of 2 by 2: of chromaSize()
     QByteArray v; // the same; what a file holds of either beyond that is kept
 
     // Planes of this size with undefined contents; empty ones where a side is below 1.
@@ -39,6 +39,9 @@ struct AlphaPlane
 
 // What a pixel outside a picture reads as, 0x00BBGGRR: all bits set, as on a drawing surface.
 constexpr quint32 OutsideColour = 0xFFFFFF;
+
+// The size of the U and V planes of a picture of this size.
+constexpr QSize chromaSize(QSize picture) { return {picture.width() / 2, picture.height() / 2}; }
 
 // The size up to a multiple of 8 and a multiple of 2, which is what the recorder's blocks ask for.
 QSize alignedSize(QSize size);

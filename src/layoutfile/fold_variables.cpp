@@ -1,5 +1,6 @@
 #include "layoutfile/fold_variables.h"
 
+#include "layoutfile/layout_file.h"
 #include "variables/expression/rebuilder.h"
 #include "variables/units.h"
 
@@ -10,16 +11,6 @@ namespace layoutfile {
 namespace {
 
 using variables::VariableRecord;
-
-QByteArray storedPrograms(const std::vector<LayoutRecord> &records)
-{
-    QByteArray programs;
-    for (const LayoutRecord &record : records) {
-        if (const auto *stored = std::get_if<ProgramsRecord>(&record.body))
-            programs = stored->data.bytes;
-    }
-    return programs;
-}
 
 // Empty when the entry has none or points outside the stored bytes.
 QByteArray programOf(const VariableEntry &entry, const QByteArray &programs)
@@ -120,7 +111,7 @@ private:
 void foldVariables(const std::vector<LayoutRecord> &records, variables::Catalogue &catalogue,
                    const platform::NumberLocale &locale)
 {
-    const QByteArray programs = storedPrograms(records);
+    const QByteArray programs = bulkOf<ProgramsRecord>(records);
     Folding folding(catalogue, locale);
     for (const LayoutRecord &record : records) {
         const auto *entry = std::get_if<VariableEntry>(&record.body);

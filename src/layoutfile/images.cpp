@@ -4,28 +4,20 @@ namespace layoutfile {
 
 namespace {
 
-QByteArray imagePlanes(const std::vector<LayoutRecord> &records)
+// The next plane; nothing, and nothing from then on, where it is not there in full.
+QByteArray take(common::ByteReader &planes, QSize size)
 {
-    QByteArray planes;
-    for (const LayoutRecord &record : records) {
-        if (const auto *stored = std::get_if<ImagePlanesRecord>(&record.body))
-            planes = stored->data.bytes;
-    }
-    return planes;
+    return planes.get(qsizetype{size.width()} * size.height()).toByteArray();
 }
-
-// The next `length` bytes; nothing, and nothing from then on, where there are not so many.
-QByteArray take(common::ByteReader &planes, qsizetype length) { return planes.get(length).toByteArray(); }
 
 StoredImage takeImage(common::ByteReader &planes, const BitmapRecord &bitmap, int number)
 {
-    if (bitmap.width <= 0 || bitmap.height <= 0)
+    const QSize size(bitmap.width, bitmap.height), chroma = graphics::chromaSize(size);
+    if (size.isEmpty())
         return {number};
-    const qsizetype luma = qsizetype{bitmap.width} * bitmap.height;
-    const qsizetype chroma = qsizetype{bitmap.width / 2} * (bitmap.height / 2);
-    const graphics::Planes colours{bitmap.width, bitmap.height, take(planes, luma), take(planes, chroma),
+    const graphics::Planes colours{size.width(), size.height(), take(planes, size), take(planes, chroma),
                                    take(planes, chroma)};
-    const graphics::AlphaPlane alpha{bitmap.width, bitmap.height, take(planes, luma)};
+    const graphics::AlphaPlane alpha{size.width(), size.height(), take(planes, size)};
     return {number, graphics::PlanePicture::fromFile(colours, alpha), alpha.isComplete()};
 }
 
@@ -45,7 +37,7 @@ void ImageList::addRecord(RecordGroups &groups) const
 
 StoredImages storedImages(const std::vector<LayoutRecord> &records)
 {
-    const QByteArray bytes = imagePlanes(records);
+    const QByteArray bytes = bulkOf<ImagePlanesRecord>(records);
     common::ByteReader planes(bytes);
     StoredImages images;
     int number = 0;

@@ -3,6 +3,7 @@
 #include "layoutfile/record_codec.h"
 #include "platform/stamp.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace layoutfile {
@@ -48,6 +49,16 @@ bool IsValidVGL(QByteArrayView file);
 // All records in file order. Any bytes may be passed: what is no record is skipped four bytes at a time, a
 // record that the end cuts off ends the walk. Fonts are left out, the tool makes them again.
 std::vector<LayoutRecord> parseLayout(QByteArrayView file);
+
+// The bytes of a bulk record that a layout holds once; of the last one where it holds several, and none where
+// it holds none.
+template <typename Record>
+QByteArray bulkOf(const std::vector<LayoutRecord> &records)
+{
+    const auto isIt = [](const LayoutRecord &record) { return record.type() == Record::Type; };
+    const auto last = std::find_if(records.rbegin(), records.rend(), isIt);
+    return last == records.rend() ? QByteArray() : std::get<Record>(last->body).data.bytes;
+}
 
 // The JPEG of the thumbnail record; empty when the file is invalid or has none.
 QByteArray extractThumbnail(QByteArrayView file);

@@ -1,6 +1,5 @@
 #include "layoutfile/record_codec.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -30,7 +29,7 @@ public:
         for (const float value : b)
             m_out.put(value);
     }
-    void planes(const QByteArray &bytes, qint16, qint16) { m_out.put(QByteArrayView(bytes)); }
+    void run(const QByteArray &bytes, qsizetype) { m_out.put(QByteArrayView(bytes)); }
 
 private:
     template <common::Scalar T>
@@ -73,12 +72,7 @@ public:
                 get(value);
         }
     }
-    // No length stands before them: it follows from the picture's size.
-    void planes(QByteArray &bytes, qint16 width, qint16 height)
-    {
-        const qsizetype luma = std::min(width, height) < 0 ? -1 : qsizetype{width} * height;
-        bytes = m_in.get(luma + 2 * (luma / 4)).toByteArray();
-    }
+    void run(QByteArray &bytes, qsizetype size) { bytes = m_in.get(size).toByteArray(); }
 
 private:
     template <common::Scalar T>
@@ -152,10 +146,10 @@ qint32 statedSize(const RecordBody &body, qsizetype payloadSize)
 {
     // Half of the true payload: deliberate, and harmless since no record follows this group.
     constexpr qint32 CustomDialStatedSize = 83;
-    constexpr qint32 IconFields = 10;
+    constexpr qsizetype IconFields = 10;
     // Twice the Y plane where one and a half times is stored: deliberate.
     if (const auto *icon = std::get_if<SpecialIconRecord>(&body))
-        return IconFields + 2 * icon->width * icon->height;
+        return static_cast<qint32>(IconFields + 2 * icon->lumaSize());
     if (std::holds_alternative<CustomDialRecord>(body))
         return CustomDialStatedSize;
     return static_cast<qint32>(payloadSize);

@@ -4,9 +4,8 @@
 #include "common/colour.h"
 
 #include <QByteArray>
-#include <QString>
 
-#include <array>
+#include <algorithm>
 #include <vector>
 
 namespace layoutfile {
@@ -352,12 +351,17 @@ struct SpecialIconRecord
     quint8 entry = 0; // from 1
     qint16 width = 0, height = 0, top = 0, left = 0;
     quint8 alpha = 0;
-    QByteArray planes; // Y of width x height, U and V of a quarter of that each
+    QByteArray planes; // Y, U and V
+
+    // Bytes. U and V have a quarter of the pixels each, also where a side is odd.
+    qsizetype lumaSize() const { return qsizetype{width} * height; }
+    qsizetype chromaSize() const { return lumaSize() / 4; }
 
     static void visit(auto &r, auto &&field)
     {
         field(r.entry, r.width, r.height, r.top, r.left, r.alpha);
-        field.planes(r.planes, r.width, r.height);
+        // No length stands before them: it follows from the sides. No planes have negative ones.
+        field.run(r.planes, std::min(r.width, r.height) < 0 ? -1 : r.lumaSize() + 2 * r.chromaSize());
     }
 };
 

@@ -19,11 +19,9 @@ recorder::RecordingTrigger trigger(const Record &r)
     return {r.variable, listed(r.condition, recorder::LastCondition), r.value, r.time};
 }
 
-// The record holds a quarter of the pixels as U and as V also where a side is odd.
 graphics::PlanePicture pictureOf(const SpecialIconRecord &icon)
 {
-    const qsizetype luma = qsizetype{icon.width} * icon.height;
-    const qsizetype chroma = luma / 4;
+    const qsizetype luma = icon.lumaSize(), chroma = icon.chromaSize();
     return graphics::PlanePicture::fromFile({icon.width, icon.height, icon.planes.first(luma),
                                              icon.planes.sliced(luma, chroma), icon.planes.last(chroma)},
                                             {});
