@@ -1,5 +1,7 @@
 #include "layoutfile/record_codec.h"
 
+#include "common/rounding.h"
+
 #include <array>
 #include <cmath>
 #include <utility>
@@ -152,7 +154,7 @@ qint32 statedSize(const RecordBody &body, qsizetype payloadSize)
         return static_cast<qint32>(IconFields + 2 * icon->lumaSize());
     if (std::holds_alternative<CustomDialRecord>(body))
         return CustomDialStatedSize;
-    return static_cast<qint32>(payloadSize);
+    return common::toInteger<qint32>(static_cast<double>(payloadSize));
 }
 
 std::optional<RecordBody> decodePayload(qint16 type, qint32 size, ByteReader &reader)

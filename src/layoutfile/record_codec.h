@@ -27,7 +27,7 @@ struct LayoutRecord
 void encodePayload(const RecordBody &body, common::ByteWriter &out);
 
 // The length that the frame states for a payload: its own, but for the two types whose stated size is off on
-// purpose (special icon and custom dial).
+// purpose (special icon and custom dial). Throws RunTimeError for more than the frame can state.
 qint32 statedSize(const RecordBody &body, qsizetype payloadSize);
 
 // Reads the payload of a record of this type from `reader`, whose frame stated `size` bytes. Types with a
