@@ -22,7 +22,8 @@ using ControlList = QList<OverlayControl *>;
 const QString SharedCamera = u"Invalid configuration\n"
                              "Current configuration used same camera no for several video objects "_s;
 
-bool checksCameras(SaveKind kind) { return kind == SaveKind::Command || kind == SaveKind::Workspace; }
+// A copy for the case of need. Nothing is said as it is made, and shared cameras do not refuse it.
+bool isSpare(SaveKind kind) { return kind == SaveKind::Backup || kind == SaveKind::Recovery; }
 
 std::vector<ControlKind> kindsOf(const ControlList &controls)
 {
@@ -163,7 +164,7 @@ void gatherThumbnail(RecordGroups &groups, SaveKind kind, const SaveContext &con
         const graphics::Thumbnail made = graphics::thumbnailOf(context.surface.renderPreview());
         if (made.fault.isEmpty())
             groups.add(ThumbnailRecord{Bulk{made.jpeg}});
-        else if (checksCameras(kind))
+        else if (!isSpare(kind))
             context.prompts.message(platform::Icon::None, platform::ProductTitle, made.fault);
     });
 }
@@ -181,7 +182,7 @@ LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlLi
     ProgressScope progress(context.progress, kind == SaveKind::Command ? u"Saving configuration....."_s
                                                                        : u"Saving workspace....."_s);
     gatherControls(save, kind, controls, progress);
-    if (checksCameras(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
+    if (!isSpare(kind) && sharesCamera(save.groups.of(RecordType::VideoSource)))
         return {{}, SharedCamera};
     markSettings(save.used, context.settings);
     LayoutWriter file(context.stamp);
