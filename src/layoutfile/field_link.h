@@ -7,9 +7,9 @@
 
 namespace layoutfile {
 
-// The two directions of a family's link(values, record, field), which names each property beside its record
-// field. Both sides are of one type, but that a colour is stored as Y, U, V or, where
-// no recorder draws it, packed, and a text of fixed width in the code page.
+// The two directions of a link(values, record, field), which names each property of a family, or each member
+// of a setting, beside its record field. Both sides are of one type, but that a colour is stored as Y, U, V
+// or, where no recorder draws it, packed, and a text of fixed width in the code page.
 
 struct ToRecord
 {

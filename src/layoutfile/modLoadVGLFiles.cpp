@@ -3,7 +3,7 @@
 #include "controls/overlay_control.h"
 #include "layoutfile/family_records.h"
 #include "layoutfile/fold_variables.h"
-#include "layoutfile/settings_from_records.h"
+#include "layoutfile/settings_records.h"
 #include "platform/file_replace.h"
 #include "platform/guards.h"
 #include "variables/definition_file.h"

@@ -1,10 +1,10 @@
 #include "layoutfile/modSaveVGLFiles.h"
 
-#include "common/rounding.h"
 #include "graphics/thumbnail.h"
 #include "layoutfile/family_records.h"
 #include "layoutfile/program_pass.h"
 #include "layoutfile/save_checks.h"
+#include "layoutfile/settings_records.h"
 #include "platform/guards.h"
 
 #include <algorithm>
@@ -86,75 +86,6 @@ void gatherVariables(Gathering &save, const SaveContext &context, ProgressScope 
         progress.advance(50, 10, ++done, count);
     }
     save.groups.add(ProgramsRecord{Bulk{pass.programs()}});
-}
-
-void gatherChapters(RecordGroups &groups, const std::vector<recorder::ChapterCondition> &chapters,
-                    ProgressScope &progress)
-{
-    qsizetype done = 0;
-    for (const recorder::ChapterCondition &c : chapters) {
-        groups.add(ChapterRecord{c.type, c.value1, c.sign1, c.variable, c.sign2, c.value2});
-        progress.advance(60, 10, ++done, static_cast<qsizetype>(chapters.size()));
-    }
-}
-
-template <typename Record>
-void gatherTrigger(RecordGroups &groups, const recorder::RecordingTrigger &trigger)
-{
-    if (trigger.condition != 0)
-        groups.add(Record{trigger.variable, trigger.value, trigger.condition, trigger.time});
-}
-
-void gatherGears(RecordGroups &groups, const recorder::RecorderSettings &settings)
-{
-    GearsRecord gears;
-    gears.pulsesPerRevolution = settings.PulsesPerRevolution;
-    for (const recorder::GearLimits &limits : settings.GearTable) {
-        gears.lower.push_back(limits.lower);
-        gears.upper.push_back(limits.upper);
-    }
-    gears.method = settings.GearMethod;
-    gears.variable = settings.GearVariable;
-    groups.add(std::move(gears));
-}
-
-void gatherMessages(RecordGroups &groups, const recorder::MessageTable &table)
-{
-    for (const recorder::MessageEntry &entry : table) {
-        groups.add(MessageStorageRateRecord{entry.number, entry.storageRate});
-        groups.add(MessageOutputRateRecord{entry.number, entry.outputRate});
-    }
-}
-
-void gatherIcon(RecordGroups &groups, const recorder::SpecialIcon &icon)
-{
-    const graphics::Planes &planes = icon.picture.planes();
-    if (icon.enabled) {
-        groups.add(SpecialIconRecord{1, common::toInteger<qint16>(planes.width),
-                                     common::toInteger<qint16>(planes.height), icon.top, icon.left,
-                                     icon.alpha, planes.y + planes.u + planes.v});
-    }
-}
-
-void gatherSettings(RecordGroups &groups, const recorder::RecorderSettings &settings, ProgressScope &progress)
-{
-    gatherChapters(groups, settings.ChapterList, progress);
-    if (settings.LapChapterActive == 1)
-        groups.add(LapChaptersRecord{settings.LapChapterType});
-    progress.setValue(65);
-    gatherTrigger<AutoStartRecord>(groups, settings.autoStart);
-    progress.setValue(70);
-    gatherTrigger<AutoStopRecord>(groups, settings.autoStop);
-    progress.setValue(75);
-    groups.add(VideoStandardRecord{static_cast<quint8>(settings.VideoType)});
-    progress.setValue(80);
-    groups.add(BitRateRecord{static_cast<quint8>(settings.CurrentBitRate + 1),
-                             static_cast<quint8>(settings.encodePattern)});
-    progress.setValue(85);
-    gatherMessages(groups, settings.MessageTable);
-    progress.setValue(90);
-    gatherGears(groups, settings);
-    gatherIcon(groups, settings.icon);
 }
 
 // A layout without its thumbnail is still a layout.

@@ -28,7 +28,7 @@ void markSettings(UsedVariables &used, const recorder::RecorderSettings &setting
     for (const recorder::ChapterCondition &chapter : settings.ChapterList)
         used.mark(chapter.variable);
     for (const recorder::RecordingTrigger *trigger : {&settings.autoStart, &settings.autoStop}) {
-        if (trigger->condition != 0)
+        if (trigger->isActive())
             used.mark(trigger->variable);
     }
 }

@@ -51,6 +51,7 @@ struct RecordingTrigger
     float value = 0;
     quint8 time = 0;
 
+    bool isActive() const { return condition != 0; }
     bool operator==(const RecordingTrigger &) const = default;
 };
 

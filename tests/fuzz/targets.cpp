@@ -6,7 +6,7 @@
 #include "layoutfile/fold_variables.h"
 #include "layoutfile/images.h"
 #include "layoutfile/layout_bytes.h"
-#include "layoutfile/settings_from_records.h"
+#include "layoutfile/settings_records.h"
 #include "platform/guards.h"
 #include "variables/definition_file.h"
 #include "variables/expression/compiler.h"

@@ -1,5 +1,5 @@
 #include "layoutfile/layout_bytes.h"
-#include "layoutfile/settings_from_records.h"
+#include "layoutfile/settings_records.h"
 
 #include <gtest/gtest.h>
 
