@@ -8,14 +8,6 @@ namespace recorder {
 
 namespace {
 
-constexpr quint8 Stream = 0;
-constexpr quint8 NeededEvent = 2;
-
-constexpr quint8 codeOf(RateCode rate) { return static_cast<quint8>(rate); }
-
-constexpr quint8 On = codeOf(RateCode::Hz100);
-constexpr quint8 Off = codeOf(RateCode::Disabled);
-
 constexpr std::array StreamRates{"100Hz", "50Hz",  "25Hz",  "10Hz",  "5Hz",
                                  "1Hz",   "0.5Hz", "0.2Hz", "0.1Hz", "Disabled"};
 
@@ -50,17 +42,17 @@ std::optional<int> firstRow(const MessageTable &table, int from, Condition holds
 
 forms::Choices rateChoices(quint8 kind)
 {
-    if (kind != Stream)
-        return {{rateText(On, kind), On}, {rateText(Off, kind), Off}};
+    if (kind != StreamKind)
+        return {{rateText(OnCode, kind), OnCode}, {rateText(OffCode, kind), OffCode}};
     return forms::numbered(StreamRates);
 }
 
-quint8 rateChoice(quint8 rate, quint8 kind) { return kind == Stream || rate == Off ? rate : On; }
+quint8 rateChoice(quint8 rate, quint8 kind) { return kind == StreamKind || rate == OffCode ? rate : OnCode; }
 
 QString rateText(quint8 rate, quint8 kind)
 {
-    if (kind != Stream)
-        return rate == Off ? QStringLiteral("Off") : QStringLiteral("On");
+    if (kind != StreamKind)
+        return rate == OffCode ? QStringLiteral("Off") : QStringLiteral("On");
     return rate < StreamRates.size() ? QString::fromLatin1(StreamRates.at(rate)) : QString();
 }
 
@@ -82,7 +74,7 @@ void setOutputToTypical(MessageTable &table)
 void disableOutput(MessageTable &table)
 {
     for (MessageEntry &entry : table)
-        entry.outputRate = entry.kind == NeededEvent ? On : Off;
+        entry.outputRate = entry.kind == NeededEventKind ? OnCode : OffCode;
 }
 
 std::optional<int> findMessage(const MessageTable &table, const QString &text, int from)

@@ -23,11 +23,9 @@ QString nameOf(QByteArrayView field)
 
 quint8 listedRate(quint8 rate, quint8 kind)
 {
-    constexpr auto Disabled = static_cast<quint8>(RateCode::Disabled);
-    constexpr auto On = static_cast<quint8>(RateCode::Hz100);
-    if (rate <= Disabled)
+    if (rate <= codeOf(RateCode::Disabled))
         return rate;
-    return kind == 0 ? Disabled : On;
+    return kind == StreamKind ? codeOf(RateCode::Disabled) : OnCode;
 }
 
 void readMessageTable(const QByteArray &bytes, MessageTable &table)

@@ -7,8 +7,18 @@
 
 namespace recorder {
 
-// Rates of a logged message. For event messages any code but Disabled is "On".
+// Rates of a logged message.
 enum class RateCode : quint8 { Hz100, Hz50, Hz25, Hz10, Hz5, Hz1, Hz0_5, Hz0_2, Hz0_1, Disabled };
+
+constexpr quint8 codeOf(RateCode rate) { return static_cast<quint8>(rate); }
+
+// An event is on or off: any code but that of Disabled is "On".
+inline constexpr quint8 OnCode = codeOf(RateCode::Hz100);
+inline constexpr quint8 OffCode = codeOf(RateCode::Disabled);
+
+// Kinds of messages. All but streams are events.
+inline constexpr quint8 StreamKind = 0;
+inline constexpr quint8 NeededEventKind = 2; // the serial output always needs it
 
 struct MessageEntry
 {
@@ -16,7 +26,7 @@ struct MessageEntry
     QString name;           // at most 50 characters
     quint8 storageRate = 0; // RateCode; for events kept as it stands in the file
     quint8 outputRate = 0;  // RateCode
-    quint8 kind = 0;        // 0 stream, 1 event, 2 event that the serial output always needs
+    quint8 kind = StreamKind;
 
     bool operator==(const MessageEntry &) const = default;
 };
