@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "graphics/dial_scale.h"
+#include "graphics/made_up_style.h"
 #include "graphics/scan_lines.h"
 
 #include <QPainter>
@@ -12,11 +13,10 @@ namespace graphics {
 
 namespace {
 
-constexpr double PixelsPerPoint = 96.0 / 72; // on every screen
-constexpr int UsualFontSize = 18;            // points, where there is none
-constexpr double LargestShare = 4;           // of the radius; what lies beyond is out of sight
-constexpr double Gap = 1;                    // pixels between labels, and between them and the tics
-constexpr double SameAngle = 1e-3;           // degrees
+constexpr double PixelsPerPoint = double{DotsPerInch} / PointsPerInch;
+constexpr double LargestShare = 4; // of the radius; what lies beyond is out of sight
+constexpr double Gap = 1;          // pixels between labels, and between them and the tics
+constexpr double SameAngle = 1e-3; // degrees
 
 QColor rgb(const common::Colour &colour) { return QColor(common::toPixel(colour.packed())); }
 
@@ -60,7 +60,7 @@ private:
     }
     double statedSize() const
     {
-        const int points = m_look.curFontSize > 0 ? m_look.curFontSize : UsualFontSize;
+        const int points = m_look.curFontSize > 0 ? m_look.curFontSize : DialLook::UsualFontSize;
         return std::min(points * PixelsPerPoint, 2 * m_radius);
     }
     std::vector<QRectF> placed(const std::vector<TextOutline> &labels, const std::vector<double> &angles,

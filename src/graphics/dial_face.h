@@ -15,6 +15,8 @@ enum class TicStyle : quint8 { Rectangle = 0, Ellipse = 1, Triangle = 2, Diamond
 // clockwise.
 struct DialLook
 {
+    static constexpr qint16 UsualFontSize = 18; // points
+
     qint16 curMinAngle = -140; // at curMin
     qint16 curMaxAngle = 140;  // at curMax
     float curMin = 0;
@@ -27,7 +29,7 @@ struct DialLook
     quint8 curTicLabelsOnOff = 1;
     common::Colour curTicColour{0xFFFFFF}; // of the labels too
     common::FixedString<30> curFontName{QStringLiteral("MS Sans Serif")};
-    qint16 curFontSize = 18; // points
+    qint16 curFontSize = UsualFontSize; // points; the usual size where it is 0 or less
     quint8 curFontBold = 1;
     quint8 curFontItalic = 0;
     quint8 curFontStrikethrough = 0;

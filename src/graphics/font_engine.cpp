@@ -2,6 +2,7 @@
 
 #include "common/rounding.h"
 #include "graphics/glyph_raster.h"
+#include "graphics/made_up_style.h"
 
 #include FT_MODULE_H
 #include FT_OUTLINE_H
@@ -15,22 +16,16 @@ namespace graphics {
 
 namespace {
 
-constexpr FT_UInt DotsPerInch = 96; // on every screen
-constexpr long Unit = 64;           // the engine's measures are in 64ths
-constexpr long Whole = 0x10000;     // its factors in 65536ths
-constexpr long Slant = Whole * 21 / 100;
-constexpr int PointsPerInch = 72;
-constexpr int StrokeDivisor = 24;        // strokes are widened by this part of the size
+constexpr long Unit = 64;       // the engine's measures are in 64ths
+constexpr long Whole = 0x10000; // its factors in 65536ths
+constexpr long SlantFactor = static_cast<long>(Slant * Whole);
 constexpr char16_t FirstSymbol = 0xF000; // where symbol faces have their characters
 
 // Edges that are fitted to whole rows lie in the middle between two blocks of rows, so that a little more or
 // less ink above them does not move the top of the shrunk glyph.
 constexpr int BaseLinePhase = Enlargement / 2;
 
-// Shares of the size, for faces that do not say: thickness and middle of the two bars.
-constexpr double UsualThickness = 0.07;
-constexpr double UsualUnderline = -0.14;
-constexpr double UsualStrikethrough = 0.28;
+constexpr double UsualUnderline = -0.14; // share of the size, for faces that do not say: middle of the bar
 
 // Outlines are fitted to pixel rows of the final size, and to rows only: the same steps for every face.
 constexpr FT_Int32 LoadFlags = FT_LOAD_NO_BITMAP | FT_LOAD_FORCE_AUTOHINT | FT_LOAD_TARGET_LIGHT;
@@ -119,7 +114,7 @@ FT_Outline *OpenFace::outline(char16_t character, int &advance) const
     FT_Outline *outline = &m_face->glyph->outline;
     if (m_widening != 0)
         FT_Outline_EmboldenXY(outline, m_widening, 0);
-    const FT_Matrix enlarge{Enlargement * Whole, m_isSlanted ? Enlargement * Slant : 0, 0,
+    const FT_Matrix enlarge{Enlargement * Whole, m_isSlanted ? Enlargement * SlantFactor : 0, 0,
                             Enlargement * Whole};
     FT_Outline_Transform(outline, &enlarge);
     const auto width = static_cast<double>(m_face->glyph->linearHoriAdvance) / Whole +

@@ -1,6 +1,7 @@
 #include "graphics/outline_font.h"
 
 #include "graphics/face_source.h"
+#include "graphics/made_up_style.h"
 
 #include <QPainter>
 
@@ -10,12 +11,7 @@ namespace {
 
 constexpr double UnitsPerEm = 1000; // the size at which outlines are taken; nothing is rounded there
 
-// Shares of the size.
-constexpr double BoldStrokes = 1.0 / 24;
-constexpr double Slant = 0.21;
-constexpr double UsualThickness = 0.07; // of the two bars, for faces that do not say
-constexpr double UsualUnderline = 0.1;
-constexpr double Strikethrough = 0.28; // above the base line
+constexpr double UsualUnderline = 0.1; // share of the size, for faces that do not say: middle of the bar
 
 QRawFont opened(const QByteArray &file)
 {
@@ -83,14 +79,14 @@ TextOutline OutlineFont::outline(const QString &text) const
     if (m_style.underline)
         path.addRect(bar(below, thickness, pen));
     if (m_style.strikethrough)
-        path.addRect(bar(-Strikethrough * UnitsPerEm, thickness, pen));
+        path.addRect(bar(-UsualStrikethrough * UnitsPerEm, thickness, pen));
     path.setFillRule(Qt::WindingFill);
     const bool slanted = m_style.italic && m_face.style() == QFont::StyleNormal;
     const bool widened = m_style.bold && m_face.weight() < QFont::DemiBold;
     QTransform toSizeOfOne = QTransform::fromScale(1 / UnitsPerEm, 1 / UnitsPerEm);
     if (slanted)
         toSizeOfOne.shear(-Slant, 0);
-    return {toSizeOfOne.map(path), widened ? BoldStrokes : 0};
+    return {toSizeOfOne.map(path), widened ? 1.0 / StrokeDivisor : 0};
 }
 
 } // namespace graphics
