@@ -39,6 +39,13 @@ void ColourRows::chooseColour() const
         colour.swatch().setColour(0);
 }
 
+std::optional<forms::Verdict> refusedScale(const forms::Typed &typed)
+{
+    if (typed.number("txtMin") == typed.number("txtMax"))
+        return forms::refusal(u"Can't use same value for minimum and maximum "_s);
+    return std::nullopt;
+}
+
 std::optional<forms::Verdict> refusedOpacity(const forms::Typed &typed, const QString &text, double most)
 {
     const double opacity = typed.number("txtAlfa");

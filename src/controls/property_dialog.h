@@ -29,9 +29,28 @@ struct ColourRows
     void chooseColour() const; // black for a variable
 };
 
+// The refusal of a scale in "txtMin" and "txtMax" that ends where it begins.
+std::optional<forms::Verdict> refusedScale(const forms::Typed &typed);
+
 // The refusal of an opacity in "txtAlfa" that is negative or above `most`.
 std::optional<forms::Verdict> refusedOpacity(const forms::Typed &typed, const QString &text,
                                              double most = 100);
+// What some families refuse above although a percentage is typed: deliberate.
+inline constexpr double MostOfAlphaByte = 255;
+
+// Limits of a variable between which a control shows. Two of 0 stand for none.
+template <typename Values>
+bool hasLimits(const Values &values)
+{
+    return values.curLowerLimit != 0 || values.curUpperLimit != 0;
+}
+// Makes them none where the dialog's tick box `isLimited` is off.
+template <typename Values>
+void dropUntickedLimits(Values &values)
+{
+    if (!values.isLimited)
+        values.curLowerLimit = values.curUpperLimit = 0;
+}
 
 // What the property dialogs of the families share: the control, the rows of its colour, and rows that bind a
 // variable of the host's catalogue.
@@ -62,6 +81,16 @@ protected:
     forms::ListField &variableOrNone(Member member, const forms::RowText &row)
     {
         return variableList(member, row, {forms::none()});
+    }
+
+    // The variable that is shown, and its scale.
+    void scaleRows()
+    {
+        this->addGroup("Variable");
+        variable(&Values::curVarID, {"cmbVariable", "Va&riable"});
+        Base::number(&Values::curMin, {"txtMin", "Mi&nimum"});
+        Base::number(&Values::curMax, {"txtMax", "Ma&ximum"});
+        Base::number(&Values::curDefaultVal, {"txtDefaultVal", "&Default value"});
     }
 
     // The colour of the family's graphic, and the variable that changes it between two limits.

@@ -1,5 +1,7 @@
 #include "controls/bar_graph/bar_graph_dialog.h"
 
+#include <algorithm>
+
 namespace controls {
 
 using namespace Qt::StringLiterals;
@@ -7,13 +9,12 @@ using common::toInteger;
 
 std::optional<forms::Verdict> validateBarGraph(const forms::Typed &typed)
 {
-    const double min = typed.number("txtMin");
-    const double max = typed.number("txtMax");
-    const double value = typed.number("txtDefaultVal");
-    if (max == min)
-        return forms::refusal(u"Can't use same value for minimum and maximum "_s);
+    if (auto verdict = refusedScale(typed))
+        return verdict;
     // The far end may be the lower one: a reversed bar.
-    if (value < std::min(min, max) || value > std::max(min, max))
+    const auto [low, high] = std::minmax({typed.number("txtMin"), typed.number("txtMax")});
+    const double value = typed.number("txtDefaultVal");
+    if (value < low || value > high)
         return forms::refusal(u"Default value should be between Min and Max value"_s);
     return refusedOpacity(typed, u"Invalid Alpha Value"_s);
 }
@@ -31,11 +32,7 @@ BarGraphDialog::BarGraphDialog(BarGraph &bar)
     : PropertyDialog(bar, u"Bar Graph Properties"_s, {bar.get(), barLine(bar, bar.get().isHorizontal())})
 {
     using V = BarOnLine;
-    addGroup("Variable");
-    variable(&V::curVarID, {"cmbVariable", "Va&riable"});
-    number(&V::curMin, {"txtMin", "Mi&nimum"});
-    number(&V::curMax, {"txtMax", "Ma&ximum"});
-    number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
+    scaleRows();
     addGroup("Bar");
     forms::ListField &type =
         choice(&V::curBarType, {"cmbBarType", "&Type"}, {{u"Horizontal"_s, 0}, {u"Vertical"_s, 1}}, 1);

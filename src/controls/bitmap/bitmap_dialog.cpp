@@ -16,8 +16,6 @@ using graphics::PlanePicture;
 
 namespace {
 
-constexpr double MostAlpha = 255; // deliberate, although a percentage is typed
-
 int even(int coordinate) { return coordinate / 2 * 2; }
 
 void keepOnCanvas(BitmapValues &values, const ControlHost &host)
@@ -56,7 +54,7 @@ std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
         return forms::refusal(
             u"Selected images are in different sizes and please select same size images to continue"_s,
             platform::Icon::Critical);
-    return refusedOpacity(typed, u"Invalid Alfa Value"_s, MostAlpha);
+    return refusedOpacity(typed, u"Invalid Alfa Value"_s, MostOfAlphaByte);
 }
 
 BitmapDialog::BitmapDialog(Bitmap &bitmap)

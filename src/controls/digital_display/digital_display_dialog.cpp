@@ -14,8 +14,7 @@ constexpr int MostPlaces = 20;
 
 LimitedDisplay shownValues(const DigitalDisplay &display)
 {
-    const DigitalDisplayValues &values = display.get();
-    return {values, values.curLowerLimit != 0 || values.curUpperLimit != 0};
+    return {display.get(), hasLimits(display.get())};
 }
 
 // As far as what was typed so far can be shown.
@@ -49,8 +48,7 @@ std::optional<forms::Verdict> validateDigitalDisplay(const forms::Typed &typed)
     if (typed.isOn("chkApplyLimits") && typed.number("txtLowerLimit") == 0 &&
         typed.number("txtUpperLimit") == 0)
         return forms::refusal(u"Upper and lower limit can't be 0"_s);
-    constexpr double Most = 255; // deliberate, although a percentage is typed
-    return refusedOpacity(typed, u"Invalid Alpha Value"_s, Most);
+    return refusedOpacity(typed, u"Invalid Alpha Value"_s, MostOfAlphaByte);
 }
 
 DigitalDisplayDialog::DigitalDisplayDialog(DigitalDisplay &display)
@@ -99,10 +97,7 @@ void DigitalDisplayDialog::addLimits()
 
 void DigitalDisplayDialog::set(LimitedDisplay &values)
 {
-    if (!values.isLimited) {
-        values.curLowerLimit = 0;
-        values.curUpperLimit = 0;
-    }
+    dropUntickedLimits(values);
     setArranged(values);
 }
 

@@ -6,11 +6,9 @@ using namespace Qt::StringLiterals;
 
 std::optional<forms::Verdict> validateGauge(const forms::Typed &typed)
 {
-    const double min = typed.number("txtMin");
-    const double max = typed.number("txtMax");
-    if (max == min)
-        return forms::refusal(u"Can't use same value for minimum and maximum "_s);
-    if (max < min)
+    if (auto verdict = refusedScale(typed))
+        return verdict;
+    if (typed.number("txtMax") < typed.number("txtMin"))
         return forms::refusal(u"Invalid Min and Max value "_s);
     return std::nullopt;
 }
@@ -19,11 +17,7 @@ GaugeDialog::GaugeDialog(Gauge &gauge)
     : PropertyDialog(gauge, u"Analogue Dial Properties"_s, withPivot(gauge.get(), gauge.host().screen()))
 {
     using V = GaugeValues;
-    addGroup("Variable");
-    variable(&V::curVarID, {"cmbVariable", "Va&riable"});
-    number(&V::curMin, {"txtMin", "Mi&nimum"});
-    number(&V::curMax, {"txtMax", "Ma&ximum"});
-    number(&V::curDefaultVal, {"txtDefaultVal", "&Default value"});
+    scaleRows();
     addGroup("Needle");
     number(&V::curCenterX, {"txtCenterX", "Centre X", "pixels"});
     number(&V::curCenterY, {"txtCenterY", "Centre Y", "pixels"});

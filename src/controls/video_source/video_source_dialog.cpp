@@ -51,8 +51,7 @@ QPoint typedPlace(const forms::Typed &typed)
 
 ShownVideoSource shown(const VideoSourceValues &values)
 {
-    return {values, static_cast<qint8>(values.curHue),
-            values.curLowerLimit != 0 || values.curUpperLimit != 0};
+    return {values, static_cast<qint8>(values.curHue), hasLimits(values)};
 }
 
 } // namespace
@@ -156,10 +155,7 @@ void VideoSourceDialog::set(ShownVideoSource &values)
     values.curLeftCoord = toInteger<qint16>(place.x());
     values.curTopCoord = toInteger<qint16>(place.y());
     values.curHue = static_cast<quint8>(values.hue);
-    if (!values.isLimited) {
-        values.curLowerLimit = 0;
-        values.curUpperLimit = 0;
-    }
+    dropUntickedLimits(values);
     control().set(values);
 }
 
