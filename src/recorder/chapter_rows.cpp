@@ -50,8 +50,16 @@ void tickAll(ChapterRows &rows)
 
 void removeTicked(ChapterRows &rows) { std::erase_if(rows, &ChapterRow::isTicked); }
 
-QString chapterTypeText(quint8 type) { return u"%1"_s.arg(type + 1, 2, 10, '0'_L1); }
+QString chapterTypeText(int type) { return u"%1"_s.arg(type + 1, 2, 10, '0'_L1); }
 
-QString signText(quint8 sign) { return sign == 0 ? u"<"_s : u"<="_s; }
+QString signText(int sign) { return sign == 0 ? u"<"_s : u"<="_s; }
+
+forms::Choices valuesUpTo(int last, QString (*textOf)(int))
+{
+    forms::Choices choices;
+    for (int value = 0; value <= last; ++value)
+        choices.push_back({textOf(value), value});
+    return choices;
+}
 
 } // namespace recorder

@@ -36,7 +36,9 @@ void tickAll(ChapterRows &rows);
 void removeTicked(ChapterRows &rows);
 
 // "01" to "10".
-QString chapterTypeText(quint8 type);
-QString signText(quint8 sign);
+QString chapterTypeText(int type);
+QString signText(int sign);
+// The rows of a list of the values 0 to `last`.
+forms::Choices valuesUpTo(int last, QString (*textOf)(int));
 
 } // namespace recorder

@@ -12,22 +12,6 @@ namespace {
 
 constexpr int NarrowestColumn = 70; // pixels
 
-forms::Choices typeChoices()
-{
-    forms::Choices choices;
-    for (quint8 type = 0; type <= LastChapterType; ++type)
-        choices.push_back({chapterTypeText(type), type});
-    return choices;
-}
-
-forms::Choices signChoices()
-{
-    forms::Choices choices;
-    for (quint8 sign = 0; sign <= LastSign; ++sign)
-        choices.push_back({signText(sign), sign});
-    return choices;
-}
-
 // What a cell's editor works on.
 QVariant edited(const ChapterRow &row, int column)
 {
@@ -153,9 +137,10 @@ ChapterGrid::ChapterGrid(const std::vector<ChapterCondition> &conditions,
                          const variables::VariableTable &table, const QString &decimalMark)
     : CellGrid("grdInput", new ChapterModel(chapterRows(conditions, decimalMark), table, decimalMark))
 {
-    setList(ChapterModel::Type, "cmbChapterType", [](int) { return typeChoices(); });
+    setList(ChapterModel::Type, "cmbChapterType",
+            [](int) { return valuesUpTo(LastChapterType, chapterTypeText); });
     for (const int column : {ChapterModel::Sign1, ChapterModel::Sign2})
-        setList(column, "cmbCondition", [](int) { return signChoices(); });
+        setList(column, "cmbCondition", [](int) { return valuesUpTo(LastSign, signText); });
     for (const int column : {ChapterModel::Value1, ChapterModel::Value2})
         setNumber(column, "txtValue", decimalMark);
     setList(ChapterModel::Variable, "cmbVariable", [this, &table](int row) {

@@ -8,13 +8,7 @@ namespace {
 
 constexpr QSize GridSize(600, 260); // pixels, at least
 
-forms::Choices lapTypeChoices()
-{
-    forms::Choices choices;
-    for (int type = 0; type <= LastChapterType; ++type)
-        choices.push_back({QString::number(type + 1), type});
-    return choices;
-}
+QString lapTypeText(int type) { return QString::number(type + 1); }
 
 } // namespace
 
@@ -29,7 +23,8 @@ frmAutoChapterMark::frmAutoChapterMark(RecorderSettings &settings, const variabl
     addConditions();
     addGroup("Laps");
     const auto &lap = check(&V::active, "chkMarkLapTimerChapters", "&Mark chapters when start of new lap");
-    auto &type = choice(&V::type, {"cmbLapChapterType", "Chapter &type"}, lapTypeChoices());
+    auto &type =
+        choice(&V::type, {"cmbLapChapterType", "Chapter &type"}, valuesUpTo(LastChapterType, lapTypeText));
     type.caption()->setObjectName(u"lblChapterType"_s);
     enableBy(lap, {&type});
     finish(forms::okAndCancel());
