@@ -2,7 +2,8 @@
 
 #include "graphics/dial_face.h"
 
-#include <QRectF>
+#include <QPointF>
+#include <QSizeF>
 
 #include <cmath>
 #include <optional>

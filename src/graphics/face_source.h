@@ -13,7 +13,7 @@ using platform::StoodInFor;
 // Whether a face is drawn as it is: it is installed and has letters or digits with outlines, or it comes with
 // the program. An alias ("Serif") counts as what the desktop means by it.
 bool isInstalled(const QString &face);
-// Whether a face is drawn as it is or as it is meant to be.
+// The same, or whether the shipped face is meant to stand in for it.
 bool isDrawable(const QString &face);
 // The faces to choose from: all that are drawable, without foundries, in the order of the alphabet. Asks the
 // desktop.

@@ -1,5 +1,7 @@
 #include "graphics/glyph_lists.h"
 
+#include <array>
+
 namespace graphics {
 
 namespace {

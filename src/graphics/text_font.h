@@ -3,10 +3,10 @@
 #include "graphics/glyph.h"
 
 #include <QByteArrayView>
-#include <QString>
+#include <QStringView>
 
-#include <array>
 #include <optional>
+#include <vector>
 
 namespace graphics {
 

@@ -3,6 +3,8 @@
 #include "layoutfile/field_link.h"
 #include "layoutfile/text_record.h"
 
+#include <cstdlib>
+
 namespace layoutfile {
 
 namespace {

@@ -1,6 +1,7 @@
 #include "layoutfile/family_records.h"
 
 #include <algorithm>
+#include <array>
 
 namespace layoutfile {
 

@@ -8,8 +8,6 @@
 #include "platform/guards.h"
 #include "variables/definition_file.h"
 
-#include <QFile>
-
 #include <algorithm>
 
 namespace layoutfile {

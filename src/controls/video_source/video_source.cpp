@@ -36,9 +36,8 @@ constexpr std::array Rows{
 };
 
 // The nearest multiple of the step at which all of `length` is still on the canvas; twips.
-float stepped(float place, float length, float canvas, float twipsPerPixel)
+float stepped(float place, float length, float canvas, float step)
 {
-    const float step = PlaceStep * twipsPerPixel;
     const float last = std::floor((canvas - length) / step);
     return std::clamp(std::nearbyint(place / step), 0.0F, last) * step;
 }
@@ -128,8 +127,9 @@ void VideoSource::applyInitialProperties()
 {
     set(VideoSourceValues());
     const auto canvasHeight = static_cast<float>(recorder::canvasHeight(host().VideoType()));
-    moveTo(stepped(box().Left, box().Width, screen().toTwipsX(recorder::CanvasWidth), screen().tx),
-           stepped(box().Top, box().Height, screen().toTwipsY(canvasHeight), screen().ty));
+    moveTo(stepped(box().Left, box().Width, screen().toTwipsX(recorder::CanvasWidth),
+                   screen().toTwipsX(PlaceStep)),
+           stepped(box().Top, box().Height, screen().toTwipsY(canvasHeight), screen().toTwipsY(PlaceStep)));
     updatePosition();
 }
 

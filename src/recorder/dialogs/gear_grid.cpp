@@ -1,6 +1,5 @@
 #include "recorder/dialogs/gear_grid.h"
 
-#include <algorithm>
 #include <array>
 
 namespace recorder {
