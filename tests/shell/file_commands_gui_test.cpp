@@ -192,6 +192,9 @@ TEST_F(FileCommands, SaveAsksInItsOrderAndARefusalWritesNothing)
     controls::Gauge &gauge = w.addGauge(100, 100);
     gauge.write("newPointerWidth", 255);
     gauge.write("newPointerLength", 255);
+    prompts.expectMessage({});
+    w.run("mnuPrdCPULoad");
+    EXPECT_TRUE(prompts.shown().back().text.contains(" 40%\n")); // 40.32 of the gauge, 0.01 of the bar
     for (qsizetype refused = 0; refused <= steps.size(); ++refused) {
         for (qsizetype i = 0; i <= refused && i < steps.size(); ++i) {
             if (steps[i].isNull())
