@@ -92,6 +92,18 @@ TEST_F(Start, WithADamagedCatalogueKeepsAllFilesAsTheyAre)
     EXPECT_TRUE(layoutfile::IsValidVGL(platform::readFile(folders.workspaceFile())));
 }
 
+TEST_F(Start, TellsOnceWhereTheOldBytesOfAKilledSaveAre)
+{
+    for (const char *name : {"kept-DEFAULT.VGL", "kept2-DEFAULT.VGL"}) {
+        platform::replaceFile(folders.inUserData(name), name);
+        world.prompts.expectMessage("A save did not come to its end. What the file held before is kept in\n" +
+                                    folders.inUserData("old-") + name);
+    }
+    EXPECT_TRUE(start());
+    EXPECT_EQ(platform::readFile(folders.inUserData("old-kept2-DEFAULT.VGL")), "kept2-DEFAULT.VGL");
+    EXPECT_TRUE(start());
+}
+
 TEST_F(Start, KeepsTheDesignSafeFromEveryFinishedChangeOn)
 {
     EXPECT_TRUE(start());
