@@ -112,8 +112,8 @@ void fillConfigured(OverlayControl &control, const QStringList &texts)
 QString thumbnailName(const QString &folder, QDateTime now)
 {
     for (;; now = now.addSecs(1)) {
-        const QString name = now.toString(QStringLiteral("yy")) + QString::number(now.date().dayOfYear()) +
-                             now.toString(QStringLiteral("hhmmss'.bmp'"));
+        QString name = now.toString(QStringLiteral("yy")) + QString::number(now.date().dayOfYear()) +
+                       now.toString(QStringLiteral("hhmmss'.bmp'"));
         if (!QFileInfo::exists(folder + name))
             return name;
     }
