@@ -25,6 +25,35 @@ TEST(Save, onlyTheUsersSaveEndsAtAControlThatCannotBeStored)
     }
 }
 
+TEST(Save, aSharedCameraRefusesAllButTheSpareFiles)
+{
+    DesignWindow d;
+    for (int i = 0; i < 2; ++i)
+        d.design().addControl(controls::ControlType::VideoSource, {});
+    for (const auto &[kind, isRefused] : {std::pair{SaveKind::Command, true},
+                                          {SaveKind::Workspace, true},
+                                          {SaveKind::Backup, false},
+                                          {SaveKind::Recovery, false}}) {
+        const layoutfile::LayoutBytes made = test::save(d, kind);
+        EXPECT_EQ(made.refusal.isEmpty(), !isRefused) << static_cast<int>(kind);
+        EXPECT_EQ(made.file.isEmpty(), isRefused) << static_cast<int>(kind);
+    }
+}
+
+TEST(Save, whatIsNotInForceHasNoRecord)
+{
+    DesignWindow d;
+    d.addGauge(100, 100);
+    recorder::RecorderSettings &settings = d.world.state.settings;
+    settings.autoStart = settings.autoStop = {.variable = 2, .condition = 0, .value = 5, .time = 3};
+    settings.LapChapterType = 4;
+    settings.icon.left = 30;
+    for (const layoutfile::LayoutRecord &record : layoutfile::parseLayout(test::savedDesign(d))) {
+        const auto type = static_cast<int>(record.type());
+        EXPECT_FALSE((type >= 8 && type <= 11) || type == 27) << type;
+    }
+}
+
 TEST(Save, theThumbnailIsASixthOfTheOverlay)
 {
     const std::pair<VideoStandard, int> heights[] = {{VideoStandard::Pal, 96}, {VideoStandard::Ntsc, 80}};
