@@ -1,6 +1,7 @@
 #include "forms/dialog.h"
 
 #include "forms/columns.h"
+#include "forms/screen_fit.h"
 #include "platform/guards.h"
 
 #include <QDialogButtonBox>
@@ -181,6 +182,7 @@ void Dialog::addButtons(const std::vector<Button> &buttons)
         box->addButton(push, roleOf(button.press));
     }
     arrangeColumns();
+    fitScreen(*this, *m_across);
     layout()->addWidget(box);
     keepMnemonicsUnique();
     setTabs();

@@ -191,6 +191,31 @@ TEST(Columns, keepATallDialogOnASmallScreen)
     }
 }
 
+// A field that is too wide, above one that is too high.
+class WideDialog final : public forms::DialogOf<Box>
+{
+public:
+    explicit WideDialog(platform::Prompts &prompts) : DialogOf("Wide", Box(), {prompts, {}})
+    {
+        number(&Box::limit, {"txtFirst", "&First"}).box().setMinimumWidth(2000);
+        number(&Box::limit, {"txtLast", "&Last"}).box().setMinimumHeight(2000);
+        finish(forms::okAndCancel());
+        test::show(*this);
+    }
+};
+
+TEST(SmallScreen, scrollsToTheFieldWithTheKeysAndKeepsTheButtonsInSight)
+{
+    test::ScriptedPrompts prompts;
+    WideDialog dialog(prompts);
+    EXPECT_EQ(dialog.size().boundedTo(dialog.screen()->availableSize()), dialog.size());
+    EXPECT_FALSE(test::child<QPushButton>(dialog, "cmdOk").visibleRegion().isEmpty());
+    QTest::keyClick(&test::child<QLineEdit>(dialog, "txtFirst"), Qt::Key_Tab);
+    const auto &last = test::child<QLineEdit>(dialog, "txtLast");
+    EXPECT_TRUE(last.hasFocus());
+    EXPECT_FALSE(last.visibleRegion().isEmpty());
+}
+
 TEST(Columns, areFewAndAlmostEqual)
 {
     EXPECT_EQ(forms::columnSizes({200, 200, 200}, 10, 700), (std::vector<int>{3}));
