@@ -181,6 +181,20 @@ const Linked LinkedFamilies[] = {
 };
 // clang-format on
 
+using Payloads = std::map<RecordType, const char *>;
+
+// Of a file with at most one record of each of these types.
+void expectPayloads(const QByteArray &file, Payloads expected)
+{
+    for (const LayoutRecord &record : parseLayout(file)) {
+        if (const auto found = expected.find(record.type()); found != expected.end()) {
+            EXPECT_EQ(test::payloadOf(record.body).toHex(), test::bytes(found->second).toHex());
+            expected.erase(found);
+        }
+    }
+    EXPECT_TRUE(expected.empty());
+}
+
 TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
 {
     for (const Linked &linked : LinkedFamilies) {
@@ -193,15 +207,37 @@ TEST(RoundTrip, everyPropertyHasItsPlaceInTheRecordOfItsFamily)
                 control.write(row.writer, linked.written.at(row.writer));
         }
         control.AssignProperties();
-        auto expected = linked.payloads;
-        for (const LayoutRecord &record : parseLayout(test::savedDesign(d))) {
-            if (const auto found = expected.find(record.type()); found != expected.end()) {
-                EXPECT_EQ(test::payloadOf(record.body).toHex(), test::bytes(found->second).toHex());
-                expected.erase(found);
-            }
-        }
-        EXPECT_TRUE(expected.empty());
+        expectPayloads(test::savedDesign(d), linked.payloads);
     }
+}
+
+TEST(RoundTrip, everySettingHasItsPlaceInItsRecord)
+{
+    DesignWindow d;
+    d.addGauge(100, 100);
+    recorder::RecorderSettings &settings = d.world.state.settings;
+    settings.VideoType = recorder::VideoStandard::Ntsc;
+    settings.CurrentBitRate = 11;
+    settings.encodePattern = recorder::EncodePattern::IP;
+    settings.ChapterList = {{.type = 9, .value1 = -1.5F, .sign1 = 0, .variable = 3, .sign2 = 1, .value2 = 2}};
+    settings.LapChapterActive = 1;
+    settings.LapChapterType = 7;
+    settings.autoStart = {.variable = 2, .condition = 1, .value = 10, .time = 5};
+    settings.autoStop = {.variable = 3, .condition = 2, .value = 0.5F, .time = 60};
+    settings.GearTable = {{1, 2}, {3, 4}};
+    settings.GearMethod = 1;
+    settings.GearVariable = 22;
+    settings.PulsesPerRevolution = 0.5F;
+    settings.icon = {true, 30, 40, 128, graphics::PlanePicture::fromFile({2, 2, "YYYY", "U", "V"}, {})};
+    expectPayloads(test::savedDesign(d),
+                   {{RecordType::Chapter, "09 0000C0BF 00 03000000 01 00000040"},
+                    {RecordType::LapChapters, "07"},
+                    {RecordType::AutoStart, "02000000 00002041 01 05"},
+                    {RecordType::AutoStop, "03000000 0000003F 02 3C"},
+                    {RecordType::VideoStandard, "00"},
+                    {RecordType::BitRate, "0C 01"},
+                    {RecordType::Gears, "0000003F 02 0000803F 00004040 00000040 00008040 01 16000000"},
+                    {RecordType::SpecialIcon, "01 0200 0200 1E00 2800 80 'YYYYUV'"}});
 }
 
 TEST(RoundTrip, aLayoutIsSavedWithTheBytesItWasLoadedFrom)
