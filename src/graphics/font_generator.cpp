@@ -74,8 +74,9 @@ bool GenerateFont(const FontRequest &request, const FontFolders &folders, platfo
 void writeFont(const FontRequest &request, const FontPair &pair, const QString &folder)
 {
     QDir().mkpath(folder);
-    platform::replaceFile(folder + fontFileName(request), pair.standard);
-    platform::replaceFile(folder + extendedFontFileName(request), pair.extended);
+    // Not flushed: a file that does not outlive a crash is made again.
+    platform::replaceFile(folder + fontFileName(request), pair.standard, platform::Flush::None);
+    platform::replaceFile(folder + extendedFontFileName(request), pair.extended, platform::Flush::None);
 }
 
 } // namespace graphics
