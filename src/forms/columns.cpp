@@ -25,7 +25,7 @@ std::vector<int> filled(const std::vector<int> &heights, int gap, int limit)
 
 std::vector<int> columnSizes(const std::vector<int> &heights, int gap, int limit)
 {
-    const std::vector<int> highest = filled(heights, gap, limit);
+    std::vector<int> highest = filled(heights, gap, limit);
     if (highest.size() < 2)
         return highest;
     const int total = std::accumulate(heights.begin(), heights.end(), gap * static_cast<int>(heights.size()));

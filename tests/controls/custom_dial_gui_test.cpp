@@ -41,6 +41,7 @@ TEST_F(CustomDial, AGripKeepsItsSidesEvenAndTheCanvasItsPlace)
     control.write("newWidth", 800);
     control.AssignProperties();
     EXPECT_EQ(control.innerRect().size(), QSize(720, 118));
+    EXPECT_EQ(control.get().curCenterX, 0); // all of it on the canvas
     control.write("newWidth", -2);
     EXPECT_THROW(control.AssignProperties(), common::RunTimeError);
 }

@@ -50,10 +50,11 @@ std::optional<forms::Verdict> validateBitmap(const forms::Typed &typed)
     if (top != even(top))
         return correctable(u"Top coordinate of the bitmap control must be an even number."_s,
                            {{u"txtTopCoordinates"_s, QString::number(even(top))}});
-    if (source != alpha)
+    if (source != alpha) {
         return forms::refusal(
             u"Selected images are in different sizes and please select same size images to continue"_s,
             platform::Icon::Critical);
+    }
     return refusedOpacity(typed, u"Invalid Alfa Value"_s, MostOfAlphaByte);
 }
 
@@ -125,7 +126,7 @@ forms::PictureField &BitmapDialog::pictureRow(forms::ChosenPicture BitmapOfFiles
 
 QImage BitmapDialog::taken(const QString &path, bool isAlpha)
 {
-    const QImage picture = graphics::chosenPicture(path, prompts());
+    QImage picture = graphics::chosenPicture(path, prompts());
     if (picture.isNull())
         return {};
     for (const QString &question : sizeQuestions(picture.size())) {
