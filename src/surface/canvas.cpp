@@ -192,8 +192,10 @@ void Canvas::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     // At some zooms the picture ends short of the last pixel of a fine screen.
-    for (const QRect &edge : (QRegion(rect()) - rect().adjusted(0, 0, -1, -1)) & event->rect())
-        painter.fillRect(edge, palette().color(QPalette::Mid));
+    if (const QRect within = rect().adjusted(0, 0, -1, -1); !within.contains(event->rect())) {
+        for (const QRect &edge : QRegion(event->rect()) - within)
+            painter.fillRect(edge, palette().color(QPalette::Mid));
+    }
     m_liftedArea = {};
     const ControlList &order = m_isPlayMode ? m_controls.controls() : m_controls.stack();
     m_picture.paint(painter, event->rect(), order, m_lifted);
