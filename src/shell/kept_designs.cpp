@@ -61,7 +61,7 @@ QString keepAnywhere(const QByteArray &layout, const Folders &folders)
 {
     if (platform::skipFailures([&] { keepAsBackup(layout, folders); }))
         return newestBackup(folders);
-    const QString temporary = folders.inTemporary(Folders::WorkspaceName);
+    QString temporary = folders.inTemporary(Folders::WorkspaceName);
     if (written(temporary, layout))
         return temporary;
     const QString shared = folders.inNewSharedFolder(Folders::WorkspaceName);
