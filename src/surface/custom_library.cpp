@@ -135,13 +135,13 @@ void CustomLibrary::configure(OverlayControl &control, const QString &key) const
     QStringList texts = textsFor(control, store, entry->place);
     const QString folder = m_host.folders().pictureFolder();
     for (const auto &[element, picture] : control.copies()) {
-        const QString entrys = texts[element];
+        QString &name = texts[element];
         const QString wanted = placedName(control, element, m_stamp.now().time());
         skipFailures([&] { // a control that gets no file of its own shares the entry's
-            const QByteArray bytes = platform::readFile(platform::nameWithin(folder, entrys));
-            const QString own = controls::ownCopyName(folder, wanted, entrys);
+            const QByteArray bytes = platform::readFile(platform::nameWithin(folder, name));
+            const QString own = controls::ownCopyName(folder, wanted, name);
             controls::keepCopy(folder, own, bytes, platform::Flush::None);
-            texts[element] = own;
+            name = own;
         });
     }
     fillConfigured(control, texts);
@@ -152,7 +152,7 @@ QString CustomLibrary::ownCopy(const QString &name, const QImage &picture) const
     if (name.trimmed().isEmpty() || picture.isNull())
         return {};
     const QString folder = m_host.folders().pictureFolder();
-    const QString own = controls::ownCopyName(folder, name, name);
+    QString own = controls::ownCopyName(folder, name, name);
     controls::keepCopy(folder, own, graphics::bmpOf(picture), platform::Flush::ToDevice);
     return own;
 }

@@ -9,7 +9,6 @@ namespace make_layouts {
 
 namespace {
 
-using recorder::RecorderSettings;
 using recorder::RecordingTrigger;
 
 constexpr int LongestTime = 255;
