@@ -137,9 +137,11 @@ void CustomLibrary::configure(OverlayControl &control, const QString &key) const
     for (const auto &[element, picture] : control.copies()) {
         QString &name = texts[element];
         const QString wanted = placedName(control, element, m_stamp.now().time());
-        skipFailures([&] { // a control that gets no file of its own shares the entry's
-            const QByteArray bytes = platform::readFile(platform::nameWithin(folder, name));
-            const QString own = controls::ownCopyName(folder, wanted, name);
+        const QString entrys = std::exchange(name, {});
+        skipFailures([&] {
+            const QByteArray bytes = platform::readFile(platform::nameWithin(folder, entrys));
+            name = entrys; // shared where no file of its own can be written
+            const QString own = controls::ownCopyName(folder, wanted, entrys);
             controls::keepCopy(folder, own, bytes, platform::Flush::None);
             name = own;
         });

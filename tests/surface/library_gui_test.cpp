@@ -143,6 +143,8 @@ TEST_F(Library, AnEntryAndWhatIsMadeOfItHaveTheirOwnPictures)
                                                            "plain 2.png", "plain 3.png", "plain.png"}));
     for (const char *picture : {"curSourceImg", "curAlfaImg"})
         EXPECT_EQ(std::get<QImage>(placed.read(picture)).size(), QSize(104, 104));
+    QFile::remove(folders.pictureFolder() + "hill 3.bmp");
+    EXPECT_EQ(std::get<QString>(dropped("cmore hills", {300, 300}).read("curFileName")), ""); // of no file
 }
 
 TEST_F(Library, ADamagedFileGivesControlsThatCanBeShownAndSaved)
