@@ -18,9 +18,8 @@ constexpr int Margin = 28; // pixels
 
 const QString Licences =
     u"This program is free software under the GNU General Public License, version 3 or later. It is made "
-    u"with "
-    "Qt (LGPL 3), QCustomPlot (GPL 3 or later), FreeType (FreeType License), zlib (zlib License) and the "
-    "Liberation fonts (SIL Open Font License 1.1)."_s;
+    "with Qt (LGPL 3), QCustomPlot (GPL 3 or later), FreeType (FreeType License), zlib (zlib License) and "
+    "the Liberation fonts (SIL Open Font License 1.1)."_s;
 
 } // namespace
 
