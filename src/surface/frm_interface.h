@@ -138,9 +138,9 @@ signals:
     void groupMenuRequested(const QPoint &globalPosition, bool pastes);
     void libraryMenuRequested(const QPoint &globalPosition); // of a custom entry
     void designChanged();                                    // by a user's hand
-    void selectionChanged();
-    void controlsChanged(); // one was added or deleted
-    void layoutChanged();   // the layout's caption, standard or settings may differ now
+    void selectionChanged();                                 // of controls, or of a variable in its panel
+    void controlsChanged();                                  // one was added or deleted
+    void layoutChanged(); // the layout's caption, standard or settings may differ now
 
 private:
     CanvasRules rules() const;

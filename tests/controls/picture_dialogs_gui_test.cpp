@@ -169,7 +169,7 @@ TEST(VideoSourceRules, placesOfPicturesInThePictureAreMultiplesOfSixteen)
             typed((row == 0 ? WholeVideo : QuarterVideo) +
                   QString("txtLeftCoordinates=%1,txtTopCoordinates=%2").arg(place.x()).arg(place.y()));
         fields.rows.insert("cmbSizeRatio", row);
-        EXPECT_EQ(keptOnCanvas(place, fields, standard), kept);
+        EXPECT_EQ(placeOnCanvas(place, fields, standard), kept);
         const auto verdict = validateVideoSource(fields, standard);
         EXPECT_EQ(verdict ? verdict->corrections[0].text + ',' + verdict->corrections[1].text : "",
                   corrected);

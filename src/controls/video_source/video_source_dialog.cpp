@@ -56,7 +56,7 @@ ShownVideoSource shown(const VideoSourceValues &values)
 
 } // namespace
 
-QPoint keptOnCanvas(QPoint place, const forms::Typed &typed, VideoStandard standard)
+QPoint placeOnCanvas(QPoint place, const forms::Typed &typed, VideoStandard standard)
 {
     const double share = typed.row("cmbSizeRatio") == BackgroundRow ? 1.0 / MarkerDivisor : 1;
     const Crops crops(typed);
@@ -69,7 +69,7 @@ std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed, Vid
 {
     if (!bordersFit(typed))
         return forms::refusal(u"Invalid Border Width"_s, platform::Icon::Critical);
-    const QPoint place = keptOnCanvas(typedPlace(typed), typed, standard);
+    const QPoint place = placeOnCanvas(typedPlace(typed), typed, standard);
     const bool isAligned = place.x() % PlaceStep == 0 && place.y() % PlaceStep == 0;
     if (isAligned || typed.row("cmbSizeRatio") == BackgroundRow)
         return std::nullopt;
@@ -151,7 +151,8 @@ void VideoSourceDialog::addLimits()
 
 void VideoSourceDialog::set(ShownVideoSource &values)
 {
-    const QPoint place = keptOnCanvas({values.curLeftCoord, values.curTopCoord}, typed(), host().VideoType());
+    const QPoint place =
+        placeOnCanvas({values.curLeftCoord, values.curTopCoord}, typed(), host().VideoType());
     values.curLeftCoord = toInteger<qint16>(place.x());
     values.curTopCoord = toInteger<qint16>(place.y());
     values.curHue = static_cast<quint8>(values.hue);

@@ -13,7 +13,7 @@ struct ShownVideoSource : VideoSourceValues
 };
 
 // Where a source that is typed to stand at `place` comes to stand on a canvas of this standard, pixels.
-QPoint keptOnCanvas(QPoint place, const forms::Typed &typed, recorder::VideoStandard standard);
+QPoint placeOnCanvas(QPoint place, const forms::Typed &typed, recorder::VideoStandard standard);
 
 std::optional<forms::Verdict> validateVideoSource(const forms::Typed &typed,
                                                   recorder::VideoStandard standard);
