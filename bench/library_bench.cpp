@@ -32,7 +32,7 @@ void generateIcons(benchmark::State &state)
     defineEntries(design);
     platform::NoProgress silent;
     bench::Times times;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         platform::wipeFiles(design.folders().cache, QStringLiteral("*.bmp"));
         state.SetIterationTime(times.measure([&] {
             design.GenerateIcons(silent);

@@ -60,7 +60,7 @@ void measureOpening(benchmark::State &state, Open open)
 {
     World world;
     bench::Times times;
-    for (auto _ : state)
+    while (state.KeepRunning())
         state.SetIterationTime(times.measure([&] { open(world); }));
     bench::stateLimit(state, times, OpenLimitMs);
 }
@@ -91,7 +91,7 @@ void messageFrequency(benchmark::State &state)
     World world;
     bench::Times own;
     bench::Times peer;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.SetIterationTime(own.measure([&] { openFrequency(world); }));
         peer.measure([&] { plainTable(world.settings.MessageTable); });
     }

@@ -70,7 +70,7 @@ void costOfOneControl(benchmark::State &state)
 {
     Costs some;
     Costs many;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.SetIterationTime(Times::timed([&] {
             some.measure(Some);
             many.measure(Many);
@@ -94,7 +94,7 @@ double heapMb() { return static_cast<double>(mallinfo2().uordblks + mallinfo2().
 void memoryOfGauges(benchmark::State &state)
 {
     double taken = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Program program;
         const double before = heapMb();
         for (int i = 0; i < Many; ++i)

@@ -175,7 +175,7 @@ void compareStarts(benchmark::State &state, double Start::*figure, const char *p
     stage.run(stage.self(), EmptyRole);
     Times own;
     Times peer;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const auto program = stage.run(stage.launcher(), ProgramRole);
         const auto other = stage.run(stage.self(), peerRole);
         if (!program || !other)

@@ -36,7 +36,7 @@ void addAllFamilies(Program &program)
 {
     const auto families = controls::families();
     for (int i = 0; i < Controls; ++i) {
-        const QPointF place(i % 20 * 450.0, i / 20 * 810.0); // twips, all over the canvas
+        const QPointF place(QPoint(i % 20 * 450, i / 20 * 810)); // twips, all over the canvas
         program.design().addControl(families[static_cast<std::size_t>(i) % families.size()].type, place);
         if (auto *bitmap = dynamic_cast<controls::Bitmap *>(program.design().controls().last()))
             givePicture(*bitmap);

@@ -21,7 +21,7 @@ void add(QRegion &region, const QRect &area)
 
 QRegion taken(QRegion &region, const QRect &area)
 {
-    const QRegion part = region & area;
+    QRegion part = region & area;
     region -= part;
     return part;
 }

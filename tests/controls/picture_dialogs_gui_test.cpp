@@ -53,7 +53,7 @@ struct BitmapPictures : test::Properties<BitmapDialog, Bitmap, ControlType::Bitm
     {
         QImage picture(size, QImage::Format_RGB32);
         picture.fill(colour);
-        const QString path = w.world.root.filePath(colour == Qt::red ? "red.bmp" : "white.bmp");
+        QString path = w.world.root.filePath(colour == Qt::red ? "red.bmp" : "white.bmp");
         EXPECT_TRUE(picture.save(path));
         return path;
     }

@@ -15,10 +15,7 @@ using variables::VariableRecord;
 // 2*x for variable 2.
 const QByteArray Doubled = bytes("011400000040 02120100 0108 0119");
 
-VariableRecord &slot(variables::Catalogue &catalogue, int index)
-{
-    return catalogue.live[static_cast<std::size_t>(index)];
-}
+VariableRecord &slot(variables::Catalogue &catalogue, int index) { return catalogue.live[index]; }
 
 // Variables with three allowed units, and equations from 6001 on.
 variables::Catalogue someCatalogue()

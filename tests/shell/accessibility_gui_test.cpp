@@ -13,8 +13,6 @@
 
 namespace {
 
-using test::DesignWindow;
-
 // The key after the "&"; null when there is none.
 QChar mnemonicOf(const QString &caption)
 {

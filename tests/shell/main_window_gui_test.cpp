@@ -14,7 +14,7 @@ struct MainWindow : testing::Test
 {
     QString layout(const QString &name, int bars)
     {
-        const QString path = w.world.root.filePath(name);
+        QString path = w.world.root.filePath(name);
         test::writeLayout(path, bars);
         return path;
     }
@@ -22,7 +22,7 @@ struct MainWindow : testing::Test
     {
         QImage image(size, QImage::Format_RGB32);
         image.fill(Qt::red);
-        const QString path = w.world.root.filePath(name);
+        QString path = w.world.root.filePath(name);
         EXPECT_TRUE(image.save(path, "BMP"));
         return path;
     }
@@ -125,7 +125,9 @@ TEST_F(MainWindow, OptionsAreKeptAndSeenAtOnce)
     const platform::Folders &folders = w.world.state.folders;
     const QString wrong = "wrong.bmp\nImage should be 720 X ";
     QDir(w.world.root.path()).mkdir("other");
-    for (const auto &[size, kept] : {std::pair("19", 0), {"1001", 0}, {"1000", 1000}, {"20", 20}}) {
+    for (const auto &entry : {std::pair("19", 0), {"1001", 0}, {"1000", 1000}, {"20", 20}}) {
+        const char *size = entry.first;
+        const int kept = entry.second;
         test::whenOpened([&](QWidget &dialog) {
             auto &grid = test::child<QLineEdit>(dialog, "txtGridSize");
             grid.selectAll();

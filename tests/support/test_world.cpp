@@ -23,7 +23,7 @@ World::World()
 
 void World::addVariable(int index, const QString &name, qint32 group)
 {
-    variables::VariableRecord &record = state.catalogue.live[static_cast<std::size_t>(index)];
+    variables::VariableRecord &record = state.catalogue.live[index];
     record.IndexNumber = index;
     record.PhysicalName = name.toUpper();
     record.BaseName = name;
