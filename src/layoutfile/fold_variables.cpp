@@ -4,6 +4,8 @@
 #include "variables/expression/rebuilder.h"
 #include "variables/units.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 namespace layoutfile {
@@ -47,6 +49,7 @@ public:
         else if (entry.used == 1 && entry.programOffset < 0)
             takeRawUnit(variable);
         variable.UseCustomTrans = variable.UseCustomTrans || isUserDefined(variable);
+        variables::SetupVariable(variable, entry.variable, m_catalogue.units);
     }
 
 private:
@@ -112,13 +115,14 @@ void foldVariables(const std::vector<LayoutRecord> &records, variables::Catalogu
                    const platform::NumberLocale &locale)
 {
     const QByteArray programs = bulkOf<ProgramsRecord>(records);
+    catalogue.staging = {}; // so that the slots are changed where they are
+    const auto bothSame = qScopeGuard([&catalogue] { catalogue.staging = catalogue.live; });
     Folding folding(catalogue, locale);
     for (const LayoutRecord &record : records) {
         const auto *entry = std::get_if<VariableEntry>(&record.body);
         if (entry && entry->variable >= 1 && entry->variable <= variables::LastIndex)
             folding.fold(*entry, programOf(*entry, programs));
     }
-    variables::SetupVariables(catalogue);
 }
 
 } // namespace layoutfile

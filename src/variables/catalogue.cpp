@@ -33,6 +33,8 @@ void normaliseFlags(VariableRecord &record, int index)
         record.Available = false;
     // Available deliberately stays when the hardware lacks the variable.
     record.Enabled = record.Enabled && isPermitted(index);
+    if (index == LastIndex)
+        record.Enabled = record.Available = false;
     if (index == 1 || NeverSmoothed.holds(index))
         record.SmoothingTime = record.MaximumROC = 0;
 }
@@ -49,6 +51,12 @@ bool isPermitted(int index)
                        [index](const Range &range) { return range.holds(index); });
 }
 
+void SetupVariable(VariableRecord &record, int index, const UnitTable &units)
+{
+    normaliseFlags(record, index);
+    record.DisplayName = displayName(record, units);
+}
+
 void SetupVariables(Catalogue &catalogue)
 {
     catalogue.staging = {}; // so that the slots are changed where they are
@@ -57,12 +65,10 @@ void SetupVariables(Catalogue &catalogue)
         VariableRecord &record = catalogue.live[i];
         normaliseFlags(record, static_cast<int>(i));
         // One text is shared by the thousands of empty slots.
-        const bool empty =
+        const bool isEmpty =
             record.BaseName.isEmpty() && !record.UseCustomTrans && record.ApplyTransformation.isEmpty();
-        record.DisplayName = empty ? emptySlotName : displayName(record, catalogue.units);
+        record.DisplayName = isEmpty ? emptySlotName : displayName(record, catalogue.units);
     }
-    if (catalogue.live.size() > LastIndex)
-        catalogue.live[LastIndex].Enabled = catalogue.live[LastIndex].Available = false;
     catalogue.staging = catalogue.live;
 }
 

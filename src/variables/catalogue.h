@@ -87,8 +87,9 @@ struct Catalogue
 // Whether the recorder has a variable of this index at all.
 bool isPermitted(int index);
 
-// Normalises `live`: the flags, the never-smoothed variables, the display names, the sentinel. `staging` is
-// the same afterwards.
+// Normalises one record of `live`: the flags, the rates of a variable that is never smoothed, the display name.
+void SetupVariable(VariableRecord &record, int index, const UnitTable &units);
+// Normalises all of `live`. `staging` is the same afterwards.
 void SetupVariables(Catalogue &catalogue);
 
 // The unit that a variable's value is shown in: its own text, or the label of the conversion in force. A

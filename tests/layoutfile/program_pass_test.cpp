@@ -92,6 +92,7 @@ TEST(Folding, programsBecomeUnitsOrEquations)
     const QByteArray plusOne = bytes("01120100 02140000C03F 0106 0119"); // var_0002 + 1.5
     const QByteArray ofUser = bytes("011400000040 02127017 0108 0119");  // 2*var_6001
     variables::Catalogue catalogue = someCatalogue(), expected = catalogue;
+    variables::SetupVariables(catalogue);
     slot(catalogue, 2).UseCustomTrans = true;
     foldVariables({{1, VariableEntry{2, 1, 0.25F, 7, 0, 14}},
                    {2, VariableEntry{3, 1, 0, 0, 14, 14}},
