@@ -1,5 +1,6 @@
 #include "fuzz/targets.h"
 
+#include "fuzz/fuzz_controls.h"
 #include "graphics/composer.h"
 #include "graphics/picture_loader.h"
 #include "graphics/planes.h"
@@ -117,6 +118,7 @@ bool layout(QByteArrayView bytes)
     const std::vector<LayoutRecord> records = layoutfile::parseLayout(file);
     recorder::RecorderSettings settings;
     layoutfile::settingsFromRecords(records, settings);
+    useControls(records);
     const bool gearsFit = settings.GearTable.size() >= 1 && settings.GearTable.size() <= 7;
     return refused && accepted && thumbnailFits && foldsIn(records) && holdsImages(records) && gearsFit &&
            std::all_of(records.begin(), records.end(), &settles);
