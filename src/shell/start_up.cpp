@@ -145,7 +145,7 @@ void StartUp::showWindows()
     m_window->showMaximized();
     platform::wipeFiles(m_state.folders.cache, u"*.bmp"_s);
     platform::afterFirstPaint(*m_window, [window = m_window.get()] {
-        platform::Busy busy(window);
+        platform::Busy busy(window, platform::Busy::Hourglass::WhenItLasts);
         window->design().GenerateIcons(busy);
     });
     m_window->activateWindow();

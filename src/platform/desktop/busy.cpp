@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace platform {
 
 ProgressWindow::ProgressWindow(QWidget *parent, const QString &title)
@@ -21,10 +23,11 @@ ProgressWindow::ProgressWindow(QWidget *parent, const QString &title)
     setMinimumWidth(360);
 }
 
-Busy::Busy(QWidget *window) : m_window(window), m_focus(QApplication::focusWidget())
+Busy::Busy(QWidget *window, Hourglass hourglass) : m_window(window), m_focus(QApplication::focusWidget())
 {
     m_since.start();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (hourglass == Hourglass::AtOnce)
+        showHourglass();
     if (m_window)
         m_window->installEventFilter(this);
 }
@@ -32,7 +35,8 @@ Busy::Busy(QWidget *window) : m_window(window), m_focus(QApplication::focusWidge
 Busy::~Busy()
 {
     m_progress.reset();
-    QApplication::restoreOverrideCursor();
+    if (m_hasHourglass)
+        QApplication::restoreOverrideCursor();
     if (!m_window)
         return;
     m_window->removeEventFilter(this);
@@ -65,10 +69,17 @@ void Busy::setValue(int percent)
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void Busy::showHourglass()
+{
+    if (!std::exchange(m_hasHourglass, true))
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
 void Busy::showProgress()
 {
     if (m_title.isNull())
         return;
+    showHourglass();
     if (!m_isShown && m_window) {
         m_wasEnabled = m_window->isEnabled();
         m_window->setEnabled(false);

@@ -22,7 +22,10 @@ class Busy final : public QObject, public Progress
     Q_OBJECT
 
 public:
-    explicit Busy(QWidget *window);
+    // A task that nobody asked for has its hourglass with the progress window.
+    enum class Hourglass { AtOnce, WhenItLasts };
+
+    explicit Busy(QWidget *window, Hourglass hourglass = Hourglass::AtOnce);
     ~Busy() override;
 
     void begin(const QString &title) override;
@@ -36,6 +39,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showHourglass();
     void showProgress();
 
     QPointer<QWidget> m_window;
@@ -43,6 +47,7 @@ private:
     std::unique_ptr<ProgressWindow> m_progress;
     QString m_title; // of the step that runs; null for none
     QElapsedTimer m_since;
+    bool m_hasHourglass = false;
     bool m_isShown = false;
     bool m_wasEnabled = true;
     bool m_closeRequested = false;
