@@ -61,7 +61,10 @@ void CanvasPicture::refresh(const ControlList &resting, const QRect &area)
 {
     for (const QRect &part : taken(m_touched, area)) {
         const Composition fresh = composed(m_ground, part, resting, m_drawing);
-        QPainter(&m_composed).drawImage(fresh.corner, fresh.picture);
+        if (fresh.area() == m_ground.rect())
+            m_composed = fresh.picture;
+        else
+            QPainter(&m_composed).drawImage(fresh.corner, fresh.picture);
     }
     for (const QRect &part : taken(m_touchedFrames, area))
         refreshFrames(resting, m_zoom.shown(part));
@@ -87,7 +90,7 @@ void CanvasPicture::paint(QPainter &painter, const QRect &shown, const ControlLi
 {
     const double ratio = painter.device()->devicePixelRatioF();
     const QSize whole = (QSizeF(m_zoom.shown(m_ground.rect()).size()) * ratio).toSize();
-    if (!isKept(whole)) {
+    if (order.isEmpty() || !isKept(whole)) {
         m_frames = {};
     } else if (m_frames.isNull() || m_frames.devicePixelRatio() != ratio) {
         m_frames = QImage(whole, QImage::Format_ARGB32_Premultiplied);

@@ -8,6 +8,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 namespace surface {
 
 using controls::Box;
@@ -62,7 +64,7 @@ QImage picture(OverlayControl &control)
     place(control, control.host().screen().toTwips(QPointF(-control.area().topLeft())));
     QImage ground(control.area().size().boundedTo(LargestShown).expandedTo({1, 1}), QImage::Format_RGB32);
     ground.fill(Plate);
-    return overlayPicture(ground, {&control});
+    return overlayPicture(std::move(ground), {&control});
 }
 
 bool isUsual(const Box &box, const platform::Screen &screen)

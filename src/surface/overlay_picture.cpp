@@ -15,13 +15,15 @@ QImage groundOf(QSize canvas, const QImage &background)
     return ground;
 }
 
-Composition composed(const QImage &ground, const QRect &area, const ControlList &order,
+Composition composed(QImage ground, const QRect &area, const ControlList &order,
                      controls::Drawing drawing)
 {
     const QRect part = area & ground.rect();
     if (part.isEmpty())
         return {};
-    Composition composition{ground.copy(part), part.topLeft(), drawing};
+    // A whole one is shared until something is drawn on it.
+    QImage picture = part == ground.rect() ? std::move(ground) : ground.copy(part);
+    Composition composition{std::move(picture), part.topLeft(), drawing};
     for (const OverlayControl *control : order) {
         if (control->drawnArea().intersects(part))
             platform::skipFailures([&] { control->paint(composition); });
@@ -29,9 +31,10 @@ Composition composed(const QImage &ground, const QRect &area, const ControlList 
     return composition;
 }
 
-QImage overlayPicture(const QImage &ground, const ControlList &order)
+QImage overlayPicture(QImage ground, const ControlList &order)
 {
-    return composed(ground, ground.rect(), order, controls::Drawing::Recorded).picture;
+    const QRect all = ground.rect();
+    return composed(std::move(ground), all, order, controls::Drawing::Recorded).picture;
 }
 
 } // namespace surface

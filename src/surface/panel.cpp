@@ -44,9 +44,6 @@ Panel::Panel(const QString &title, QWidget *content, QWidget *parent)
     setAutoFillBackground(true);
     setMouseTracking(true);
     setAccessibleName(title);
-    QFont bold = m_title->font();
-    bold.setBold(true);
-    m_title->setFont(bold);
     m_title->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_title->setTextFormat(Qt::PlainText); // the layout's is the name of its file
     auto *close = new QToolButton;
