@@ -31,7 +31,7 @@ private:
 // Off-screen unless the environment names another platform, and without what that platform has to remark.
 void choosePlatform();
 
-// Folders in `root` that hold a new user's data, as the launcher leaves it.
+// Folders in `root` that hold a new user's data, as the set-up leaves it.
 platform::Folders seededFolders(const QTemporaryDir &root);
 
 // Shows a window and waits until it is painted on: a real display takes its time.

@@ -4,7 +4,9 @@
 
 namespace platform {
 
-// The name of the executable. Its lock, its cache folder and whoever starts it go by it.
+// The name of the executable. Its lock and its cache folder go by it.
 inline constexpr QLatin1String ProgramName{"morvel-config"};
+// The name under which people and desktops start it.
+inline constexpr QLatin1String LaunchName{"morvel"};
 
 } // namespace platform

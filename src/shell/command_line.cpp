@@ -1,5 +1,7 @@
 #include "shell/command_line.h"
 
+#include "platform/program_name.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -58,7 +60,9 @@ std::optional<recorder::VideoStandard> standardOf(const QString &word)
 
 } // namespace
 
-QStringList argumentsForProgram(const QStringList &arguments)
+bool isLaunched(const QString &name) { return QFileInfo(name).baseName() == platform::LaunchName; }
+
+QStringList launchedArguments(const QStringList &arguments)
 {
     QStringList passed = bareSwitchesJoined(arguments);
     for (QString &argument : passed) {

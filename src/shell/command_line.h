@@ -15,12 +15,15 @@ struct CommandLine
     std::optional<recorder::VideoStandard> videoOverride; // for this run
 };
 
-// The argument by which the launcher says that it was the launcher; it holds no slash and so means nothing
-// else.
+// The argument which says that somebody launched the program; it holds no slash and so means nothing else.
 inline const QString LaunchedMark = QStringLiteral("--launched");
 
-// What the launcher passes on: its mark, and a plain file, as a file manager names it, as /F and its path.
-QStringList argumentsForProgram(const QStringList &arguments);
+// Whether the program was started by this name as a person or a desktop starts it.
+bool isLaunched(const QString &name);
+
+// The arguments of a launched program: the mark, and a plain file, as a file manager names it, as /F and its
+// path.
+QStringList launchedArguments(const QStringList &arguments);
 
 // The raw line of the arguments after the program's name. Where "/" separates folders, the slashes after
 // the first one of an argument become "\", so that the parser, which splits at "/", sees one path. An

@@ -1,5 +1,5 @@
-// What the launcher becomes where the program would not find all that it needs: gives a new user the shipped
-// definition files, or asks whether to, then becomes the program.
+// What a launched program becomes where it does not find all that it needs: gives a new user the shipped
+// definition files, or asks whether to, then becomes the program again.
 
 #include "platform/become_program.h"
 #include "platform/desktop/appearance.h"
@@ -61,7 +61,7 @@ int main(int argc, char **argv)
         const QCoreApplication self(argc, argv);
         const QString folder = QCoreApplication::applicationDirPath();
         program = folder + QLatin1Char('/') + platform::ProgramName;
-        passed = shell::argumentsForProgram(QCoreApplication::arguments().sliced(1));
+        passed = shell::launchedArguments(QCoreApplication::arguments().sliced(1));
         first = completeUserData(platform::desktopFolders(folder));
     }
     if (first && !say(argc, argv, first))

@@ -21,7 +21,7 @@ private:
     platform::ProcessLock m_lock;
 };
 
-// A second start is silent, unless the launcher was to open a layout: then somebody waits for it.
+// A second start is silent, unless it was launched to open a layout: then somebody waits for it.
 void tellOfRunningInstance(const QStringList &arguments, platform::Prompts &prompts);
 
 } // namespace shell

@@ -1,6 +1,6 @@
 """The road of one layout, as a user goes it: place, drag, bind, edit, save, quit, come back, save again.
 
-Arguments: the launcher, and a folder for a picture of the screen when something fails. 77: there can be no windows.
+Arguments: the program, and a folder for a picture of the screen when something fails. 77: there can be no windows.
 """
 
 import contextlib
@@ -99,7 +99,7 @@ def go(desktop: Desktop, tool: Tool, home: Path) -> None:
 
 
 def main() -> int:
-    program, picture = Path(sys.argv[1]).resolve(), Path(sys.argv[2], "road_failed.png")
+    program, picture = Path(sys.argv[1]).absolute(), Path(sys.argv[2], "road_failed.png")
     if missing := [tool for tool in TOOLS if shutil.which(tool) is None]:
         print("skipped: not installed:", *missing)
         return SKIPPED

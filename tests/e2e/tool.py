@@ -42,7 +42,7 @@ class Tool:
         self._started.append(subprocess.Popen([self._program], env=self._environment, start_new_session=True))
 
     def kill(self) -> None:
-        """Ends launchers and the programs that they have started, if they are still there."""
+        """Ends the programs that are still there."""
         for process in self._started:
             if process.poll() is None:
                 os.killpg(process.pid, signal.SIGKILL)

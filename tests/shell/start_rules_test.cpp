@@ -88,7 +88,10 @@ TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
 TEST_F(UserData, plainFileIsPassedOnByItsLetter)
 {
     platform::replaceFile(path("f"), "");
-    EXPECT_EQ(argumentsForProgram({path("f"), "/F", path("f"), "/x", "/t", "pal"}),
+    for (const char *name : {"morvel", "/usr/bin/morvel", "C:/x/morvel.exe"})
+        EXPECT_TRUE(isLaunched(name)) << name;
+    EXPECT_FALSE(isLaunched("/x/morvel/morvel-config"));
+    EXPECT_EQ(launchedArguments({path("f"), "/F", path("f"), "/x", "/t", "pal"}),
               (QStringList{LaunchedMark, "/F" + path("f"), "/F" + path("f"), "/x", "/tpal"}));
 }
 
