@@ -58,6 +58,20 @@ const QRawFont &OutlineFont::faceOf(char32_t character) const
     return !m_face.supportsCharacter(character) && m_standIn.isValid() ? m_standIn : m_face;
 }
 
+const OutlineFont::Glyph &OutlineFont::glyphOf(char32_t character) const
+{
+    const auto known = m_glyphs.constFind(character);
+    if (known != m_glyphs.constEnd())
+        return *known;
+    const QRawFont &face = faceOf(character);
+    const QList<quint32> glyphs = face.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    Glyph glyph;
+    if (!glyphs.isEmpty())
+        glyph = {face.pathForGlyph(glyphs.front()),
+                 face.advancesForGlyphIndexes({glyphs.front()}, QRawFont::UseDesignMetrics).front().x()};
+    return *m_glyphs.insert(character, glyph);
+}
+
 TextOutline OutlineFont::outline(const QString &text) const
 {
     if (!m_face.isValid())
@@ -65,12 +79,9 @@ TextOutline OutlineFont::outline(const QString &text) const
     QPainterPath path;
     double pen = 0;
     for (const char32_t character : text.toUcs4()) {
-        const QRawFont &face = faceOf(character);
-        const QList<quint32> glyphs = face.glyphIndexesForString(QString::fromUcs4(&character, 1));
-        if (glyphs.isEmpty())
-            continue;
-        path.addPath(face.pathForGlyph(glyphs.front()).translated(pen, 0));
-        pen += face.advancesForGlyphIndexes({glyphs.front()}, QRawFont::UseDesignMetrics).front().x();
+        const Glyph &glyph = glyphOf(character);
+        path.addPath(glyph.path.translated(pen, 0));
+        pen += glyph.advance;
     }
     const double thickness =
         m_face.lineThickness() > 0 ? m_face.lineThickness() : UsualThickness * UnitsPerEm;

@@ -2,6 +2,7 @@
 
 #include "graphics/font_name.h"
 
+#include <QHash>
 #include <QPainterPath>
 #include <QRawFont>
 
@@ -33,9 +34,17 @@ public:
     TextOutline outline(const QString &text) const;
 
 private:
+    // At a thousand units to the em.
+    struct Glyph
+    {
+        QPainterPath path;
+        double advance = 0;
+    };
+    const Glyph &glyphOf(char32_t character) const;
     const QRawFont &faceOf(char32_t character) const;
 
     FontStyle m_style;
+    mutable QHash<char32_t, Glyph> m_glyphs; // those that were drawn
     QRawFont m_face;
     QRawFont m_standIn;
 };
