@@ -49,11 +49,16 @@ void paintCamera(QPainter &painter, const QRect &area, const QString &text)
     light.setColorAt(0, QColor(0x6f, 0x83, 0x96));
     light.setColorAt(1, QColor(0x2b, 0x35, 0x40));
     painter.fillRect(area, light);
-    QFont font = painter.font();
-    font.setPixelSize(std::clamp(area.height() / 6, 8, 20));
-    painter.setFont(font);
+    // Enlarged, as another font would have to be looked up.
+    const double scale = double(std::clamp(area.height() / 6, 8, 20)) / painter.fontInfo().pixelSize();
+    QRectF room({}, QSizeF(area.size()) / scale);
+    room.moveCenter({});
+    painter.save();
+    painter.translate(QRectF(area).center());
+    painter.scale(scale, scale);
     painter.setPen(Qt::white);
-    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text);
+    painter.restore();
 }
 
 void paintBorder(QPainter &painter, const QRect &area, int width, const QColor &colour)
