@@ -1,5 +1,6 @@
 #include "surface/canvas.h"
 
+#include "graphics/scan_lines.h"
 #include "surface/canvas_accessible.h"
 #include "surface/control_text.h"
 #include "surface/safe_areas.h"
@@ -30,17 +31,16 @@ QList<int> dottedPixels(const CanvasRules &rules, float (platform::Screen::*toPi
     }
 }
 
-void paintDots(QPainter &painter, const QSize &size, const CanvasRules &rules)
+void paintDots(QImage &picture, QRgb ink, const CanvasRules &rules)
 {
     if (rules.grid.spacing < 1)
         return;
-    const QList<int> columns = dottedPixels(rules, &platform::Screen::toPixelsX, size.width());
-    QList<QPoint> dots;
-    for (const int row : dottedPixels(rules, &platform::Screen::toPixelsY, size.height())) {
+    const QList<int> columns = dottedPixels(rules, &platform::Screen::toPixelsX, picture.width());
+    for (const int row : dottedPixels(rules, &platform::Screen::toPixelsY, picture.height())) {
+        QRgb *pixels = graphics::pixelsOf(picture, row);
         for (const int column : columns)
-            dots.append({column, row});
+            pixels[column] = ink;
     }
-    painter.drawPoints(dots.constData(), static_cast<int>(dots.size()));
 }
 
 } // namespace
@@ -64,11 +64,8 @@ void Canvas::display(const QImage &background, const CanvasRules &rules, bool do
     setFixedSize(m_zoom.shown(QRect(QPoint(), size)).size());
     m_ground = groundOf(size, background);
     QImage dotted = m_ground;
-    if (dots) {
-        QPainter painter(&dotted);
-        painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
-        paintDots(painter, size, rules);
-    }
+    if (dots)
+        paintDots(dotted, palette().color(QPalette::Active, QPalette::WindowText).rgb(), rules);
     m_picture.reset(dotted, FramePainter(rules.screen, palette().color(QPalette::Active, QPalette::Dark)),
                     m_isPlayMode ? Drawing::Recorded : Drawing::Designed);
     update();

@@ -86,6 +86,9 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool focusNextPrevChild(bool forward) override;
+    // The canvas looks the same with and without the keys.
+    void focusInEvent(QFocusEvent *) override {}
+    void focusOutEvent(QFocusEvent *) override {}
     bool event(QEvent *event) override;
 
 private:

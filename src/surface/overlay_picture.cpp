@@ -9,6 +9,8 @@ using controls::OverlayControl;
 
 QImage groundOf(QSize canvas, const QImage &background)
 {
+    if (background.size() == canvas && background.format() == QImage::Format_RGB32)
+        return background;
     QImage ground(canvas, QImage::Format_RGB32);
     ground.fill(Qt::black);
     QPainter(&ground).drawImage(0, 0, background);
