@@ -78,6 +78,15 @@ void Program::addControls(int count)
     QApplication::processEvents();
 }
 
+void Program::takeFonts(const Program &from) const
+{
+    const QDir fonts(from.m_state.folders.FontFolder());
+    const QString here = m_state.folders.FontFolder();
+    QDir().mkpath(here);
+    for (const QString &name : fonts.entryList(QDir::Files))
+        QFile::copy(fonts.filePath(name), here + name);
+}
+
 namespace {
 
 constexpr QPoint Grip(30, 12); // within what is dragged
@@ -154,6 +163,7 @@ Comparison measureLoads(benchmark::State &state, Program &writer, const std::fun
     Comparison times;
     while (state.KeepRunning()) {
         Program reader;
+        reader.takeFonts(writer);
         state.SetIterationTime(times.own.measure([&] {
             reader.files().load(writer.savePath());
             QApplication::processEvents(); // what was loaded is painted

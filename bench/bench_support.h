@@ -50,6 +50,8 @@ public:
 
     // Gauges and bar graphs in turn, all over the canvas.
     void addControls(int count);
+    // The fonts that the other one has made.
+    void takeFonts(const Program &from) const;
 
 private:
     QTemporaryDir m_root;
@@ -121,7 +123,7 @@ struct Comparison
 Comparison measureSaves(benchmark::State &state, Program &program,
                         const std::function<void(const QByteArray &)> &peer);
 
-// Loads what `writer` saves into one fresh program after the other, until it is painted.
+// Loads what `writer` saves into one fresh program after the other, which have its fonts, until it is painted.
 Comparison measureLoads(benchmark::State &state, Program &writer, const std::function<void()> &peer);
 
 // Puts the limit beside the benchmark's time; the label says whether the median keeps it.
