@@ -52,8 +52,8 @@ frmMain::frmMain(ProgramState &state, platform::Prompts &prompts)
     makePopups();
     setCentralWidget(m_design);
     m_design->canvas().setFocus(); // the keys work on the design from the start
-    connect(m_design, &surface::frmInterface::positionShown, m_position, &QLabel::setText);
-    connect(m_design, &surface::frmInterface::currentShown, m_current, &ElidedLabel::setText);
+    connect(m_design, &surface::frmInterface::positionShown, m_position, &LiveLabel::setText);
+    connect(m_design, &surface::frmInterface::currentShown, m_current, &LiveLabel::setText);
     connect(m_design, &surface::frmInterface::layoutChanged, this, &frmMain::refreshFromState);
     connect(m_design, &surface::frmInterface::viewChanged, this, &frmMain::refreshFromState);
     for (const auto change : {&surface::frmInterface::designChanged, &surface::frmInterface::layoutChanged})
@@ -152,8 +152,8 @@ void frmMain::makeToolbar()
 
 void frmMain::makeStatusBar()
 {
-    m_position = new QLabel;
-    m_current = new ElidedLabel;
+    m_position = new LiveLabel;
+    m_current = new LiveLabel;
     m_zoom = new QLabel;
     m_standard = new QLabel;
     m_bitRate = new QLabel;
@@ -164,10 +164,7 @@ void frmMain::makeStatusBar()
     for (QWidget *pane :
          std::initializer_list<QWidget *>{m_position, m_current, m_zoom, m_standard, m_bitRate})
         pane->setContentsMargins(8, 2, 8, 2);
-    // Of a fixed size, so that a new text at each movement of the mouse does not lay out the window.
-    m_position->setText(surface::positionText({-99999, -99999}, m_state.screen));
-    m_position->setFixedSize(m_position->sizeHint());
-    m_position->clear();
+    m_position->fix(surface::positionText({-99999, -99999}, m_state.screen));
     statusBar()->addWidget(m_position);
     statusBar()->addPermanentWidget(m_current, 1);
     statusBar()->addPermanentWidget(m_zoom);

@@ -2,8 +2,8 @@
 
 #include "forms/dialog.h"
 #include "shell/commands.h"
-#include "shell/elided_label.h"
 #include "shell/file_commands.h"
+#include "shell/live_label.h"
 #include "shell/recovery.h"
 #include "shell/variable_commands.h"
 
@@ -74,8 +74,8 @@ private:
     QMenu m_groupPopup;   // mnuGroupControl
     QMenu m_libraryPopup; // mnuControl
     bool m_groupMenuPastes = false;
-    QLabel *m_position;
-    ElidedLabel *m_current; // family, variable and place of the current control
+    LiveLabel *m_position;
+    LiveLabel *m_current; // family, variable and place of the current control
     QLabel *m_zoom;
     QLabel *m_standard;
     QLabel *m_bitRate;

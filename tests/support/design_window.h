@@ -47,7 +47,10 @@ struct DesignWindow
     operator QWidget &() { return canvas(); } // takes mouse and keys
     // What the canvas shows at one of its pixels.
     QColor shown(QPoint at) { return canvas().grab().toImage().pixelColor(at); }
-    QString text(const char *label) { return window.findChild<QLabel *>(QLatin1String(label))->text(); }
+    QString text(const char *label)
+    {
+        return window.findChild<QWidget *>(QLatin1String(label))->property("text").toString();
+    }
     QAction &action(const char *name)
     {
         auto *found = window.findChild<QAction *>(QLatin1String(name));

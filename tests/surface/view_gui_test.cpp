@@ -116,17 +116,16 @@ TEST(View, SafeAreasLieOverTheDesignAndStayForTheNextStart)
 TEST(View, AControlSaysWhatItIsWhereItIsAndWhatItShows)
 {
     DesignWindow w;
-    const auto &status = *w.window.findChild<shell::ElidedLabel *>("lblCurrent");
     controls::BarGraph &bar = w.addBar(100, 200);
     w.world.state.catalogue.live[5].DisplayName = "<b>Speed</b> [km/h]"; // no tag
     bar.bindVariable(5);
     test::press(w, Qt::Key_Right);
-    EXPECT_EQ(status.text(), "Bar Graph, <b>Speed</b> [km/h], at 101, 200");
+    EXPECT_EQ(w.text("lblCurrent"), "Bar Graph, <b>Speed</b> [km/h], at 101, 200");
     QHelpEvent help(QEvent::ToolTip, {110, 210}, w.canvas().mapToGlobal(QPoint(110, 210)));
     QApplication::sendEvent(&w.canvas(), &help);
-    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), status.text());
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), w.text("lblCurrent"));
     test::press(w, Qt::Key_Delete);
-    EXPECT_EQ(status.text(), "");
+    EXPECT_EQ(w.text("lblCurrent"), "");
 }
 
 } // namespace
