@@ -1,6 +1,6 @@
 #include "layoutfile/loading.h"
 
-#include "controls/bitmap/picture_copies.h"
+#include "controls/picture_copies.h"
 #include "graphics/picture_loader.h"
 
 #include <algorithm>

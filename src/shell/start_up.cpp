@@ -1,6 +1,6 @@
 #include "shell/start_up.h"
 
-#include "controls/bitmap/picture_copies.h"
+#include "controls/picture_copies.h"
 #include "platform/desktop/busy.h"
 #include "platform/desktop/first_paint.h"
 #include "platform/file_replace.h"

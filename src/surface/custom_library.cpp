@@ -1,7 +1,7 @@
 #include "surface/custom_library.h"
 
-#include "controls/bitmap/picture_copies.h"
 #include "controls/factories.h"
+#include "controls/picture_copies.h"
 #include "graphics/picture_loader.h"
 #include "platform/guards.h"
 

@@ -1,5 +1,5 @@
 #include "controls/bitmap/bitmap_dialog.h"
-#include "controls/bitmap/picture_copies.h"
+#include "controls/picture_copies.h"
 #include "controls/property_dialogs.h"
 #include "controls/video_source/video_source_dialog.h"
 #include "platform/file_replace.h"

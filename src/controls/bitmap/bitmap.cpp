@@ -1,7 +1,7 @@
 #include "controls/bitmap/bitmap.h"
 
-#include "controls/bitmap/picture_copies.h"
 #include "controls/complexity.h"
+#include "controls/picture_copies.h"
 #include "graphics/composer.h"
 
 namespace controls {

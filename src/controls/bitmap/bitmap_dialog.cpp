@@ -1,6 +1,6 @@
 #include "controls/bitmap/bitmap_dialog.h"
 
-#include "controls/bitmap/picture_copies.h"
+#include "controls/picture_copies.h"
 #include "graphics/picture_choice.h"
 #include "platform/guards.h"
 

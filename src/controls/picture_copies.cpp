@@ -1,4 +1,4 @@
-#include "controls/bitmap/picture_copies.h"
+#include "controls/picture_copies.h"
 
 #include "common/code_page.h"
 #include "graphics/picture_loader.h"
