@@ -52,15 +52,13 @@ std::optional<Owner> ownerIn(QFile &file)
     return Owner{process, lines[1], lines[2]};
 }
 
-// Numbers come round again: a process of another name is another process.
+// Numbers come round again: a process of another program is another process. Whose program cannot be told
+// counts as the owner.
 bool runs(const Owner &owner)
 {
-    constexpr qsizetype LongestName = 15; // that the system tells
-    QFile told(u"/proc/%1/comm"_s.arg(owner.process));
-    if (!told.open(QIODevice::ReadOnly))
-        return isAnotherProcess(owner.process);
-    return QString::fromUtf8(told.readAll()).trimmed() == owner.program.left(LongestName) &&
-           isAnotherProcess(owner.process);
+    const QString program = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(owner.process)).section('/'_L1, -1);
+    // A program that was replaced by a newer one while it runs has something behind its name.
+    return isAnotherProcess(owner.process) && (program.isEmpty() || program.startsWith(owner.program));
 }
 
 // Out of the way with a folder, a pipe or a link that leads nowhere.

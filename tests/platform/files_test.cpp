@@ -7,6 +7,7 @@
 #include "support/scripted_prompts.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -127,24 +128,29 @@ TEST_F(Files, aLockIsHeldByAProcessAndNamesItsOwner)
     const QString path = at("lock");
     const auto without = [](QFile &) { return ProcessLock::Answer::Unsupported; };
     const QByteArray end = "\n" + QSysInfo::machineHostName().toUtf8() + "\n";
-    const QByteArray self = QByteArray::number(getpid()), parent = QByteArray::number(getppid());
-    const QByteArray name = readFile("/proc/" + parent + "/comm").trimmed();
+    QFile::link("/bin/sleep", at("another name")); // by which the owner was started
+    QProcess running;
+    running.start(at("another name"), {"60"});
+    ASSERT_TRUE(running.waitForStarted());
+    const QByteArray self = QByteArray::number(getpid()), other = QByteArray::number(running.processId());
     const std::tuple<QByteArray, int, State> cases[] = {
         {"", 0, State::Others},
         {"no lock", 60, State::Ours},
         {"", -600, State::Ours}, // the clock was set back
-        {parent + "\n" + name + end, 60, State::Others},
-        {parent + "\nanother name" + end, 60, State::Ours}, // a number that came round again
+        {other + "\nsleep" + end, 60, State::Others},
+        {other + "\nmorvel-config" + end, 60, State::Ours}, // a number that came round again
         {self + "\nmorvel-config" + end, 0, State::Ours},
         {"4194305\nmorvel-config" + end, 0, State::Ours},    // no process has this number
         {"4294967297\nmorvel-config" + end, 0, State::Ours}, // nor this one, which ends in that of the first
-        {parent + "\nmorvel-config\npitwall\n", 60, State::OtherHosts},
+        {other + "\nmorvel-config\npitwall\n", 60, State::OtherHosts},
     };
     for (const auto &[content, age, state] : cases) {
         put("lock", content);
         makeOld("lock", age);
         EXPECT_EQ(ProcessLock(path, without).state(), state) << content.constData();
     }
+    running.kill();
+    running.waitForFinished();
     QFile::remove(path);
     {
         const ProcessLock lock(path, without);
