@@ -15,21 +15,16 @@ std::span<const FamilyRecord> familyRecords()
     return Records;
 }
 
-namespace {
-
-// Every family and every type of a control's record has its row.
-template <typename Key>
-const FamilyRecord &rowWith(Key FamilyRecord::*member, Key key)
+const FamilyRecord &recordOf(ControlType family)
 {
-    const auto rows = familyRecords();
-    return *std::find_if(rows.begin(), rows.end(),
-                         [&](const FamilyRecord &row) { return row.*member == key; });
+    return *std::ranges::find(familyRecords(), family, &FamilyRecord::family); // every family has its row
 }
 
-} // namespace
-
-const FamilyRecord &recordOf(ControlType family) { return rowWith(&FamilyRecord::family, family); }
-
-const FamilyRecord &recordOf(RecordType type) { return rowWith(&FamilyRecord::type, type); }
+int progressSteps(RecordType type)
+{
+    const auto rows = familyRecords();
+    const auto found = std::ranges::find(rows, type, &FamilyRecord::type);
+    return found == rows.end() ? 0 : found->progressSteps;
+}
 
 } // namespace layoutfile

@@ -45,8 +45,7 @@ FontList::Name FontList::add(const graphics::FontRequest &request, int usualSize
 
 void FontList::makeFont(const graphics::FontRequest &request, int usualSize)
 {
-    platform::NoProgress silent; // a second window would take the place of the save's
-    m_fonts.push_back(m_store->open(request, usualSize, silent));
+    m_fonts.push_back(m_store->open(request, usualSize, m_progress));
 }
 
 void FontList::giveUpFonts()

@@ -11,7 +11,10 @@ class FontList
 public:
     // Without a store there are ids and names only, and no font is made: for layouts that no recorder reads.
     // The same holds, unless it is `strict`, once a font cannot be made.
-    FontList(graphics::FontStore *store, bool strict) : m_store(store), m_isStrict(strict) {}
+    FontList(graphics::FontStore *store, bool strict, platform::Progress &progress)
+        : m_store(store), m_isStrict(strict), m_progress(progress)
+    {
+    }
 
     // How a record names its font.
     struct Name
@@ -35,6 +38,7 @@ private:
 
     graphics::FontStore *m_store;
     bool m_isStrict;
+    platform::Progress &m_progress; // of the fonts that have to be made
     QStringList m_names;
     QStringList m_replaced;
     std::vector<std::shared_ptr<const graphics::ReadyFont>> m_fonts; // as many as there are names, or none

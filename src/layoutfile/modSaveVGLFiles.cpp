@@ -66,7 +66,7 @@ void writeControls(LayoutWriter &file, const RecordGroups &groups, int total, Pr
 {
     int done = 0;
     file.put(groups, RecordType::Gauge, [&](const LayoutRecord &record) {
-        done = std::min(done + recordOf(record.type()).progressSteps, total);
+        done = std::min(done + layoutfile::progressSteps(record.type()), total);
         progress.advance(25, 25, done, total);
     });
 }
@@ -105,7 +105,8 @@ LayoutBytes assembled(SaveKind kind, const SaveContext &context, const ControlLi
     // Recovery makes no fonts: nothing but the tool reads it.
     Gathering save{{},
                    {},
-                   FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts, kind == SaveKind::Command),
+                   FontList(kind == SaveKind::Recovery ? nullptr : &context.fonts, kind == SaveKind::Command,
+                            context.progress),
                    {},
                    context.screen};
     if (kind != SaveKind::Recovery)

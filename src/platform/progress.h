@@ -4,7 +4,8 @@
 
 namespace platform {
 
-// What a long task shows while it runs. Between begin() and end() the display is on top of the window.
+// What a long task shows while it runs. Between begin() and end() the display is on top of the window; a step
+// within another one takes its place for the time being.
 class Progress
 {
 public:

@@ -8,8 +8,6 @@
 #include "platform/guards.h"
 #include "support/block_font.h"
 
-#include <QGuiApplication>
-
 namespace fuzz {
 
 namespace {
@@ -77,15 +75,6 @@ bool isQuickToDraw(const OverlayControl &control)
             graphics::ticsOf(dial->get()).size() <= MostTics);
 }
 
-// Names on cameras are drawn with the desktop's faces.
-void startGui()
-{
-    static int argc = 1;
-    static char name[] = "fuzz", *argv[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QGuiApplication application(argc, argv);
-}
-
 // The control of one record: shown, painted and stored again.
 void useControl(const FamilyRecord &family, const LayoutRecord &record, const layoutfile::Loading &load,
                 controls::ControlHost &host, layoutfile::Gathering &save)
@@ -109,11 +98,11 @@ void useControl(const FamilyRecord &family, const LayoutRecord &record, const la
 
 void useControls(const std::vector<LayoutRecord> &records)
 {
-    startGui();
     static Host host;
     static const platform::Stamp stamp{[] { return QDateTime({2005, 12, 31}, {23, 59}); }, {}, {}};
+    platform::NoProgress silent;
     const layoutfile::Loading load(records, host.folders(), stamp, host.screen());
-    layoutfile::Gathering save{{}, {}, layoutfile::FontList(nullptr, false), {}, host.screen()};
+    layoutfile::Gathering save{{}, {}, layoutfile::FontList(nullptr, false, silent), {}, host.screen()};
     for (const FamilyRecord &family : layoutfile::familyRecords()) {
         for (const LayoutRecord &record : records) {
             if (record.type() == family.type)

@@ -37,7 +37,8 @@ TEST(Images, areCutByTheSizesOfTheBitmapsAndNeverBeyondTheRecord)
 
 TEST(FontList, countsAsFarAsAByteReaches)
 {
-    FontList fonts(nullptr, true);
+    platform::NoProgress silent;
+    FontList fonts(nullptr, true, silent);
     for (int size = 0; size < 256; ++size)
         EXPECT_EQ(fonts.add({"Arial", size, {}}, 9).id, size);
     EXPECT_THROW(fonts.add({"Arial", 256, {}}, 9), common::RunTimeError);

@@ -27,9 +27,16 @@ TEST(Busy, PutsACloseOffAndLeavesTheWindowAsItWas)
             busy.setValue(++step % 100);
             return !window.isEnabled(); // it lasts
         }));
-        const QWidget *progress = QApplication::activeModalWidget();
-        ASSERT_NE(progress, nullptr);
-        EXPECT_EQ(progress->windowTitle(), "Saving");
+        const auto shown = [&busy] {
+            busy.setValue(50);
+            const QWidget *progress = QApplication::activeModalWidget();
+            return progress ? progress->windowTitle() : QString();
+        };
+        EXPECT_EQ(shown(), "Saving");
+        busy.begin("Making a font");
+        EXPECT_EQ(shown(), "Making a font");
+        busy.end();
+        EXPECT_EQ(shown(), "Saving");
     }
     EXPECT_TRUE(window.isEnabled());
     EXPECT_EQ(window.focusWidget(), &field);

@@ -52,7 +52,8 @@ Busy::~Busy()
 
 void Busy::begin(const QString &title)
 {
-    m_title = title;
+    m_titles.append(title);
+    m_progress.reset();
     setValue(0);
 }
 
@@ -77,22 +78,22 @@ void Busy::showHourglass()
 
 void Busy::showProgress()
 {
-    if (m_title.isNull())
-        return;
     showHourglass();
+    if (m_titles.isEmpty())
+        return;
     if (!m_isShown && m_window) {
         m_wasEnabled = m_window->isEnabled();
         m_window->setEnabled(false);
     }
     m_isShown = true;
-    m_progress = std::make_unique<ProgressWindow>(m_window.data(), m_title);
+    m_progress = std::make_unique<ProgressWindow>(m_window.data(), m_titles.last());
     m_progress->show();
 }
 
 void Busy::end()
 {
     m_progress.reset();
-    m_title = QString();
+    m_titles.removeLast();
 }
 
 bool Busy::eventFilter(QObject *watched, QEvent *event)

@@ -45,7 +45,7 @@ private:
     QPointer<QWidget> m_window;
     QPointer<QWidget> m_focus;
     std::unique_ptr<ProgressWindow> m_progress;
-    QString m_title; // of the step that runs; null for none
+    QStringList m_titles; // of the steps that run, one within the other
     QElapsedTimer m_since;
     bool m_hasHourglass = false;
     bool m_isShown = false;
