@@ -31,7 +31,7 @@ private:
 // Off-screen unless the environment names another platform, and without what that platform has to remark.
 void choosePlatform();
 
-// Folders in `root` that hold a new user's data, as the set-up leaves it.
+// Folders in `root` that hold a new user's data, as a first start leaves it.
 platform::Folders seededFolders(const QTemporaryDir &root);
 
 // Shows a window and waits until it is painted on: a real display takes its time.
@@ -123,7 +123,8 @@ struct Comparison
 Comparison measureSaves(benchmark::State &state, Program &program,
                         const std::function<void(const QByteArray &)> &peer);
 
-// Loads what `writer` saves into one fresh program after the other, which have its fonts, until it is painted.
+// Loads what `writer` saves into one fresh program after the other, which have its fonts, until it is
+// painted.
 Comparison measureLoads(benchmark::State &state, Program &writer, const std::function<void()> &peer);
 
 // Puts the limit beside the benchmark's time; the label says whether the median keeps it.

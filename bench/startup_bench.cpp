@@ -101,11 +101,11 @@ int startProgram(int argc, char **argv)
     QApplication application(argc, argv);
     const StartObserver observer("frmInterface");
     const platform::Folders folders = platform::desktopFolders(QStringLiteral(MORVEL_PROGRAM_DIR));
-    if (!shell::isComplete(folders))
-        return EXIT_FAILURE;
     platform::registerShippedFaces(folders.shippedFaces());
     platform::applyAppearance(application);
     bench::YesPrompts prompts({});
+    if (!shell::completeUserData(folders, prompts))
+        return EXIT_FAILURE;
     shell::StartUp start({folders, platform::userNumberLocale(), platform::systemStamp(), {}}, prompts);
     start.run();
     return QApplication::exec();
@@ -122,7 +122,7 @@ int startEmpty(int argc, char **argv)
     return QApplication::exec();
 }
 
-// A home.
+// A user's folders.
 class Stage
 {
 public:

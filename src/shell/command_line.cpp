@@ -60,7 +60,7 @@ std::optional<recorder::VideoStandard> standardOf(const QString &word)
 
 } // namespace
 
-bool isLaunched(const QString &name) { return QFileInfo(name).baseName() == platform::LaunchName; }
+bool isLaunched(const QString &name) { return QFileInfo(name).completeBaseName() == platform::LaunchName; }
 
 QStringList launchedArguments(const QStringList &arguments)
 {

@@ -1,17 +1,15 @@
 #include "shell/seed_user_data.h"
 
 #include "platform/file_replace.h"
+#include "platform/guards.h"
 
 #include <QDir>
 
 namespace shell {
 
-bool isNewUser(const platform::Folders &folders) { return !QFileInfo::exists(folders.GetAppDataFolder()); }
+using namespace Qt::StringLiterals;
 
-QStringList shippedFiles(const platform::Folders &folders)
-{
-    return QDir(folders.seeds()).entryList(QDir::Files);
-}
+namespace {
 
 QStringList missingDefinitions(const platform::Folders &folders)
 {
@@ -24,15 +22,19 @@ QStringList missingDefinitions(const platform::Folders &folders)
     return missing;
 }
 
-bool isComplete(const platform::Folders &folders)
+bool wantsThem(const QStringList &missing, const platform::Folders &folders, platform::Prompts &prompts)
 {
-    return !isNewUser(folders) && missingDefinitions(folders).isEmpty();
+    return prompts.ask(
+        platform::Icon::Question, platform::ProductTitle,
+        u"The folder\n%1\nlacks\n%2\n\nDo you want to put the shipped definitions there?"_s.arg(
+            folders.GetAppDataFolder(), missing.join('\n'_L1)));
 }
 
-QString missingFilesQuestion(const platform::Folders &folders, const QStringList &missing)
+} // namespace
+
+QStringList shippedFiles(const platform::Folders &folders)
 {
-    return QStringLiteral("The folder\n%1\nlacks\n%2\n\nDo you want to put the shipped definitions there?")
-        .arg(folders.GetAppDataFolder(), missing.join(QLatin1Char('\n')));
+    return QDir(folders.seeds()).entryList(QDir::Files);
 }
 
 void seedUserData(const platform::Folders &folders, const QStringList &names)
@@ -43,6 +45,17 @@ void seedUserData(const platform::Folders &folders, const QStringList &names)
         if (!QFileInfo::exists(target + name))
             platform::replaceFile(target + name, platform::readFile(folders.seeds() + name));
     }
+}
+
+bool completeUserData(const platform::Folders &folders, platform::Prompts &prompts)
+{
+    const auto seed = [&](const QStringList &names) {
+        return platform::reportFailures(prompts, [&] { seedUserData(folders, names); });
+    };
+    if (!QFileInfo::exists(folders.GetAppDataFolder()))
+        return seed(shippedFiles(folders));
+    const QStringList missing = missingDefinitions(folders);
+    return missing.isEmpty() || !wantsThem(missing, folders, prompts) || seed(missing);
 }
 
 } // namespace shell

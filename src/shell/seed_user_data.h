@@ -1,28 +1,22 @@
 #pragma once
 
 #include "platform/folders.h"
+#include "platform/prompts.h"
 
 #include <QStringList>
 
 namespace shell {
 
-// Whether this user has no data folder yet.
-bool isNewUser(const platform::Folders &folders);
-
 // The names of all shipped files for a new user's data folder.
 QStringList shippedFiles(const platform::Folders &folders);
-
-// The shipped definition files that the data folder has lost, or never got when a first start was cut short.
-QStringList missingDefinitions(const platform::Folders &folders);
-
-// Whether the program finds all that it needs there.
-bool isComplete(const platform::Folders &folders);
-
-// The question whether to put these files there.
-QString missingFilesQuestion(const platform::Folders &folders, const QStringList &missing);
 
 // Copies these shipped files into the user data folder. What is there stays as it is. Throws RunTimeError
 // when a file cannot be written.
 void seedUserData(const platform::Folders &folders, const QStringList &names);
+
+// Gives a new user the shipped files, and asks others whether to put the shipped definition files there that
+// their folder has lost, or never got when a first start was cut short. False when one cannot be written,
+// which was told then.
+bool completeUserData(const platform::Folders &folders, platform::Prompts &prompts);
 
 } // namespace shell

@@ -68,29 +68,40 @@ TEST_F(UserData, isSeededForNewUsersAndCompletedForOthersAfterAQuestion)
 {
     const platform::Folders folders{path("bin/"), path("home/"), {}, {}, {}};
     QDir(root.path()).mkpath("bin/defaults");
-    EXPECT_TRUE(isNewUser(folders));
     const QStringList definitions{"QLM6ConfigToolVars.cfg", "QLM6ConfigToolMessages.cfg"};
     for (const QString &name : definitions + QStringList{"back.bmp"})
         platform::replaceFile(folders.seeds() + name, "shipped");
-    QDir(root.path()).mkpath("home/Torvane");
-    EXPECT_FALSE(isNewUser(folders)); // cut short as it was
-    EXPECT_EQ(missingDefinitions(folders), definitions);
-    platform::replaceFile(folders.inUserData("back.bmp"), "mine");
-    seedUserData(folders, shippedFiles(folders));
-    EXPECT_EQ(platform::readFile(folders.inUserData("back.bmp")), "mine");
-    EXPECT_EQ(platform::readFile(folders.variablesFile()), "shipped");
+    const auto holds = [&](const QString &name, const char *bytes) {
+        const QString file = folders.GetAppDataFolder() + name;
+        return QFileInfo::exists(file) ? platform::readFile(file) == bytes : bytes == nullptr;
+    };
+    EXPECT_TRUE(completeUserData(folders, prompts));
+    for (const QString &name : shippedFiles(folders))
+        EXPECT_TRUE(holds(name, "shipped")) << name.toStdString();
+    EXPECT_TRUE(completeUserData(folders, prompts)); // there is nothing to ask
+    QFile::remove(folders.inUserData("back.bmp"));
+    for (const bool wanted : {false, true}) {
+        QFile::remove(folders.variablesFile());
+        platform::replaceFile(folders.MessagesFile(), "mine");
+        prompts.expectQuestion("The folder\n" + folders.GetAppDataFolder() + "\nlacks\n" + definitions[0] +
+                                   "\n\nDo you want to put the shipped definitions there?",
+                               wanted);
+        EXPECT_TRUE(completeUserData(folders, prompts)); // who wants none is told by the program
+        EXPECT_TRUE(holds(definitions[0], wanted ? "shipped" : nullptr));
+        EXPECT_TRUE(holds(definitions[1], "mine") && holds("back.bmp", nullptr));
+    }
     QFile::remove(folders.variablesFile());
-    EXPECT_EQ(missingDefinitions(folders), definitions.first(1));
     QFile::remove(folders.seeds() + definitions[0]);
-    EXPECT_EQ(missingDefinitions(folders), QStringList()); // nothing to offer
+    EXPECT_TRUE(completeUserData(folders, prompts)); // nothing to offer
 }
 
 TEST_F(UserData, plainFileIsPassedOnByItsLetter)
 {
     platform::replaceFile(path("f"), "");
-    for (const char *name : {"morvel", "/usr/bin/morvel", "C:/x/morvel.exe"})
+    for (const char *name : {"morvel", "/usr/bin/morvel"})
         EXPECT_TRUE(isLaunched(name)) << name;
-    EXPECT_FALSE(isLaunched("/x/morvel/morvel-config"));
+    for (const char *name : {"/x/morvel/morvel-config", "morvel.old.copy"})
+        EXPECT_FALSE(isLaunched(name)) << name;
     EXPECT_EQ(launchedArguments({path("f"), "/F", path("f"), "/x", "/t", "pal"}),
               (QStringList{LaunchedMark, "/F" + path("f"), "/F" + path("f"), "/x", "/tpal"}));
 }
