@@ -5,7 +5,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/base.sh"
 
 stage=      # folder for this run: a home for the tool, logs, pictures
 tool=       # process that was started
-tool_ended= # it has come to a good end, or left the program to itself
+tool_ended= # it has come to a good end
 window=     # the main window
 
 give_up()

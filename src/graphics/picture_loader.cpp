@@ -100,6 +100,9 @@ LoadedPicture readPicture(QByteArrayView bytes, int maxSide)
     picture.convertTo(QImage::Format_RGB32);
     if (format == "bmp")
         spreadChannels(picture, channelBits(bytes));
+    const QImage usual(1, 1, picture.format()); // the file's resolution would give texts upon it another size
+    picture.setDotsPerMeterX(usual.dotsPerMeterX());
+    picture.setDotsPerMeterY(usual.dotsPerMeterY());
     return {picture, PictureFault::None};
 }
 

@@ -49,7 +49,7 @@ public:
         else if (entry.used == 1 && entry.programOffset < 0)
             takeRawUnit(variable);
         variable.UseCustomTrans = variable.UseCustomTrans || isUserDefined(variable);
-        variables::SetupVariable(variable, entry.variable, m_catalogue.units);
+        variables::normalise(variable, entry.variable, m_catalogue.units);
     }
 
 private:

@@ -86,7 +86,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool focusNextPrevChild(bool forward) override;
-    // The canvas looks the same with and without the keys.
+    // The canvas looks the same with and without the keyboard focus: nothing is painted again.
     void focusInEvent(QFocusEvent *) override {}
     void focusOutEvent(QFocusEvent *) override {}
     bool event(QEvent *event) override;

@@ -17,13 +17,12 @@ QImage groundOf(QSize canvas, const QImage &background)
     return ground;
 }
 
-Composition composed(QImage ground, const QRect &area, const ControlList &order,
-                     controls::Drawing drawing)
+Composition composed(QImage ground, const QRect &area, const ControlList &order, controls::Drawing drawing)
 {
     const QRect part = area & ground.rect();
     if (part.isEmpty())
         return {};
-    // A whole one is shared until something is drawn on it.
+    // The whole ground is shared until something is drawn on it.
     QImage picture = part == ground.rect() ? std::move(ground) : ground.copy(part);
     Composition composition{std::move(picture), part.topLeft(), drawing};
     for (const OverlayControl *control : order) {

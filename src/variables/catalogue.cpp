@@ -51,7 +51,7 @@ bool isPermitted(int index)
                        [index](const Range &range) { return range.holds(index); });
 }
 
-void SetupVariable(VariableRecord &record, int index, const UnitTable &units)
+void normalise(VariableRecord &record, int index, const UnitTable &units)
 {
     normaliseFlags(record, index);
     record.DisplayName = displayName(record, units);
@@ -63,11 +63,14 @@ void SetupVariables(Catalogue &catalogue)
     const QString emptySlotName = displayName({}, catalogue.units);
     for (qsizetype i = 1; i < catalogue.live.size(); ++i) {
         VariableRecord &record = catalogue.live[i];
-        normaliseFlags(record, static_cast<int>(i));
-        // One text is shared by the thousands of empty slots.
         const bool isEmpty =
             record.BaseName.isEmpty() && !record.UseCustomTrans && record.ApplyTransformation.isEmpty();
-        record.DisplayName = isEmpty ? emptySlotName : displayName(record, catalogue.units);
+        if (!isEmpty) {
+            normalise(record, static_cast<int>(i), catalogue.units);
+            continue;
+        }
+        normaliseFlags(record, static_cast<int>(i));
+        record.DisplayName = emptySlotName; // one text is shared by the thousands of empty slots
     }
     catalogue.staging = catalogue.live;
 }

@@ -29,7 +29,7 @@ inline constexpr int LastUserVariable = 6025;
 // One slot of the catalogue. Booleans go to files as 0 and -1.
 struct VariableRecord
 {
-    QString DisplayName; // BaseName [unit]; made by SetupVariables
+    QString DisplayName; // BaseName [unit]; made by normalise()
     QString PhysicalName;
     QString BaseName;
     qint32 IndexNumber = 0; // 0 marks an empty slot
@@ -87,8 +87,8 @@ struct Catalogue
 // Whether the recorder has a variable of this index at all.
 bool isPermitted(int index);
 
-// Normalises one record of `live`: the flags, the rates of a variable that is never smoothed, the display name.
-void SetupVariable(VariableRecord &record, int index, const UnitTable &units);
+// Normalises the record of this slot: its flags, its rates if it is never smoothed, its display name.
+void normalise(VariableRecord &record, int index, const UnitTable &units);
 // Normalises all of `live`. `staging` is the same afterwards.
 void SetupVariables(Catalogue &catalogue);
 

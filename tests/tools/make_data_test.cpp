@@ -1,8 +1,11 @@
 #include "make_data/catalogue_builder.h"
+#include "make_data/icon_file.h"
 #include "make_data/message_builder.h"
 #include "variables/definition_file.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QImageReader>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +81,27 @@ TEST_F(Shipped, catalogueLoadsBackAsItWasBuilt)
               std::tuple(true, 300.0F, 0.1F, 200.0F));
     EXPECT_EQ(own.DisplayName, "Total acceleration [g]");
     EXPECT_EQ(own.CustomTransformation, "sqrt(var_0015^2+var_0016^2)");
+}
+
+TEST(IconFile, isReadAsItWasDrawn)
+{
+    QList<QImage> drawn;
+    for (const int size : {16, 24}) {
+        drawn.append(QImage(size, size, QImage::Format_ARGB32));
+        drawn.last().fill(QColor(255, 0, 255, 128));
+        drawn.last().setPixel(1, size - 1, qRgba(1, 2, 3, 255));
+    }
+    QByteArray bytes = make_data::iconFile(drawn);
+    QBuffer file(&bytes);
+    QImageReader reader(&file, "ico");
+    EXPECT_EQ(reader.imageCount(), 2);
+    for (int i = 0; i < drawn.size(); ++i) {
+        EXPECT_TRUE(reader.jumpToImage(i));
+        const QImage read = reader.read();
+        EXPECT_EQ(read.size(), drawn[i].size());
+        for (const QPoint at : {QPoint(0, 0), QPoint(1, drawn[i].height() - 1)})
+            EXPECT_EQ(read.pixelColor(at), drawn[i].pixelColor(at)) << at.y();
+    }
 }
 
 TEST_F(Shipped, messagesCarryTheirRates)

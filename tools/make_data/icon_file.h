@@ -6,8 +6,8 @@
 
 namespace make_data {
 
-// An .ico file that holds several sizes (none above 256 pixels), each as a bitmap, which is read faster than
-// the PNG that Qt's own writer puts in, and it puts in one only.
+// An .ico file that holds several sizes (none above 256 pixels), each as a bitmap. Qt's own writer stores one
+// size, as a PNG, which is read more slowly.
 QByteArray iconFile(const QList<QImage> &images);
 
 } // namespace make_data

@@ -3,13 +3,11 @@
 namespace recorder {
 
 frmRPM::frmRPM(float &pulsesPerRevolution, const forms::Context &context)
-    : Dialog(QStringLiteral("RPM"), context), m_pulses(pulsesPerRevolution),
-      m_field(add<forms::NumberField>("txtPulses", decimalMark()))
+    : DialogOf(QStringLiteral("RPM"), pulsesPerRevolution, context), m_pulses(pulsesPerRevolution)
 {
-    addRow(m_field, "&Pulses per revolution");
-    m_field.show(m_pulses);
-    m_field.requireNumber();
-    addButtons(forms::okAndCancel());
+    const auto itself = [](float &value) -> float & { return value; };
+    number(itself, {"txtPulses", "&Pulses per revolution"}).requireNumber();
+    finish(forms::okAndCancel());
 }
 
 } // namespace recorder

@@ -1,22 +1,20 @@
 #pragma once
 
-#include "forms/dialog.h"
-#include "forms/text_field.h"
+#include "forms/dialog_of.h"
 
 namespace recorder {
 
 // "RPM": the pulses of the engine speed input per revolution.
-class frmRPM final : public forms::Dialog
+class frmRPM final : public forms::DialogOf<float>
 {
 public:
     frmRPM(float &pulsesPerRevolution, const forms::Context &context);
 
 protected:
-    void take() override { m_field.store(m_pulses); }
+    void set(float &pulses) override { m_pulses = pulses; }
 
 private:
     float &m_pulses;
-    forms::NumberField &m_field; // txtPulses
 };
 
 } // namespace recorder
