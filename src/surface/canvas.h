@@ -65,6 +65,7 @@ public:
 signals:
     void pressed(QPointF twips); // where a paste goes: on an empty place, or for a menu
     void dropped(const QString &key, QPointF twips);
+    void tracked(QPoint pixel); // a gesture is there
     void positionShown(const QString &text);
     void currentShown(const QString &text); // family, variable and place; empty when none is current
     void controlMenuRequested(const QPoint &globalPosition); // of the current control

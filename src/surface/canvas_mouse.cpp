@@ -155,9 +155,9 @@ void Canvas::mouseMoveEvent(QMouseEvent *event)
     if (m_gesture.kind() != Gesture::Kind::None && event->buttons() == Qt::NoButton)
         endGesture(); // a menu or another window took the release
     if (m_gesture.kind() == Gesture::Kind::None)
-        hover(event->position());
-    else
-        track(twips(event->position()));
+        return hover(event->position());
+    track(twips(event->position()));
+    emit tracked(event->position().toPoint());
 }
 
 void Canvas::hover(QPointF pixels)

@@ -17,6 +17,7 @@ CanvasView::CanvasView(Canvas &canvas) : m_canvas(canvas)
     setBackgroundRole(QPalette::Mid);
     setFocusProxy(&canvas);
     setAccessibleName(QStringLiteral("Design canvas, scrolled"));
+    connect(&canvas, &Canvas::tracked, this, [this](QPoint pixel) { reveal({pixel, QSize(1, 1)}); });
 }
 
 int CanvasView::zoom() const { return m_canvas.zoom().percent(); }

@@ -72,6 +72,21 @@ TEST(View, TheWheelZoomsAroundThePointer)
     EXPECT_FALSE(w.action("mnuZoomFit").isChecked());
 }
 
+TEST(View, AGestureThatLeavesTheViewScrollsIt)
+{
+    DesignWindow w;
+    const surface::CanvasView &view = w.design().view();
+    w.run("mnuZoom200");
+    const QPoint corner = w.canvas().mapFrom(view.viewport(), QPoint(0, 0));
+    const QPointF seen = w.canvas().zoom().toCanvas(QPointF(corner));
+    controls::BarGraph &bar = w.addBar(static_cast<int>(seen.x()) + 20, static_cast<int>(seen.y()) + 20);
+    const float before = bar.box().Left;
+    const QPoint press = w.canvas().zoom().shown(bar.outerRect()).center();
+    test::drag(w, press, {{20, 0}, {view.viewport()->width(), 0}});
+    EXPECT_GT(w.canvas().mapFrom(view.viewport(), QPoint(0, 0)).x(), corner.x());
+    EXPECT_GT(bar.box().Left, before);
+}
+
 TEST(View, AFitThatWasChosenBeforeTheFirstSizeIsMadeUpFor)
 {
     auto &canvas = *new surface::Canvas;
