@@ -9,6 +9,7 @@
 #include "variables/definition_file.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace layoutfile {
 
@@ -68,11 +69,37 @@ void tellDamagedImages(int count, platform::Prompts &prompts)
                     "without pictures is not saved."_s.arg(which));
 }
 
-void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress)
+// What is written beside the design, which stands whether or not it can be.
+class Written
+{
+public:
+    bool attempt(const std::function<void()> &write)
+    {
+        const auto reason = platform::failureOf(write);
+        if (reason && m_reason.isEmpty())
+            m_reason = *reason;
+        return !reason;
+    }
+    // Mostly all fails for the same reason: it is told once.
+    void tellFailure(platform::Prompts &prompts) const
+    {
+        if (!m_reason.isEmpty())
+            prompts.message(
+                platform::Icon::Warning, platform::ProductTitle,
+                u"The layout is loaded, but not everything that comes with it could be written.\n"_s +
+                    m_reason);
+    }
+
+private:
+    QString m_reason; // the first one
+};
+
+void buildControls(const Records &records, const LoadContext &context, platform::ProgressScope &progress,
+                   Written &written)
 {
     Loading load(records, context.folders, context.stamp, context.screen);
     const ObjectNames parts = claimedParts(records);
-    platform::reportFailures(context.prompts, [&] { load.keepCopies(parts); });
+    written.attempt([&] { load.keepCopies(parts); });
     tellDamagedImages(load.damagedImages(parts), context.prompts);
     const qsizetype total = controlCount(records);
     qsizetype done = 0;
@@ -110,18 +137,17 @@ Records readRecords(const QByteArray &file, const platform::Folders &folders,
     return records;
 }
 
-// The definition and message files follow the design, each for itself. The design stands even when they
-// cannot be written.
-void writeTables(const LoadContext &context)
+// The definition and message files follow the design, each for itself.
+void writeTables(const LoadContext &context, Written &written)
 {
     variables::Catalogue &catalogue = context.catalogue;
     if (!catalogue.definitionsLost) {
-        const bool written = platform::reportFailures(context.prompts, [&] {
+        const bool follows = written.attempt([&] {
             platform::updateFile(context.folders.variablesFile(), variables::saveDefinitions(catalogue));
         });
-        catalogue.hasUnwrittenEdits = catalogue.hasUnwrittenEdits || !written;
+        catalogue.hasUnwrittenEdits = catalogue.hasUnwrittenEdits || !follows;
     }
-    platform::reportFailures(context.prompts, [&] {
+    written.attempt([&] {
         platform::updateFile(context.folders.MessagesFile(),
                              recorder::writeMessageTable(context.settings.MessageTable));
     });
@@ -136,6 +162,7 @@ bool LoadVGL(const QString &path, const LoadContext &context)
         context.prompts.message(platform::Icon::Critical, platform::ProductTitle, u"Invalid File Format"_s);
         return false;
     }
+    Written written;
     {
         platform::ProgressScope progress(context.progress, u"Loading configuration....."_s);
         const Records records = readRecords(*file, context.folders, progress);
@@ -143,11 +170,12 @@ bool LoadVGL(const QString &path, const LoadContext &context)
         const recorder::VideoStandard stored = settingsFromRecords(records, context.settings);
         if (stored != before)
             context.surface.setVideoStandard(stored);
-        buildControls(records, context, progress);
+        buildControls(records, context, progress, written);
         foldVariables(records, context.catalogue, context.locale);
-        writeTables(context);
+        writeTables(context, written);
     }
     context.surface.refresh();
+    written.tellFailure(context.prompts);
     return true;
 }
 

@@ -26,8 +26,8 @@ struct LoadContext
 };
 
 // Loads a layout into the current design without clearing it: controls are added, recorder settings replaced.
-// A file that cannot be read or fails its CRC shows "Invalid File Format" and changes nothing (false). A
-// variable or message file that cannot be rewritten afterwards is reported; the design stands.
+// A file that cannot be read or fails its CRC shows "Invalid File Format" and changes nothing (false). A copy
+// of a picture, a variable or message file that cannot be written is reported; the design stands.
 bool LoadVGL(const QString &path, const LoadContext &context);
 
 // Writes the thumbnail of a layout to "Thumb.jpg" in the temporary folder and answers that path; empty when

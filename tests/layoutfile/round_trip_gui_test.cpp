@@ -312,6 +312,25 @@ TEST(Load, saysWhichPicturesALayoutDoesNotHold)
 }
 
 // With a good CRC every value reaches the design. It must stay one that can be looked at and saved.
+TEST(Load, standsWhereWhatComesWithItCannotBeWritten)
+{
+    DesignWindow d;
+    d.addBar(100, 200);
+    const QByteArray file = test::savedDesign(d);
+    DesignWindow other;
+    const platform::Folders &folders = other.world.state.folders;
+    for (const QString &path : {folders.variablesFile(), folders.MessagesFile()}) {
+        QFile::remove(path);
+        QDir().mkpath(path);
+    }
+    other.world.prompts.expectMessage("The layout is loaded, but not everything that comes with it could be "
+                                      "written.\n" +
+                                      folders.variablesFile() + ": not a regular file");
+    test::loadDesign(other, file);
+    EXPECT_EQ(other.design().controls().size(), 1);
+    EXPECT_TRUE(other.world.state.catalogue.hasUnwrittenEdits); // they are tried again
+}
+
 TEST(Load, extremeValuesLeaveADesignThatWorks)
 {
     constexpr float Nan = std::numeric_limits<float>::quiet_NaN();

@@ -19,7 +19,8 @@ TEST(Busy, PutsACloseOffAndLeavesTheWindowAsItWas)
     test::show(window);
     field.setFocus();
     {
-        platform::Busy busy(&window);
+        platform::Busy busy(&window, platform::Busy::Hourglass::WhenItLasts);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         busy.begin("Saving");
         EXPECT_FALSE(window.close());
         int step = 0;
@@ -33,11 +34,13 @@ TEST(Busy, PutsACloseOffAndLeavesTheWindowAsItWas)
             return progress ? progress->windowTitle() : QString();
         };
         EXPECT_EQ(shown(), "Saving");
+        EXPECT_NE(QApplication::overrideCursor(), nullptr);
         busy.begin("Making a font");
         EXPECT_EQ(shown(), "Making a font");
         busy.end();
         EXPECT_EQ(shown(), "Saving");
     }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(window.isEnabled());
     EXPECT_EQ(window.focusWidget(), &field);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }));

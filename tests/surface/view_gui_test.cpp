@@ -141,6 +141,7 @@ TEST(View, AControlSaysWhatItIsWhereItIsAndWhatItShows)
     EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), w.text("lblCurrent"));
     test::press(w, Qt::Key_Delete);
     EXPECT_EQ(w.text("lblCurrent"), "");
+    QTRY_COMPARE(w.window.findChild<QWidget *>("lblCurrent")->accessibleName(), QString()); // and is painted
 }
 
 } // namespace
