@@ -1,6 +1,7 @@
 #include "surface/library_icons.h"
 
 #include "controls/factories.h"
+#include "controls/still_host.h"
 #include "graphics/picture_loader.h"
 #include "platform/guards.h"
 #include "surface/overlay_picture.h"
@@ -22,8 +23,8 @@ constexpr int LargestControl = 146; // in it: the rest is margin
 constexpr QSize LargestShown = recorder::canvasSize(recorder::VideoStandard::Pal);
 const QColor Plate(0x2f, 0x3b, 0x4a);
 
-// What the host tells a control counts, what the control tells the host does not: it stands nowhere.
-class Nowhere final : public controls::ControlHost
+// Answers what another host answers.
+class Nowhere final : public controls::StillHost
 {
 public:
     explicit Nowhere(ControlHost &host) : m_host(host) {}
@@ -44,14 +45,6 @@ public:
     {
         return m_host.outlineFont(face, style);
     }
-    void Reposition(OverlayControl &, QPointF) override {}
-    void restack(OverlayControl &, bool) override {}
-    void Copy(OverlayControl &, const QStringList &) override {}
-    void Cut(OverlayControl &, const QStringList &) override {}
-    void Delete(OverlayControl &) override {}
-    void showProperties(OverlayControl &) override {}
-    void UserControlChanged() override {}
-    void redrawControl(const OverlayControl &, const QRect &) override {}
 
 private:
     ControlHost &m_host;

@@ -3,6 +3,7 @@
 #include "controls/custom_dial/custom_dial.h"
 #include "controls/factories.h"
 #include "controls/overlay_control.h"
+#include "controls/still_host.h"
 #include "graphics/dial_scale.h"
 #include "layoutfile/family_records.h"
 #include "platform/guards.h"
@@ -21,7 +22,7 @@ constexpr int LargestFace = 64; // a dial is drawn as a whole
 constexpr std::size_t MostTics = 8;
 
 // A canvas that has nothing to show.
-class Host final : public controls::ControlHost
+class Host final : public controls::StillHost
 {
 public:
     const platform::Screen &screen() const override { return m_screen; }
@@ -39,15 +40,6 @@ public:
     {
         return m_outlines;
     }
-
-    void Reposition(OverlayControl &, QPointF) override {}
-    void restack(OverlayControl &, bool) override {}
-    void Copy(OverlayControl &, const QStringList &) override {}
-    void Cut(OverlayControl &, const QStringList &) override {}
-    void Delete(OverlayControl &) override {}
-    void showProperties(OverlayControl &) override {}
-    void UserControlChanged() override {}
-    void redrawControl(const OverlayControl &, const QRect &) override {}
 
 private:
     static std::shared_ptr<const graphics::TextFont> blockFont()
