@@ -22,8 +22,8 @@ variables::Catalogue someCatalogue()
 {
     variables::Catalogue catalogue;
     catalogue.units = {{},
-                       {"km/h", "", "a$1$0", ""},
-                       {"double", "", "a$2$0", ""},
+                       {"km/h", "", "a$1$0", "km/h"},
+                       {"double", "", "a$2$0", "twice"},
                        {"broken", "", "x+", ""},
                        {"forbidden", "", "x/2", ""}};
     for (const int index : {2, 3, 4, 5, 10, 22, 6001, 6002, 6003, 6004, 6005}) {

@@ -128,20 +128,35 @@ TEST(View, SafeAreasLieOverTheDesignAndStayForTheNextStart)
     EXPECT_EQ(w.shown(edges[1]), test::PalGround);
 }
 
+TEST(View, ABackgroundOfAnotherSizeStandsAtTheTopLeft)
+{
+    constexpr QSize Canvas(720, 576);
+    const std::pair<QSize, QColor> cases[] = {{Canvas, Qt::red}, {{900, 700}, Qt::red}, {{9, 7}, Qt::black}};
+    for (const auto &[size, last] : cases) {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        const QImage ground = surface::groundOf(Canvas, picture);
+        EXPECT_EQ(ground.size(), Canvas);
+        EXPECT_EQ(ground.pixelColor(0, 0), QColor(Qt::red));
+        EXPECT_EQ(ground.pixelColor(719, 575), last);
+    }
+}
+
 TEST(View, AControlSaysWhatItIsWhereItIsAndWhatItShows)
 {
     DesignWindow w;
     controls::BarGraph &bar = w.addBar(100, 200);
     w.world.state.catalogue.live[5].DisplayName = "<b>Speed</b> [km/h]"; // no tag
     bar.bindVariable(5);
-    test::press(w, Qt::Key_Right);
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Right})
+        test::press(w, key);
     EXPECT_EQ(w.text("lblCurrent"), "Bar Graph, <b>Speed</b> [km/h], at 101, 200");
+    QTRY_COMPARE(w.window.findChild<QWidget *>("lblCurrent")->accessibleName(), w.text("lblCurrent"));
     QHelpEvent help(QEvent::ToolTip, {110, 210}, w.canvas().mapToGlobal(QPoint(110, 210)));
     QApplication::sendEvent(&w.canvas(), &help);
     EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), w.text("lblCurrent"));
     test::press(w, Qt::Key_Delete);
     EXPECT_EQ(w.text("lblCurrent"), "");
-    QTRY_COMPARE(w.window.findChild<QWidget *>("lblCurrent")->accessibleName(), QString()); // and is painted
 }
 
 } // namespace
