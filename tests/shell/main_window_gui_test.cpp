@@ -191,4 +191,13 @@ TEST_F(MainWindow, ShowsTheHelpThatIsInstalled)
     EXPECT_FALSE(w.action("mnuOnlineHelp").isEnabled());
 }
 
+TEST(LiveLabel, showsTheFirstAndTheLastOfManyTexts)
+{
+    shell::LiveLabel label;
+    for (const char *text : {"1, 1", "2, 1", "3, 1"})
+        label.setText(text);
+    EXPECT_EQ(label.accessibleName(), "1, 1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return label.accessibleName() == "3, 1"; }));
+}
+
 } // namespace
