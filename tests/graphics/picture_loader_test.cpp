@@ -118,4 +118,15 @@ TEST(PictureLoader, readsFilesAndNothingElse)
     EXPECT_EQ(graphics::loadPicture(file.fileName()).fault, PictureFault::TooLarge);
 }
 
+// It would give texts that are drawn upon the picture another size.
+TEST(PictureLoader, aFilesResolutionMeansNothing)
+{
+    QImage picture(2, 2, QImage::Format_RGB32);
+    const int usual = picture.dotsPerMeterX();
+    picture.setDotsPerMeterX(1);
+    picture.setDotsPerMeterY(1);
+    const QImage read = graphics::readPicture(graphics::bmpOf(picture)).picture;
+    EXPECT_EQ(QPoint(read.dotsPerMeterX(), read.dotsPerMeterY()), QPoint(usual, usual));
+}
+
 } // namespace
