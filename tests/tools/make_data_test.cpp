@@ -92,6 +92,8 @@ TEST(IconFile, isReadAsItWasDrawn)
         drawn.last().setPixel(1, size - 1, qRgba(1, 2, 3, 255));
     }
     QByteArray bytes = make_data::iconFile(drawn);
+    constexpr int FirstHeight = 6 + 2 * 16 + 8; // of the first bitmap: its own and its mask's
+    EXPECT_EQ(bytes.mid(FirstHeight, 4), QByteArray("\x20\0\0\0", 4));
     QBuffer file(&bytes);
     QImageReader reader(&file, "ico");
     EXPECT_EQ(reader.imageCount(), 2);
