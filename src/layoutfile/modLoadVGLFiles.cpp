@@ -83,11 +83,12 @@ public:
     // Mostly all fails for the same reason: it is told once.
     void tellFailure(platform::Prompts &prompts) const
     {
-        if (!m_reason.isEmpty())
+        if (!m_reason.isEmpty()) {
             prompts.message(
                 platform::Icon::Warning, platform::ProductTitle,
                 u"The layout is loaded, but not everything that comes with it could be written.\n"_s +
                     m_reason);
+        }
     }
 
 private:
