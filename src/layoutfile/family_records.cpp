@@ -20,7 +20,7 @@ const FamilyRecord &recordOf(ControlType family)
     return *std::ranges::find(familyRecords(), family, &FamilyRecord::family); // every family has its row
 }
 
-int progressSteps(RecordType type)
+int progressStepsOf(RecordType type)
 {
     const auto rows = familyRecords();
     const auto found = std::ranges::find(rows, type, &FamilyRecord::type);

@@ -39,7 +39,7 @@ struct FamilyRecord
 // In the order in which a load builds them.
 std::span<const FamilyRecord> familyRecords();
 const FamilyRecord &recordOf(controls::ControlType family);
-int progressSteps(RecordType type); // 0 for what is no control's own record
+int progressStepsOf(RecordType type); // 0 for what is no control's own record
 
 FamilyRecord textTagRecord();
 FamilyRecord digitalDisplayRecord();

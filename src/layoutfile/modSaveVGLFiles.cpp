@@ -66,7 +66,7 @@ void writeControls(LayoutWriter &file, const RecordGroups &groups, int total, Pr
 {
     int done = 0;
     file.put(groups, RecordType::Gauge, [&](const LayoutRecord &record) {
-        done = std::min(done + layoutfile::progressSteps(record.type()), total);
+        done = std::min(done + progressStepsOf(record.type()), total);
         progress.advance(25, 25, done, total);
     });
 }

@@ -41,7 +41,9 @@ void LiveLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect room = contentsRect();
-    painter.drawText(room, Qt::AlignVCenter, fontMetrics().elidedText(m_text, Qt::ElideRight, room.width()));
+    // And not the text: one that was not its turn yet would stay if the one before it came back.
+    const QString shown = fontMetrics().elidedText(accessibleName(), Qt::ElideRight, room.width());
+    painter.drawText(room, Qt::AlignVCenter, shown);
 }
 
 } // namespace shell

@@ -85,25 +85,18 @@ TEST_F(Shipped, catalogueLoadsBackAsItWasBuilt)
 
 TEST(IconFile, isReadAsItWasDrawn)
 {
-    QList<QImage> drawn;
-    for (const int size : {16, 24}) {
-        drawn.append(QImage(size, size, QImage::Format_ARGB32));
-        drawn.last().fill(QColor(255, 0, 255, 128));
-        drawn.last().setPixel(1, size - 1, qRgba(1, 2, 3, 255));
-    }
-    QByteArray bytes = make_data::iconFile(drawn);
+    QImage small(16, 16, QImage::Format_ARGB32), large(24, 24, QImage::Format_ARGB32);
+    small.fill(Qt::green);
+    large.fill(QColor(255, 0, 255, 128));
+    large.setPixel(1, 23, qRgb(1, 2, 3));
+    QByteArray bytes = make_data::iconFile({small, large});
     constexpr int FirstHeight = 6 + 2 * 16 + 8; // of the first bitmap: its own and its mask's
     EXPECT_EQ(bytes.mid(FirstHeight, 4), QByteArray("\x20\0\0\0", 4));
     QBuffer file(&bytes);
     QImageReader reader(&file, "ico");
-    EXPECT_EQ(reader.imageCount(), 2);
-    for (int i = 0; i < drawn.size(); ++i) {
-        EXPECT_TRUE(reader.jumpToImage(i));
-        const QImage read = reader.read();
-        EXPECT_EQ(read.size(), drawn[i].size());
-        for (const QPoint at : {QPoint(0, 0), QPoint(1, drawn[i].height() - 1)})
-            EXPECT_EQ(read.pixelColor(at), drawn[i].pixelColor(at)) << at.y();
-    }
+    EXPECT_EQ(reader.read().convertToFormat(small.format()), small);
+    EXPECT_TRUE(reader.jumpToImage(1));
+    EXPECT_EQ(reader.read().convertToFormat(large.format()), large);
 }
 
 TEST_F(Shipped, messagesCarryTheirRates)
